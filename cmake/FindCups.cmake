@@ -1,0 +1,15 @@
+# libcups, which brings no pkg-config file in Debian 12. Defines Cups::Cups.
+# Only model/ and dialog/printers/ link it. ppd.h marks every call deprecated; the empty macro keeps
+# the one interface that reads PPD files usable without a warning on each line.
+find_path(CUPS_INCLUDE_DIR cups/ppd.h)
+find_library(CUPS_LIBRARY cups)
+include(FindPackageHandleStandardArgs)
+find_package_handle_standard_args(Cups REQUIRED_VARS CUPS_LIBRARY CUPS_INCLUDE_DIR)
+if(CUPS_FOUND AND NOT TARGET Cups::Cups)
+    add_library(Cups::Cups UNKNOWN IMPORTED)
+    set_target_properties(Cups::Cups PROPERTIES
+        IMPORTED_LOCATION "${CUPS_LIBRARY}"
+        INTERFACE_INCLUDE_DIRECTORIES "${CUPS_INCLUDE_DIR}"
+        INTERFACE_COMPILE_DEFINITIONS "_PPD_DEPRECATED=")
+endif()
+set(Cups_FOUND ${CUPS_FOUND})
