@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QVariant>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+
+#include <sys/socket.h>
+
+/// The debug log: process-wide, silent until a debug property list in the user's temporary directory
+/// switches it on. Called from the main thread only.
+
+// Process-wide state; everything starts at zero or null.
+extern bool logDoneSetup;
+extern std::int32_t logCurrentPID;
+/// Bit set of LogLevel; 0 is silent.
+extern std::int32_t logDebugLevel;
+/// The module letter: the list's module number plus 64 (1 gives 'A').
+extern std::int32_t logModuleID;
+extern std::FILE *logDebugFilePtr;
+/// Descriptor of a debug viewer's socket; below 2 there is none and records go to the file.
+extern std::int32_t logClientFD;
+/// Destination of datagrams; family 0 stands for a connected socket.
+extern sockaddr logSocketFile;
+extern std::uint32_t logSocketFileSize;
+/// Stream of the separate trace writer.
+extern std::FILE *gFileStream;
+
+namespace diag {
+
+enum LogLevel : std::int32_t { kInfoLevel = 1, kErrorLevel = 2, kDumpLevel = 4 };
+
+/// True when info records are written; sets the log up at the first call of the process.
+[[nodiscard]] bool isInfoEnabled();
+
+/// Closes the log and forgets everything, as in a new process. For tests.
+void resetDebugLog();
+
+} // namespace diag
+
+/// Reads the debug list and opens the log; runs once per process.
+void setupDebug();
+
+// A record of kind I, E or D, when its level is on. The format is printf's; messages have any length.
+void LogInfoBody(const char *operation, int line, const char *format, ...)
+    __attribute__((format(printf, 3, 4)));
+void LogErrorBody(const char *operation, int line, const char *format, ...)
+    __attribute__((format(printf, 3, 4)));
+void dumpBytesBody(const char *operation, int line, const char *label, const void *bytes,
+                   std::size_t count);
+void dumpDataBody(const char *operation, int line, const char *label, const QByteArray &data);
+void dumpDictBody(const char *operation, int line, const char *label, const QVariant &list);
+
+/// Reports whether a file exists and can be read.
+void LogFileAccessBody(const char *operation, int line, const char *path);
+
+/// A record of kind N, without any level test.
+void logNote(const char *format, ...) __attribute__((format(printf, 1, 2)));
+
+/// Writes the end records and closes socket and file. Level and once-flag stay as they are.
+void closeDebugSession();
+
+/// Builds a record and sends it.
+void LogFormatAndSend(const char *operation, int line, char kind, const char *message);
+void sendToDebugApp(const char *buffer, std::size_t length);
+
+/// Opens the separate trace writer's stream for appending; standard error without a path or when it
+/// cannot be opened.
+void traceOpenLog(const char *path);
+/// One line of the separate trace writer. @p ignored has no effect.
+void TraceLogBody(const char *prefix1, const char *prefix2, const char *source, int ignored, int line,
+                  const char *path, const char *format, ...) __attribute__((format(printf, 7, 8)));

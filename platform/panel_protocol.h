@@ -1,0 +1,115 @@
+#pragma once
+
+#include "platform/bundle.h"
+#include "platform/export.h"
+#include "platform/print_objects.h"
+
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+#include <QtPlugin>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+/// The protocol between a print dialog and a panel extension: pure virtual classes, one interface id.
+/// Every call comes on the main thread.
+
+typedef struct ppd_file_s ppd_file_t; // libcups' PPD record, opened and closed by the dialog
+
+/// The host callback object: the dialog, as the panels see it. Outlives the panels.
+class PLATFORM_EXPORT PDEPlugInCallback
+{
+public:
+    virtual ~PDEPlugInCallback();
+
+    /// The job's objects, borrowed; null where there is none.
+    [[nodiscard]] virtual ppd_file_t *ppdFile() = 0;
+    [[nodiscard]] virtual PMPrintSettings printSettings() = 0;
+    [[nodiscard]] virtual PMPageFormat pageFormat() = 0;
+    [[nodiscard]] virtual PMPrintSession printSession() = 0;
+
+    /// The panel's view has a new size.
+    virtual void panelViewDidResize() = 0;
+
+    /// Offers a choice. The dialog answers true after marking it; false, with nothing marked, for a
+    /// null choice, an option or choice that the PPD does not have, or one that the PPD's
+    /// constraints forbid.
+    virtual bool willChangePPDOptionKeyValue(const QString &option, const QString &choice) = 0;
+};
+
+/// Entries of a panel in the dialog's summary: title and text, in order, titles unique.
+using SummaryInfo = std::vector<std::pair<QString, QString>>;
+
+/// What a panel tells about itself for replay, support and tests. Optional, read-only.
+class PLATFORM_EXPORT PDEPanelDiagnostics
+{
+public:
+    virtual ~PDEPanelDiagnostics();
+
+    /// One entry per setting, named as the value getter: {"option": bool, "value": text or null,
+    /// "ticket": text or null}; "dryTime" has "popUpOption" and "checkBoxOption" instead of "option".
+    [[nodiscard]] virtual QJsonObject model() = 0;
+    /// Frame records of the panel's views: {"ibPDEView": [x, y, width, height], ...}.
+    [[nodiscard]] virtual QJsonObject frames() = 0;
+};
+
+/// One panel. The dialog may keep it by shared ownership; it must be gone before the PPD is closed.
+class PLATFORM_EXPORT PDEPanel
+{
+public:
+    virtual ~PDEPanel();
+
+    /// The panel's view, built at the first call; null when it cannot be built. The dialog may give
+    /// it a parent and may destroy it before the panel.
+    [[nodiscard]] virtual QWidget *panelView() = 0;
+    [[nodiscard]] virtual QString panelName() = 0;
+    [[nodiscard]] virtual QString panelKind() = 0;
+    /// False when the panel has opened a help book of its own, true when the dialog is to show its.
+    [[nodiscard]] virtual bool shouldShowHelp() = 0;
+    [[nodiscard]] virtual QStringList supportedPPDOptionKeys() = 0;
+    virtual void willShow() = 0;
+    virtual bool shouldHide() = 0;
+    /// Take over what the PPD has marked, and hand over what was chosen. Both always answer true and
+    /// never write @p error, which may be null.
+    virtual bool restoreValuesAndReturnError(QString *error) = 0;
+    virtual bool saveValuesAndReturnError(QString *error) = 0;
+    [[nodiscard]] virtual SummaryInfo summaryInfo() = 0;
+    /// Another panel, or the dialog, changed an option of the PPD.
+    virtual void PPDOptionKeyValueDidChange(const QString &option, const QString &choice) = 0;
+
+    /// Null when the panel offers none. Lives as long as the panel.
+    [[nodiscard]] virtual PDEPanelDiagnostics *diagnostics() { return nullptr; }
+};
+
+using PDEPanelList = std::vector<std::shared_ptr<PDEPanel>>;
+
+/// Panel type of the Print dialog, as opposed to Page Setup.
+inline constexpr QStringView kPDEPrintDialogType = u"BDB091F4-E57F-11D3-B5CC-0050E4603277";
+
+/// The principal class of a plug-in: asked for panels by the dialog.
+class PLATFORM_EXPORT PDEPlugIn
+{
+public:
+    virtual ~PDEPlugIn();
+
+    /// @p bundle is borrowed and may be null.
+    virtual bool initWithBundle(Bundle *bundle) = 0;
+    /// The panels for that type, in the order in which the dialog lists them; null when there are
+    /// none. The list is shared: a later call leaves it alive while the dialog holds it.
+    [[nodiscard]] virtual std::shared_ptr<PDEPanelList>
+    PDEPanelsForType(const QString &type, PDEPlugInCallback *host) = 0;
+};
+
+/// Root object of the loadable module, one per process: makes a principal object for each dialog.
+class PLATFORM_EXPORT PDEPlugInModule
+{
+public:
+    virtual ~PDEPlugInModule();
+    [[nodiscard]] virtual std::unique_ptr<PDEPlugIn> createPlugIn() = 0;
+};
+
+#define PDEPlugInModule_iid "com.korvane.print.PDEPlugInModule/1"
+Q_DECLARE_INTERFACE(PDEPlugInModule, PDEPlugInModule_iid)

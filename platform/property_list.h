@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/export.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QVariant>
+
+/// Property lists, XML and binary. They come from other programs and are not trusted: a file that is
+/// damaged, too large, too deep, or no regular file reads as missing, without blocking.
+///
+/// A value is a QVariant of one of these types: bool, qlonglong (qulonglong above its range), double,
+/// QString, QByteArray, QDateTime, QVariantList, QVariantMap. An invalid QVariant is "missing".
+namespace platform {
+
+namespace property_list_limits {
+inline constexpr qint64 bytes = 1024 * 1024; ///< size of a file
+inline constexpr int depth = 64;             ///< nested levels
+inline constexpr int values = 20'000;        ///< values after expansion of shared ones
+} // namespace property_list_limits
+
+/// Reads a file at a real path (see platform::resolved()). Opens without blocking, accepts regular
+/// files only. A null path is missing.
+[[nodiscard]] PLATFORM_EXPORT QVariant readPropertyList(const QString &realPath);
+
+/// The same, from bytes.
+[[nodiscard]] PLATFORM_EXPORT QVariant parsePropertyList(const QByteArray &bytes);
+
+/// The list as an XML document, keys in sorted order; null when a value has another type than above.
+[[nodiscard]] PLATFORM_EXPORT QByteArray propertyListXml(const QVariant &list);
+
+/// The value under @p key when @p dictionary is a dictionary that has it, else missing.
+[[nodiscard]] PLATFORM_EXPORT QVariant valueForKey(const QVariant &dictionary, const QString &key);
+
+} // namespace platform
