@@ -2,16 +2,18 @@
 
 #include <QVariant>
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <functional>
 
 #include <sys/socket.h>
 
-/// The debug log: process-wide, silent until a debug property list in the user's temporary directory
-/// switches it on. Called from the main thread only.
+/// The debug log: process-wide, silent until a debug property list in the user's temporary
+/// directory switches it on. Called from the main thread only.
 
-// Process-wide state; everything starts at zero or null.
+// Process-wide state; it starts at zero or null unless it says otherwise.
 extern bool logDoneSetup;
 extern std::int32_t logCurrentPID;
 /// Bit set of LogLevel; 0 is silent.
@@ -23,6 +25,7 @@ extern std::FILE *logDebugFilePtr;
 extern std::int32_t logClientFD;
 /// Destination of datagrams; family 0 stands for a connected socket.
 extern sockaddr logSocketFile;
+/// Length of that address, 16 from the start.
 extern std::uint32_t logSocketFileSize;
 /// Stream of the separate trace writer.
 extern std::FILE *gFileStream;
@@ -31,10 +34,21 @@ namespace diag {
 
 enum LogLevel : std::int32_t { kInfoLevel = 1, kErrorLevel = 2, kDumpLevel = 4 };
 
-/// True when info records are written; sets the log up at the first call of the process.
-[[nodiscard]] bool isInfoEnabled();
+/// True when info records are written; sets the log up at the first call of the process. Two tests
+/// when the log is off.
+[[nodiscard]] inline bool isInfoEnabled();
+/// True when records go to a debug viewer's socket instead of the file.
+[[nodiscard]] bool isSocketMode();
 
-/// Closes the log and forgets everything, as in a new process. For tests.
+/// Replaces how set-up waits between two looks at the debug list; empty restores the real wait.
+using PollSleep = std::function<void(std::chrono::microseconds)>;
+void setPollSleep(PollSleep sleep);
+
+/// Closes the separate trace writer's stream; the next line opens it again.
+void closeTraceStream();
+
+/// Closes both files and forgets everything, as in a new process. A socket stays open: it belongs
+/// to whoever connected it. For tests.
 void resetDebugLog();
 
 } // namespace diag
@@ -42,7 +56,15 @@ void resetDebugLog();
 /// Reads the debug list and opens the log; runs once per process.
 void setupDebug();
 
-// A record of kind I, E or D, when its level is on. The format is printf's; messages have any length.
+inline bool diag::isInfoEnabled()
+{
+    if (!logDoneSetup) [[unlikely]]
+        setupDebug();
+    return (logDebugLevel & kInfoLevel) != 0;
+}
+
+// A record of kind I, E or D, when its level is on. The format is printf's; messages have any
+// length.
 void LogInfoBody(const char *operation, int line, const char *format, ...)
     __attribute__((format(printf, 3, 4)));
 void LogErrorBody(const char *operation, int line, const char *format, ...)
@@ -69,5 +91,6 @@ void sendToDebugApp(const char *buffer, std::size_t length);
 /// cannot be opened.
 void traceOpenLog(const char *path);
 /// One line of the separate trace writer. @p ignored has no effect.
-void TraceLogBody(const char *prefix1, const char *prefix2, const char *source, int ignored, int line,
-                  const char *path, const char *format, ...) __attribute__((format(printf, 7, 8)));
+void TraceLogBody(const char *prefix1, const char *prefix2, const char *source, int ignored,
+                  int line, const char *path, const char *format, ...)
+    __attribute__((format(printf, 7, 8)));
