@@ -13,7 +13,9 @@
 /// The debug log: process-wide, silent until a debug property list in the user's temporary
 /// directory switches it on. Called from the main thread only.
 
-// Process-wide state; it starts at zero or null unless it says otherwise.
+// Process-wide state; it starts at zero or null unless it says otherwise. It belongs to the program
+// or loadable module that the log is linked into.
+#pragma GCC visibility push(hidden)
 extern bool logDoneSetup;
 extern std::int32_t logCurrentPID;
 /// Bit set of LogLevel; 0 is silent.
@@ -29,6 +31,7 @@ extern sockaddr logSocketFile;
 extern std::uint32_t logSocketFileSize;
 /// Stream of the separate trace writer.
 extern std::FILE *gFileStream;
+#pragma GCC visibility pop
 
 namespace diag {
 

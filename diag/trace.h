@@ -2,6 +2,8 @@
 
 #include "diag/debug_log.h"
 
+#include <optional>
+
 namespace diag {
 
 /// The name under which an operation traces: a whole selector "-[MainPDE2 willShow]", or class name
@@ -9,7 +11,6 @@ namespace diag {
 /// together only when a line is written. The texts are borrowed for the life of the trace.
 struct Selector
 {
-    constexpr Selector() = default;
     constexpr Selector(const char *wholeSelector) : operation(wholeSelector) {}
     constexpr Selector(const char *nameOfClass, const char *nameOfOperation)
         : className(nameOfClass), operation(nameOfOperation)
@@ -17,9 +18,10 @@ struct Selector
     }
 
     const char *className = nullptr; ///< null when operation is the whole selector
-    const char *operation = nullptr;
+    const char *operation;
 };
 
+/// Writes the record of @p brace under that name.
 void writeTrace(Selector selector, int line, const char *brace);
 
 /// Writes "{" when an operation begins and "}" on every way out of it.
@@ -30,18 +32,18 @@ public:
     TraceScope() = default;
     TraceScope(Selector selector, int line) : selector_(selector), line_(line)
     {
-        writeTrace(selector_, line_, "{");
+        writeTrace(selector, line, "{");
     }
     ~TraceScope()
     {
-        if (selector_.operation)
-            writeTrace(selector_, line_, "}");
+        if (selector_)
+            writeTrace(*selector_, line_, "}");
     }
     TraceScope(const TraceScope &) = delete;
     TraceScope &operator=(const TraceScope &) = delete;
 
 private:
-    const Selector selector_;
+    const std::optional<Selector> selector_;
     const int line_ = 0;
 };
 
