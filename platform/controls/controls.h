@@ -11,9 +11,9 @@ class QLineEdit;
 class QWidget;
 
 /// Reads and writes controls the way the panels do: texts are literal (no "&" mnemonics, no rich
-/// text), and a missing control (a null pointer: view not loaded, or destroyed by the host) reads as
-/// index -1, null title, state 0, integer 0, disabled, while writes to it do nothing.
-/// No function here counts as a person's input: none makes an action fire.
+/// text), and a missing control (a null pointer: view not loaded, or destroyed by the host) reads
+/// as index -1, null title, state 0, integer 0, disabled, while writes to it do nothing. No
+/// function here counts as a person's input: none makes an action fire.
 namespace controls {
 
 // Pop-ups. Items carry the choice keyword in Qt::UserRole.

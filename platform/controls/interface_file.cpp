@@ -1,1 +1,217 @@
-// placeholder
+#include "platform/controls/interface_file.h"
+
+#include "platform/controls/frame_view.h"
+#include "platform/controls/pop_up_button.h"
+#include "platform/controls/radio_matrix.h"
+#include "platform/controls/stepper.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QUiLoader>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+#include <memory>
+
+namespace platform {
+namespace {
+
+constexpr qint64 largestFile = 1 << 20;
+
+using WidgetMaker = QWidget *(*)(QWidget *parent);
+
+template <class Control>
+QWidget *make(QWidget *parent)
+{
+    return new Control(parent);
+}
+
+struct CustomClass
+{
+    const QMetaObject *type;
+    WidgetMaker make;
+};
+
+const CustomClass customClasses[] = {
+    {&PopUpButton::staticMetaObject, make<PopUpButton>},
+    {&Stepper::staticMetaObject, make<Stepper>},
+    {&RadioMatrix::staticMetaObject, make<RadioMatrix>},
+    {&FrameView::staticMetaObject, make<FrameView>},
+};
+
+WidgetMaker makerOf(const QString &className)
+{
+    for (const CustomClass &known : customClasses)
+        if (className == QLatin1String(known.type->className()))
+            return known.make;
+    return nullptr;
+}
+
+/// While it lives, Qt looks for plug-ins nowhere: a QUiLoader loads every library that it finds in
+/// a "designer" folder as soon as it is constructed.
+class NoLibraryPaths
+{
+public:
+    NoLibraryPaths() { QCoreApplication::setLibraryPaths({}); }
+    ~NoLibraryPaths() { QCoreApplication::setLibraryPaths(paths_); }
+    Q_DISABLE_COPY_MOVE(NoLibraryPaths)
+
+private:
+    const QStringList paths_ = QCoreApplication::libraryPaths();
+};
+
+/// Creates standard widgets and our own; takes notice of any other, which QUiLoader itself would
+/// silently replace by its base class.
+class Loader : public QUiLoader
+{
+public:
+    Loader() { setTranslationEnabled(false); }
+
+    QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
+    {
+        if (const WidgetMaker maker = makerOf(className)) {
+            QWidget *widget = maker(parent);
+            widget->setObjectName(name);
+            return widget;
+        }
+        if (availableWidgets().contains(className))
+            return QUiLoader::createWidget(className, parent, name);
+        qCritical("interface file: %s is of the unknown class %s", qUtf8Printable(name),
+                  qUtf8Printable(className));
+        foundUnknownClass_ = true;
+        return nullptr;
+    }
+
+    [[nodiscard]] bool foundUnknownClass() const { return foundUnknownClass_; }
+
+private:
+    bool foundUnknownClass_ = false;
+};
+
+/// The contents of an interface file; null when there is no such file or it is no plain file of a
+/// sane size.
+QByteArray contentsOf(const QString &path)
+{
+    const QFileInfo info(path);
+    QFile file(path);
+    if (path.isNull() || !info.isFile() || info.size() > largestFile ||
+        !file.open(QIODevice::ReadOnly))
+        return {};
+    return file.readAll();
+}
+
+/// Copies one <string>, translated unless it is marked otherwise.
+void copyString(QXmlStreamReader &from, QXmlStreamWriter &to, const Bundle *bundle)
+{
+    const bool translatable =
+        from.attributes().value(QLatin1String("notr")) != QLatin1String("true");
+    to.writeCurrentToken(from);
+    const QString text = from.readElementText();
+    to.writeCharacters(translatable && !text.isEmpty() ? bundle->localizedString(text) : text);
+    to.writeEndElement();
+}
+
+/// The same interface with its translatable texts in the bundle's language; null if malformed.
+QByteArray localized(const QByteArray &contents, const Bundle *bundle)
+{
+    QByteArray result;
+    QXmlStreamReader from(contents);
+    QXmlStreamWriter to(&result);
+    while (!from.atEnd()) {
+        from.readNext();
+        if (from.isStartElement() && from.name() == QLatin1String("string"))
+            copyString(from, to, bundle);
+        else if (from.tokenType() != QXmlStreamReader::Invalid)
+            to.writeCurrentToken(from);
+    }
+    return from.hasError() ? QByteArray() : result;
+}
+
+std::unique_ptr<QWidget> loadWidget(const Bundle *bundle, const QString &path)
+{
+    const QByteArray contents = contentsOf(path);
+    if (contents.isNull())
+        return nullptr;
+    QByteArray interface = localized(contents, bundle);
+    QBuffer device(&interface);
+    device.open(QIODevice::ReadOnly);
+    const NoLibraryPaths noForeignLibraries;
+    Loader loader;
+    std::unique_ptr<QWidget> widget(interface.isNull() ? nullptr : loader.load(&device));
+    if (!widget)
+        qWarning("interface file %s is damaged", qUtf8Printable(path));
+    return loader.foundUnknownClass() ? nullptr : std::move(widget);
+}
+
+/// Paths of the files that make up an interface file; a null path stands for a missing one.
+QStringList filesOf(const Bundle *bundle, const QString &name)
+{
+    const QDir windows(bundle->path() + QLatin1String("/Contents/Resources/") + name);
+    const QStringList entries =
+        windows.entryList({QStringLiteral("*.ui")}, QDir::Files, QDir::Name);
+    if (!windows.exists() || entries.isEmpty())
+        return {bundle->resourcePath(name + QLatin1String(".ui"))};
+    QStringList paths;
+    for (const QString &entry : entries)
+        paths.append(bundle->resourcePath(name + QLatin1Char('/') + entry));
+    return paths;
+}
+
+using Windows = std::vector<std::unique_ptr<QWidget>>;
+
+/// All windows of the interface file, or none.
+Windows loadWindows(const Bundle *bundle, const QString &name)
+{
+    Windows windows;
+    for (const QString &path : filesOf(bundle, name)) {
+        windows.push_back(loadWidget(bundle, path));
+        if (!windows.back())
+            return {};
+    }
+    return windows;
+}
+
+QWidgetList widgetsNamed(const QString &name, const Windows &windows)
+{
+    QWidgetList found;
+    for (const auto &window : windows) {
+        if (window->objectName() == name)
+            found.append(window.get());
+        found.append(window->findChildren<QWidget *>(name));
+    }
+    return found;
+}
+
+void connectOutlet(const OutletTable::Entry &outlet, const Windows &windows)
+{
+    const QWidgetList candidates = widgetsNamed(outlet.name, windows);
+    for (QWidget *widget : candidates)
+        if (widget->metaObject()->inherits(outlet.type))
+            return outlet.connect(widget);
+    qCritical("interface file: outlet %s: %s %s", qUtf8Printable(outlet.name),
+              candidates.isEmpty() ? "no widget of this name, wanted a" : "its widget is not a",
+              outlet.type->className());
+}
+
+} // namespace
+
+std::vector<QWidget *> loadInterfaceFile(const Bundle *bundle, const QString &name,
+                                         const OutletTable &outlets)
+{
+    if (!bundle)
+        return {};
+    Windows windows = loadWindows(bundle, name);
+    if (windows.empty())
+        return {};
+    for (const OutletTable::Entry &outlet : outlets.entries())
+        connectOutlet(outlet, windows);
+    std::vector<QWidget *> topLevels;
+    for (auto &window : windows)
+        topLevels.push_back(window.release());
+    return topLevels;
+}
+
+} // namespace platform

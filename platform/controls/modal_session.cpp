@@ -1,1 +1,223 @@
-// placeholder
+#include "platform/controls/modal_session.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace platform {
+namespace {
+
+/// One call of runModalForWindow().
+class Session
+{
+public:
+    explicit Session(QDialog *window) : window_(window)
+    {
+        QObject::connect(window, &QObject::destroyed, &loop_, [this] { stop(); });
+    }
+
+    void run()
+    {
+        // A loop that starts forgets an earlier request to quit.
+        if (!stopped_)
+            loop_.exec();
+    }
+
+    void stop()
+    {
+        stopped_ = true;
+        loop_.quit();
+    }
+
+    [[nodiscard]] bool isOf(const QDialog *window) const { return window_ == window; }
+
+private:
+    QPointer<QDialog> window_;
+    QEventLoop loop_;
+    bool stopped_ = false;
+};
+
+/// Innermost last.
+std::vector<Session *> &sessions()
+{
+    static std::vector<Session *> stack;
+    return stack;
+}
+
+bool isRunning(const QDialog *window)
+{
+    return std::any_of(sessions().begin(), sessions().end(),
+                       [window](const Session *session) { return session->isOf(window); });
+}
+
+/// The modality of a visible window changes only when it is shown anew.
+void showWithModality(QDialog *window, Qt::WindowModality modality)
+{
+    if (window->windowModality() != modality) {
+        window->hide();
+        window->setWindowModality(modality);
+    }
+    window->show();
+}
+
+/// Keeps the window above the one that a person was working in.
+void attachToActiveWindow(QDialog *window)
+{
+    const QWidget *active = QApplication::activeWindow();
+    window->winId(); // creates the window handle
+    if (active && active != window && !window->windowHandle()->transientParent())
+        window->windowHandle()->setTransientParent(active->windowHandle());
+}
+
+/// A window that its owner leaves open after its session blocks nothing any longer.
+void endModality(QDialog *window, Qt::WindowModality former)
+{
+    if (window->isVisible())
+        showWithModality(window, former);
+    else
+        window->setWindowModality(former);
+}
+
+/// Reports the closing of one window.
+class WindowDelegate : public QObject
+{
+public:
+    WindowDelegate(QDialog *window, QObject *context, std::function<void(QDialog *)> willClose)
+        : QObject(window), window_(window), willClose_(std::move(willClose))
+    {
+        window->installEventFilter(this);
+        connect(window, &QDialog::finished, this, &WindowDelegate::windowFinished);
+        connect(context, &QObject::destroyed, this, &WindowDelegate::end);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched != window_)
+            return false;
+        if (event->type() == QEvent::KeyPress &&
+            static_cast<QKeyEvent *>(event)->matches(QKeySequence::Cancel)) {
+            window_->close();
+            return true;
+        }
+        return event->type() == QEvent::Close && window_->isVisible() && !report();
+    }
+
+private:
+    /// False when the window is gone afterwards.
+    bool report()
+    {
+        if (std::exchange(reporting_, true))
+            return true;
+        reported_ = true;
+        const QPointer<QDialog> window = window_;
+        const QPointer<WindowDelegate> self = this;
+        const auto willClose = willClose_; // outlives this delegate
+        willClose(window);
+        if (self)
+            reporting_ = false;
+        return window;
+    }
+
+    /// accept() and reject() hide the window without a close event.
+    void windowFinished()
+    {
+        if (!reported_ && !report())
+            return;
+        reported_ = false;
+    }
+
+    void end()
+    {
+        window_->removeEventFilter(this);
+        delete this;
+    }
+
+    QDialog *window_;
+    std::function<void(QDialog *)> willClose_;
+    bool reporting_ = false;
+    bool reported_ = false;
+};
+
+} // namespace
+
+void runModalForWindow(QDialog *window)
+{
+    if (!window)
+        return;
+    if (isRunning(window)) {
+        qWarning("window %s runs already", qUtf8Printable(window->objectName()));
+        return;
+    }
+    const QPointer<QDialog> guard = window;
+    const QString name = window->objectName();
+    const Qt::WindowModality former = window->windowModality();
+    Session session(window);
+    sessions().push_back(&session);
+    attachToActiveWindow(window);
+    showWithModality(window, Qt::ApplicationModal);
+    Q_EMIT ModalSessions::shared().opened(window, modalDepth());
+    session.run();
+    sessions().pop_back();
+    if (guard)
+        endModality(window, former);
+    Q_EMIT ModalSessions::shared().closed(name);
+}
+
+void stopModal()
+{
+    if (!sessions().empty())
+        sessions().back()->stop();
+}
+
+void stopAllModalSessions()
+{
+    for (auto session = sessions().rbegin(); session != sessions().rend(); ++session)
+        (*session)->stop();
+}
+
+int modalDepth()
+{
+    return static_cast<int>(sessions().size());
+}
+
+void centerWindow(QDialog *window)
+{
+    if (!window)
+        return;
+    if (!window->testAttribute(Qt::WA_Resized))
+        window->adjustSize();
+    const QWidget *active = QApplication::activeWindow();
+    const QRect middle = active && active != window ? active->frameGeometry()
+                                                    : window->screen()->availableGeometry();
+    QRect frame = window->frameGeometry();
+    frame.moveCenter(middle.center());
+    window->move(frame.topLeft());
+}
+
+void setWindowDelegate(QDialog *window, QObject *context, std::function<void(QDialog *)> willClose)
+{
+    if (window && context)
+        new WindowDelegate(window, context, std::move(willClose)); // owned by the window
+}
+
+void closeWindow(QDialog *window)
+{
+    if (window && window->isVisible())
+        window->close();
+}
+
+ModalSessions &ModalSessions::shared()
+{
+    static ModalSessions sessions;
+    return sessions;
+}
+
+} // namespace platform

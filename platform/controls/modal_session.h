@@ -14,8 +14,8 @@ class QDialog;
 namespace platform {
 
 /// Runs a window until stopModal() ends its session or the window is destroyed, then returns. The
-/// caller must check that it still lives itself. A null window returns at once. A window that already
-/// runs is refused with a warning.
+/// caller must check that it still lives itself. A null window returns at once. A window that
+/// already runs is refused with a warning.
 PLATFORM_EXPORT void runModalForWindow(QDialog *window);
 
 /// Ends the innermost session that is still running; never one further out, and calling it twice

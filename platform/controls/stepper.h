@@ -5,9 +5,11 @@
 #include <QWidget>
 
 class QToolButton;
+class AccessibleStepper;
 
-/// Two small buttons, up and down, that step an integer between bounds, without wrapping. Up and Down
-/// keys and the wheel step it too while it has the focus. Read by screen readers as a spin box.
+/// Two small buttons, up and down, that step an integer between bounds, without wrapping. Up and
+/// Down keys and the wheel step it too while it has the focus. Read by screen readers as a spin
+/// box.
 class PLATFORM_EXPORT Stepper : public QWidget
 {
     Q_OBJECT
@@ -38,15 +40,22 @@ Q_SIGNALS:
     void stepped(int value);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
+    friend class AccessibleStepper;
     void step(int steps);
+    /// A person's change, by whatever device.
+    void pick(int value);
+    void sizeButtons();
     void updateButtons();
 
     QToolButton *up_;
     QToolButton *down_;
+    int wheelRest_ = 0;
     int value_ = 0;
     int minimum_ = 0;
     int maximum_ = 100;
