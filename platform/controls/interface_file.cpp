@@ -4,17 +4,18 @@
 #include "platform/controls/pop_up_button.h"
 #include "platform/controls/radio_matrix.h"
 #include "platform/controls/stepper.h"
+#include "platform/regular_file.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QUiLoader>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
 #include <memory>
+#include <optional>
 
 namespace platform {
 namespace {
@@ -91,16 +92,11 @@ private:
     bool foundUnknownClass_ = false;
 };
 
-/// The contents of an interface file; null when there is no such file or it is no plain file of a
-/// sane size.
-QByteArray contentsOf(const QString &path)
+/// With no plug-in but what this process has loaded for other reasons.
+std::unique_ptr<Loader> makeLoader()
 {
-    const QFileInfo info(path);
-    QFile file(path);
-    if (path.isNull() || !info.isFile() || info.size() > largestFile ||
-        !file.open(QIODevice::ReadOnly))
-        return {};
-    return file.readAll();
+    const NoLibraryPaths noForeignLibraries;
+    return std::make_unique<Loader>();
 }
 
 /// Copies one <string>, translated unless it is marked otherwise.
@@ -132,31 +128,31 @@ QByteArray localized(const QByteArray &contents, const Bundle *bundle)
 
 std::unique_ptr<QWidget> loadWidget(const Bundle *bundle, const QString &path)
 {
-    const QByteArray contents = contentsOf(path);
-    if (contents.isNull())
+    const std::optional<QByteArray> contents = readRegularFile(path, largestFile);
+    if (!contents)
         return nullptr;
-    QByteArray interface = localized(contents, bundle);
+    QByteArray interface = localized(*contents, bundle);
     QBuffer device(&interface);
     device.open(QIODevice::ReadOnly);
-    const NoLibraryPaths noForeignLibraries;
-    Loader loader;
-    std::unique_ptr<QWidget> widget(interface.isNull() ? nullptr : loader.load(&device));
+    const std::unique_ptr<Loader> loader = makeLoader();
+    std::unique_ptr<QWidget> widget(interface.isEmpty() ? nullptr : loader->load(&device));
+    if (loader->foundUnknownClass())
+        return nullptr;
     if (!widget)
         qWarning("interface file %s is damaged", qUtf8Printable(path));
-    return loader.foundUnknownClass() ? nullptr : std::move(widget);
+    return widget;
 }
 
 /// Paths of the files that make up an interface file; a null path stands for a missing one.
 QStringList filesOf(const Bundle *bundle, const QString &name)
 {
-    const QDir windows(bundle->path() + QLatin1String("/Contents/Resources/") + name);
-    const QStringList entries =
-        windows.entryList({QStringLiteral("*.ui")}, QDir::Files, QDir::Name);
-    if (!windows.exists() || entries.isEmpty())
+    const QString folder = bundle->resourcePath(name);
+    if (folder.isNull() || !QFileInfo(folder).isDir())
         return {bundle->resourcePath(name + QLatin1String(".ui"))};
+    const QDir windows(folder);
     QStringList paths;
-    for (const QString &entry : entries)
-        paths.append(bundle->resourcePath(name + QLatin1Char('/') + entry));
+    for (const QString &file : windows.entryList({QStringLiteral("*.ui")}, QDir::Files, QDir::Name))
+        paths.append(windows.filePath(file));
     return paths;
 }
 

@@ -86,6 +86,16 @@ void endModality(QDialog *window, Qt::WindowModality former)
         window->setWindowModality(former);
 }
 
+/// The rectangle shifted so that at least its upper left part lies inside the screen.
+QRect broughtInside(QRect frame, const QRect &screen)
+{
+    frame.moveRight(std::min(frame.right(), screen.right()));
+    frame.moveBottom(std::min(frame.bottom(), screen.bottom()));
+    frame.moveLeft(std::max(frame.left(), screen.left()));
+    frame.moveTop(std::max(frame.top(), screen.top()));
+    return frame;
+}
+
 /// Reports the closing of one window.
 class WindowDelegate : public QObject
 {
@@ -95,7 +105,7 @@ public:
     {
         window->installEventFilter(this);
         connect(window, &QDialog::finished, this, &WindowDelegate::windowFinished);
-        connect(context, &QObject::destroyed, this, &WindowDelegate::end);
+        connect(context, &QObject::destroyed, this, [this] { willClose_ = nullptr; });
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override
@@ -111,17 +121,16 @@ public:
     }
 
 private:
-    /// False when the window is gone afterwards.
+    /// False when the window, and this delegate with it, is gone afterwards.
     bool report()
     {
-        if (std::exchange(reporting_, true))
+        if (!willClose_ || std::exchange(reporting_, true))
             return true;
         reported_ = true;
         const QPointer<QDialog> window = window_;
-        const QPointer<WindowDelegate> self = this;
         const auto willClose = willClose_; // outlives this delegate
         willClose(window);
-        if (self)
+        if (window)
             reporting_ = false;
         return window;
     }
@@ -132,12 +141,6 @@ private:
         if (!reported_ && !report())
             return;
         reported_ = false;
-    }
-
-    void end()
-    {
-        window_->removeEventFilter(this);
-        delete this;
     }
 
     QDialog *window_;
@@ -199,7 +202,7 @@ void centerWindow(QDialog *window)
                                                     : window->screen()->availableGeometry();
     QRect frame = window->frameGeometry();
     frame.moveCenter(middle.center());
-    window->move(frame.topLeft());
+    window->move(broughtInside(frame, window->screen()->availableGeometry()).topLeft());
 }
 
 void setWindowDelegate(QDialog *window, QObject *context, std::function<void(QDialog *)> willClose)

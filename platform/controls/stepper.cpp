@@ -38,7 +38,11 @@ public:
     }
 
     QVariant currentValue() const override { return stepper()->value(); }
-    void setCurrentValue(const QVariant &value) override { stepper()->pick(value.toInt()); }
+    void setCurrentValue(const QVariant &value) override
+    {
+        if (stepper()->isEnabled())
+            stepper()->pick(value.toInt());
+    }
     QVariant maximumValue() const override { return stepper()->maximum(); }
     QVariant minimumValue() const override { return stepper()->minimum(); }
     QVariant minimumStepSize() const override { return stepper()->increment(); }
