@@ -1,4 +1,5 @@
-// The settings of PDEModel2, one line each; included wherever all of them are needed. No include guard.
+// The settings of PDEModel2, one line each; included wherever all of them are needed. No include
+// guard.
 //
 // KV_OPTION(Field, getter, setter): the PPD option record of a setting.
 // KV_STRING(Field, getter, setter): a value (display text) or a ticket (choice keyword).

@@ -19,7 +19,8 @@ public:
     PDETools2();
     ~PDETools2();
 
-    /// The PPD's text encoding (platform::encoding numbers); Mac OS Roman when unknown or without PPD.
+    /// The PPD's text encoding (platform::encoding numbers); Mac OS Roman when unknown or without
+    /// PPD.
     [[nodiscard]] unsigned long getEncodingFromPPD(const ppd_file_t *ppd) const;
     /// Default choice keyword; "" when the PPD names none, null without option or PPD.
     [[nodiscard]] QString getOptionsDefault(const QString &option, ppd_file_t *ppd) const;
@@ -45,7 +46,8 @@ public:
     /// Binary-coded decimal, 0x1060 for 10.6.0.
     [[nodiscard]] int OSVersion() const;
     [[nodiscard]] QString getNickName(ppd_file_t *ppd) const;
-    /// Literal path of the driver configuration list; null without "APPrinterIconPath". Needs a PPD.
+    /// Literal path of the driver configuration list; null without "APPrinterIconPath". Needs a
+    /// PPD.
     [[nodiscard]] QString getPlistPath(ppd_file_t *ppd) const;
     /// 65535 when the list or the year is missing.
     [[nodiscard]] quint16 getProductYear(const QString &path) const;

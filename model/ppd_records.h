@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <span>
+
 /// Reads libcups' records for the rooms that hold them as handles only.
 namespace ppd {
 
@@ -12,12 +14,14 @@ namespace ppd {
 [[nodiscard]] QString optionText(const ppd_option_t *option);
 /// The option's keyword; null without an option.
 [[nodiscard]] QString optionKeyword(const ppd_option_t *option);
+/// The option's choices, in the PPD's order; empty without an option.
+[[nodiscard]] std::span<const ppd_choice_t> choices(const ppd_option_t *option);
 /// Keywords of the option's choices, in the PPD's order; empty without an option.
 [[nodiscard]] QStringList choiceKeywords(const ppd_option_t *option);
 /// Texts of the option's choices, in the PPD's order.
 [[nodiscard]] QStringList choiceTexts(const ppd_option_t *option);
-/// Keyword or text of the choice at an index of an option, decoded; null when PPD, option or index is
-/// not there.
+/// Keyword or text of the choice at an index of an option, decoded; null when PPD, option or index
+/// is not there.
 struct DecodedChoice
 {
     QString keyword;
