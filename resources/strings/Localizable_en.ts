@@ -1,0 +1,195 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>1) Cancel the Print dialog.</source>
+        <translation>1) Cancel the Print dialog.</translation>
+    </message>
+    <message>
+        <source>1) From the pop-up menu, choose Layout.</source>
+        <translation>1) From the pop-up menu, choose Layout.</translation>
+    </message>
+    <message>
+        <source>1) From the pop-up menu, choose Quality &amp; Media.</source>
+        <translation>1) From the pop-up menu, choose Quality &amp; Media.</translation>
+    </message>
+    <message>
+        <source>1) If your application does not have File -&gt; Page Setup, skip to step 7.</source>
+        <translation>1) If your application does not have File -&gt; Page Setup, skip to step 7.</translation>
+    </message>
+    <message>
+        <source>2) Cancel the Print dialog.</source>
+        <translation>2) Cancel the Print dialog.</translation>
+    </message>
+    <message>
+        <source>2) From the Pages per Sheet popup menu, choose 1.</source>
+        <translation>2) From the Pages per Sheet popup menu, choose 1.</translation>
+    </message>
+    <message>
+        <source>2) Go to Advanced Options -&gt; From the Color Output pop-up menu, choose Color.</source>
+        <translation>2) Go to Advanced Options -&gt; From the Color Output pop-up menu, choose Color.</translation>
+    </message>
+    <message>
+        <source>2) Go to Advanced Options -&gt; From the Ink To Use pop-up menu, choose Automatic.</source>
+        <translation>2) Go to Advanced Options -&gt; From the Ink To Use pop-up menu, choose Automatic.</translation>
+    </message>
+    <message>
+        <source>2) Launch the Korvane Utility</source>
+        <translation>2) Launch the Korvane Utility</translation>
+    </message>
+    <message>
+        <source>3) Click the close button in the upper left corner of this screen.</source>
+        <translation>3) Click the close button in the upper left corner of this screen.</translation>
+    </message>
+    <message>
+        <source>3) Select File -&gt; Page Setup.</source>
+        <translation>3) Select File -&gt; Page Setup.</translation>
+    </message>
+    <message>
+        <source>3) Select the Install/ Change Cartridge... button.</source>
+        <translation>3) Select the Install/ Change Cartridge... button.</translation>
+    </message>
+    <message>
+        <source>4) From the Paper Size pop-up menu, select the desired paper size.</source>
+        <translation>4) From the Paper Size pop-up menu, select the desired paper size.</translation>
+    </message>
+    <message>
+        <source>4) Install a black cartridge.</source>
+        <translation>4) Install a black cartridge.</translation>
+    </message>
+    <message>
+        <source>5) Click OK.</source>
+        <translation>5) Click OK.</translation>
+    </message>
+    <message>
+        <source>5) Open the Print dialog, and then reselect your settings.</source>
+        <translation>5) Open the Print dialog, and then reselect your settings.</translation>
+    </message>
+    <message>
+        <source>6) Click the close button in the upper left corner of this screen.</source>
+        <translation>6) Click the close button in the upper left corner of this screen.</translation>
+    </message>
+    <message>
+        <source>6) Open the Print dialog.</source>
+        <translation>6) Open the Print dialog.</translation>
+    </message>
+    <message>
+        <source>7) From the Print dialog, select your desired settings.</source>
+        <translation>7) From the Print dialog, select your desired settings.</translation>
+    </message>
+    <message>
+        <source>8) Click the close button in the upper left corner of this screen.</source>
+        <translation>8) Click the close button in the upper left corner of this screen.</translation>
+    </message>
+    <message>
+        <source>Advanced Options: Mirror (OFF)</source>
+        <translation>Advanced Options: Mirror (OFF)</translation>
+    </message>
+    <message>
+        <source>Advanced Options: Mirror (ON)</source>
+        <translation>Advanced Options: Mirror (ON)</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatic</translation>
+    </message>
+    <message>
+        <source>Cartridge(s) installed: Only Color</source>
+        <translation>Cartridge(s) installed: Only Color</translation>
+    </message>
+    <message>
+        <source>Cartridge(s) installed: Photo</source>
+        <translation>Cartridge(s) installed: Photo</translation>
+    </message>
+    <message>
+        <source>Choose an option to resolve the conflict:</source>
+        <translation>Choose an option to resolve the conflict:</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Conflicting settings</source>
+        <translation>Conflicting settings</translation>
+    </message>
+    <message>
+        <source>Continue without resolving the conflict.</source>
+        <translation>Continue without resolving the conflict.</translation>
+    </message>
+    <message>
+        <source>Document Color: Black Only</source>
+        <translation>Document Color: Black Only</translation>
+    </message>
+    <message>
+        <source>Document Color: Color</source>
+        <translation>Document Color: Color</translation>
+    </message>
+    <message>
+        <source>Ink To Use</source>
+        <translation>Ink To Use</translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <translation>Instructions</translation>
+    </message>
+    <message>
+        <source>Layout: Pages per Sheet (&gt;1)</source>
+        <translation>Layout: Pages per Sheet (&gt;1)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Other</translation>
+    </message>
+    <message>
+        <source>Paper Size: </source>
+        <translation>Paper Size: </translation>
+    </message>
+    <message>
+        <source>Paper Type: </source>
+        <translation>Paper Type: </translation>
+    </message>
+    <message>
+        <source>Paper Type: Automatic</source>
+        <translation>Paper Type: Automatic</translation>
+    </message>
+    <message>
+        <source>Paper Type: Envelope</source>
+        <translation>Paper Type: Envelope</translation>
+    </message>
+    <message>
+        <source>Paper Type: Iron-On Transfer</source>
+        <translation>Paper Type: Iron-On Transfer</translation>
+    </message>
+    <message>
+        <source>Paper Type: Plain Paper</source>
+        <translation>Paper Type: Plain Paper</translation>
+    </message>
+    <message>
+        <source>Print Quality: Draft</source>
+        <translation>Print Quality: Draft</translation>
+    </message>
+    <message>
+        <source>Print Quality: Normal</source>
+        <translation>Print Quality: Normal</translation>
+    </message>
+    <message>
+        <source>Quality &amp; Media</source>
+        <translation>Quality &amp; Media</translation>
+    </message>
+    <message>
+        <source>Show instructions to resolve the conflict settings.</source>
+        <translation>Show instructions to resolve the conflict settings.</translation>
+    </message>
+    <message>
+        <source>is not compatible with</source>
+        <translation>is not compatible with</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,195 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>1) Cancel the Print dialog.</source>
+        <translation>1) Cancele el cuadro de diálogo Imprimir.</translation>
+    </message>
+    <message>
+        <source>1) From the pop-up menu, choose Layout.</source>
+        <translation>1) En el menú desplegable, elija Disposición.</translation>
+    </message>
+    <message>
+        <source>1) From the pop-up menu, choose Quality &amp; Media.</source>
+        <translation>1) En el menú desplegable, elija Calidad y material.</translation>
+    </message>
+    <message>
+        <source>1) If your application does not have File -&gt; Page Setup, skip to step 7.</source>
+        <translation>1) Si su aplicación no tiene Archivo -&gt; Configurar página, vaya al paso 7.</translation>
+    </message>
+    <message>
+        <source>2) Cancel the Print dialog.</source>
+        <translation>2) Cancele el cuadro de diálogo Imprimir.</translation>
+    </message>
+    <message>
+        <source>2) From the Pages per Sheet popup menu, choose 1.</source>
+        <translation>2) En el menú desplegable Páginas por hoja, elija 1.</translation>
+    </message>
+    <message>
+        <source>2) Go to Advanced Options -&gt; From the Color Output pop-up menu, choose Color.</source>
+        <translation>2) Vaya a Opciones avanzadas -&gt; En el menú desplegable Salida de color, elija Color.</translation>
+    </message>
+    <message>
+        <source>2) Go to Advanced Options -&gt; From the Ink To Use pop-up menu, choose Automatic.</source>
+        <translation>2) Vaya a Opciones avanzadas -&gt; En el menú desplegable Tinta que se usará, elija Automático.</translation>
+    </message>
+    <message>
+        <source>2) Launch the Korvane Utility</source>
+        <translation>2) Abra la utilidad Korvane</translation>
+    </message>
+    <message>
+        <source>3) Click the close button in the upper left corner of this screen.</source>
+        <translation>3) Haga clic en el botón de cierre de esta ventana.</translation>
+    </message>
+    <message>
+        <source>3) Select File -&gt; Page Setup.</source>
+        <translation>3) Seleccione Archivo -&gt; Configurar página.</translation>
+    </message>
+    <message>
+        <source>3) Select the Install/ Change Cartridge... button.</source>
+        <translation>3) Haga clic en el botón Instalar/Cambiar cartucho...</translation>
+    </message>
+    <message>
+        <source>4) From the Paper Size pop-up menu, select the desired paper size.</source>
+        <translation>4) En el menú desplegable Tamaño de papel, seleccione el tamaño que desee.</translation>
+    </message>
+    <message>
+        <source>4) Install a black cartridge.</source>
+        <translation>4) Instale un cartucho negro.</translation>
+    </message>
+    <message>
+        <source>5) Click OK.</source>
+        <translation>5) Haga clic en Aceptar.</translation>
+    </message>
+    <message>
+        <source>5) Open the Print dialog, and then reselect your settings.</source>
+        <translation>5) Abra el cuadro de diálogo Imprimir y vuelva a seleccionar sus ajustes.</translation>
+    </message>
+    <message>
+        <source>6) Click the close button in the upper left corner of this screen.</source>
+        <translation>6) Haga clic en el botón de cierre de esta ventana.</translation>
+    </message>
+    <message>
+        <source>6) Open the Print dialog.</source>
+        <translation>6) Abra el cuadro de diálogo Imprimir.</translation>
+    </message>
+    <message>
+        <source>7) From the Print dialog, select your desired settings.</source>
+        <translation>7) En el cuadro de diálogo Imprimir, seleccione los ajustes que desee.</translation>
+    </message>
+    <message>
+        <source>8) Click the close button in the upper left corner of this screen.</source>
+        <translation>8) Haga clic en el botón de cierre de esta ventana.</translation>
+    </message>
+    <message>
+        <source>Advanced Options: Mirror (OFF)</source>
+        <translation>Opciones avanzadas: Espejo (DESACTIVADO)</translation>
+    </message>
+    <message>
+        <source>Advanced Options: Mirror (ON)</source>
+        <translation>Opciones avanzadas: Espejo (ACTIVADO)</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Cartridge(s) installed: Only Color</source>
+        <translation>Cartucho(s) instalado(s): Solo color</translation>
+    </message>
+    <message>
+        <source>Cartridge(s) installed: Photo</source>
+        <translation>Cartucho(s) instalado(s): Foto</translation>
+    </message>
+    <message>
+        <source>Choose an option to resolve the conflict:</source>
+        <translation>Elija una opción para resolver el conflicto:</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Conflicting settings</source>
+        <translation>Ajustes incompatibles</translation>
+    </message>
+    <message>
+        <source>Continue without resolving the conflict.</source>
+        <translation>Continuar sin resolver el conflicto.</translation>
+    </message>
+    <message>
+        <source>Document Color: Black Only</source>
+        <translation>Color del documento: Solo negro</translation>
+    </message>
+    <message>
+        <source>Document Color: Color</source>
+        <translation>Color del documento: Color</translation>
+    </message>
+    <message>
+        <source>Ink To Use</source>
+        <translation>Tinta que se usará</translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <translation>Instrucciones</translation>
+    </message>
+    <message>
+        <source>Layout: Pages per Sheet (&gt;1)</source>
+        <translation>Disposición: Páginas por hoja (&gt;1)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Otro</translation>
+    </message>
+    <message>
+        <source>Paper Size: </source>
+        <translation>Tamaño de papel: </translation>
+    </message>
+    <message>
+        <source>Paper Type: </source>
+        <translation>Tipo de papel: </translation>
+    </message>
+    <message>
+        <source>Paper Type: Automatic</source>
+        <translation>Tipo de papel: Automático</translation>
+    </message>
+    <message>
+        <source>Paper Type: Envelope</source>
+        <translation>Tipo de papel: Sobre</translation>
+    </message>
+    <message>
+        <source>Paper Type: Iron-On Transfer</source>
+        <translation>Tipo de papel: Transferencia térmica</translation>
+    </message>
+    <message>
+        <source>Paper Type: Plain Paper</source>
+        <translation>Tipo de papel: Papel normal</translation>
+    </message>
+    <message>
+        <source>Print Quality: Draft</source>
+        <translation>Calidad de impresión: Borrador</translation>
+    </message>
+    <message>
+        <source>Print Quality: Normal</source>
+        <translation>Calidad de impresión: Normal</translation>
+    </message>
+    <message>
+        <source>Quality &amp; Media</source>
+        <translation>Calidad y material</translation>
+    </message>
+    <message>
+        <source>Show instructions to resolve the conflict settings.</source>
+        <translation>Mostrar instrucciones para resolver el conflicto.</translation>
+    </message>
+    <message>
+        <source>is not compatible with</source>
+        <translation>no es compatible con</translation>
+    </message>
+</context>
+</TS>

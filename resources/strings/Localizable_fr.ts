@@ -1,0 +1,195 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>1) Cancel the Print dialog.</source>
+        <translation>1) Annulez la boîte de dialogue Imprimer.</translation>
+    </message>
+    <message>
+        <source>1) From the pop-up menu, choose Layout.</source>
+        <translation>1) Dans le menu local, choisissez Disposition.</translation>
+    </message>
+    <message>
+        <source>1) From the pop-up menu, choose Quality &amp; Media.</source>
+        <translation>1) Dans le menu local, choisissez Qualité et Papiers.</translation>
+    </message>
+    <message>
+        <source>1) If your application does not have File -&gt; Page Setup, skip to step 7.</source>
+        <translation>1) Si votre application ne propose pas Fichier -&gt; Mise en page, passez à l’étape 7.</translation>
+    </message>
+    <message>
+        <source>2) Cancel the Print dialog.</source>
+        <translation>2) Annulez la boîte de dialogue Imprimer.</translation>
+    </message>
+    <message>
+        <source>2) From the Pages per Sheet popup menu, choose 1.</source>
+        <translation>2) Dans le menu local Pages par feuille, choisissez 1.</translation>
+    </message>
+    <message>
+        <source>2) Go to Advanced Options -&gt; From the Color Output pop-up menu, choose Color.</source>
+        <translation>2) Ouvrez Options avancées -&gt; Dans le menu local Sortie couleur, choisissez Color (couleur).</translation>
+    </message>
+    <message>
+        <source>2) Go to Advanced Options -&gt; From the Ink To Use pop-up menu, choose Automatic.</source>
+        <translation>2) Ouvrez Options avancées -&gt; Dans le menu local Encre à utiliser, choisissez Automatique.</translation>
+    </message>
+    <message>
+        <source>2) Launch the Korvane Utility</source>
+        <translation>2) Lancez l’utilitaire Korvane</translation>
+    </message>
+    <message>
+        <source>3) Click the close button in the upper left corner of this screen.</source>
+        <translation>3) Cliquez sur le bouton de fermeture de cette fenêtre.</translation>
+    </message>
+    <message>
+        <source>3) Select File -&gt; Page Setup.</source>
+        <translation>3) Choisissez Fichier -&gt; Mise en page.</translation>
+    </message>
+    <message>
+        <source>3) Select the Install/ Change Cartridge... button.</source>
+        <translation>3) Cliquez sur le bouton Installer/Changer une cartouche...</translation>
+    </message>
+    <message>
+        <source>4) From the Paper Size pop-up menu, select the desired paper size.</source>
+        <translation>4) Dans le menu local Format de papier, sélectionnez le format souhaité.</translation>
+    </message>
+    <message>
+        <source>4) Install a black cartridge.</source>
+        <translation>4) Installez une cartouche noire.</translation>
+    </message>
+    <message>
+        <source>5) Click OK.</source>
+        <translation>5) Cliquez sur OK.</translation>
+    </message>
+    <message>
+        <source>5) Open the Print dialog, and then reselect your settings.</source>
+        <translation>5) Ouvrez la boîte de dialogue Imprimer, puis sélectionnez à nouveau vos réglages.</translation>
+    </message>
+    <message>
+        <source>6) Click the close button in the upper left corner of this screen.</source>
+        <translation>6) Cliquez sur le bouton de fermeture de cette fenêtre.</translation>
+    </message>
+    <message>
+        <source>6) Open the Print dialog.</source>
+        <translation>6) Ouvrez la boîte de dialogue Imprimer.</translation>
+    </message>
+    <message>
+        <source>7) From the Print dialog, select your desired settings.</source>
+        <translation>7) Dans la boîte de dialogue Imprimer, sélectionnez les réglages souhaités.</translation>
+    </message>
+    <message>
+        <source>8) Click the close button in the upper left corner of this screen.</source>
+        <translation>8) Cliquez sur le bouton de fermeture de cette fenêtre.</translation>
+    </message>
+    <message>
+        <source>Advanced Options: Mirror (OFF)</source>
+        <translation>Options avancées : Miroir (DÉSACTIVÉ)</translation>
+    </message>
+    <message>
+        <source>Advanced Options: Mirror (ON)</source>
+        <translation>Options avancées : Miroir (ACTIVÉ)</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Cartridge(s) installed: Only Color</source>
+        <translation>Cartouche(s) installée(s) : Couleur seule</translation>
+    </message>
+    <message>
+        <source>Cartridge(s) installed: Photo</source>
+        <translation>Cartouche(s) installée(s) : Photo</translation>
+    </message>
+    <message>
+        <source>Choose an option to resolve the conflict:</source>
+        <translation>Choisissez une option pour résoudre le conflit :</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Conflicting settings</source>
+        <translation>Réglages incompatibles</translation>
+    </message>
+    <message>
+        <source>Continue without resolving the conflict.</source>
+        <translation>Continuer sans résoudre le conflit.</translation>
+    </message>
+    <message>
+        <source>Document Color: Black Only</source>
+        <translation>Couleur du document : Noir seul</translation>
+    </message>
+    <message>
+        <source>Document Color: Color</source>
+        <translation>Couleur du document : Couleur</translation>
+    </message>
+    <message>
+        <source>Ink To Use</source>
+        <translation>Encre à utiliser</translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <translation>Instructions</translation>
+    </message>
+    <message>
+        <source>Layout: Pages per Sheet (&gt;1)</source>
+        <translation>Disposition : Pages par feuille (&gt;1)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Autre</translation>
+    </message>
+    <message>
+        <source>Paper Size: </source>
+        <translation>Format de papier : </translation>
+    </message>
+    <message>
+        <source>Paper Type: </source>
+        <translation>Type de papier : </translation>
+    </message>
+    <message>
+        <source>Paper Type: Automatic</source>
+        <translation>Type de papier : Automatique</translation>
+    </message>
+    <message>
+        <source>Paper Type: Envelope</source>
+        <translation>Type de papier : Enveloppe</translation>
+    </message>
+    <message>
+        <source>Paper Type: Iron-On Transfer</source>
+        <translation>Type de papier : Transfert thermocollant</translation>
+    </message>
+    <message>
+        <source>Paper Type: Plain Paper</source>
+        <translation>Type de papier : Papier ordinaire</translation>
+    </message>
+    <message>
+        <source>Print Quality: Draft</source>
+        <translation>Qualité d’impression : Brouillon</translation>
+    </message>
+    <message>
+        <source>Print Quality: Normal</source>
+        <translation>Qualité d’impression : Normale</translation>
+    </message>
+    <message>
+        <source>Quality &amp; Media</source>
+        <translation>Qualité et Papiers</translation>
+    </message>
+    <message>
+        <source>Show instructions to resolve the conflict settings.</source>
+        <translation>Afficher les instructions pour résoudre le conflit.</translation>
+    </message>
+    <message>
+        <source>is not compatible with</source>
+        <translation>n’est pas compatible avec</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,195 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>1) Cancel the Print dialog.</source>
+        <translation>1) Annullare la finestra Stampa.</translation>
+    </message>
+    <message>
+        <source>1) From the pop-up menu, choose Layout.</source>
+        <translation>1) Dal menu a comparsa, scegliere Layout.</translation>
+    </message>
+    <message>
+        <source>1) From the pop-up menu, choose Quality &amp; Media.</source>
+        <translation>1) Dal menu a comparsa, scegliere Qualità e Tipo di carta.</translation>
+    </message>
+    <message>
+        <source>1) If your application does not have File -&gt; Page Setup, skip to step 7.</source>
+        <translation>1) Se l’applicazione non ha File -&gt; Imposta pagina, andare al passo 7.</translation>
+    </message>
+    <message>
+        <source>2) Cancel the Print dialog.</source>
+        <translation>2) Annullare la finestra Stampa.</translation>
+    </message>
+    <message>
+        <source>2) From the Pages per Sheet popup menu, choose 1.</source>
+        <translation>2) Dal menu a comparsa Pagine per foglio, scegliere 1.</translation>
+    </message>
+    <message>
+        <source>2) Go to Advanced Options -&gt; From the Color Output pop-up menu, choose Color.</source>
+        <translation>2) Aprire Opzioni avanzate -&gt; Dal menu a comparsa Uscita colore, scegliere Color (colore).</translation>
+    </message>
+    <message>
+        <source>2) Go to Advanced Options -&gt; From the Ink To Use pop-up menu, choose Automatic.</source>
+        <translation>2) Aprire Opzioni avanzate -&gt; Dal menu a comparsa Inchiostro da usare, scegliere Automatico.</translation>
+    </message>
+    <message>
+        <source>2) Launch the Korvane Utility</source>
+        <translation>2) Avviare l’utility Korvane</translation>
+    </message>
+    <message>
+        <source>3) Click the close button in the upper left corner of this screen.</source>
+        <translation>3) Fare clic sul pulsante di chiusura di questa finestra.</translation>
+    </message>
+    <message>
+        <source>3) Select File -&gt; Page Setup.</source>
+        <translation>3) Selezionare File -&gt; Imposta pagina.</translation>
+    </message>
+    <message>
+        <source>3) Select the Install/ Change Cartridge... button.</source>
+        <translation>3) Fare clic sul pulsante Installa/Cambia cartuccia...</translation>
+    </message>
+    <message>
+        <source>4) From the Paper Size pop-up menu, select the desired paper size.</source>
+        <translation>4) Dal menu a comparsa Formato carta, selezionare il formato desiderato.</translation>
+    </message>
+    <message>
+        <source>4) Install a black cartridge.</source>
+        <translation>4) Installare una cartuccia nera.</translation>
+    </message>
+    <message>
+        <source>5) Click OK.</source>
+        <translation>5) Fare clic su OK.</translation>
+    </message>
+    <message>
+        <source>5) Open the Print dialog, and then reselect your settings.</source>
+        <translation>5) Aprire la finestra Stampa e selezionare di nuovo le impostazioni.</translation>
+    </message>
+    <message>
+        <source>6) Click the close button in the upper left corner of this screen.</source>
+        <translation>6) Fare clic sul pulsante di chiusura di questa finestra.</translation>
+    </message>
+    <message>
+        <source>6) Open the Print dialog.</source>
+        <translation>6) Aprire la finestra Stampa.</translation>
+    </message>
+    <message>
+        <source>7) From the Print dialog, select your desired settings.</source>
+        <translation>7) Nella finestra Stampa, selezionare le impostazioni desiderate.</translation>
+    </message>
+    <message>
+        <source>8) Click the close button in the upper left corner of this screen.</source>
+        <translation>8) Fare clic sul pulsante di chiusura di questa finestra.</translation>
+    </message>
+    <message>
+        <source>Advanced Options: Mirror (OFF)</source>
+        <translation>Opzioni avanzate: Speculare (NON ATTIVO)</translation>
+    </message>
+    <message>
+        <source>Advanced Options: Mirror (ON)</source>
+        <translation>Opzioni avanzate: Speculare (ATTIVO)</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatico</translation>
+    </message>
+    <message>
+        <source>Cartridge(s) installed: Only Color</source>
+        <translation>Cartucce installate: Solo colore</translation>
+    </message>
+    <message>
+        <source>Cartridge(s) installed: Photo</source>
+        <translation>Cartucce installate: Foto</translation>
+    </message>
+    <message>
+        <source>Choose an option to resolve the conflict:</source>
+        <translation>Scegliere un’opzione per risolvere il conflitto:</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Colore</translation>
+    </message>
+    <message>
+        <source>Conflicting settings</source>
+        <translation>Impostazioni incompatibili</translation>
+    </message>
+    <message>
+        <source>Continue without resolving the conflict.</source>
+        <translation>Continuare senza risolvere il conflitto.</translation>
+    </message>
+    <message>
+        <source>Document Color: Black Only</source>
+        <translation>Colore documento: Solo nero</translation>
+    </message>
+    <message>
+        <source>Document Color: Color</source>
+        <translation>Colore documento: Colore</translation>
+    </message>
+    <message>
+        <source>Ink To Use</source>
+        <translation>Inchiostro da usare</translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <translation>Istruzioni</translation>
+    </message>
+    <message>
+        <source>Layout: Pages per Sheet (&gt;1)</source>
+        <translation>Layout: Pagine per foglio (&gt;1)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Altro</translation>
+    </message>
+    <message>
+        <source>Paper Size: </source>
+        <translation>Formato carta: </translation>
+    </message>
+    <message>
+        <source>Paper Type: </source>
+        <translation>Tipo di carta: </translation>
+    </message>
+    <message>
+        <source>Paper Type: Automatic</source>
+        <translation>Tipo di carta: Automatico</translation>
+    </message>
+    <message>
+        <source>Paper Type: Envelope</source>
+        <translation>Tipo di carta: Busta</translation>
+    </message>
+    <message>
+        <source>Paper Type: Iron-On Transfer</source>
+        <translation>Tipo di carta: Trasferibile a caldo</translation>
+    </message>
+    <message>
+        <source>Paper Type: Plain Paper</source>
+        <translation>Tipo di carta: Carta comune</translation>
+    </message>
+    <message>
+        <source>Print Quality: Draft</source>
+        <translation>Qualità di stampa: Bozza</translation>
+    </message>
+    <message>
+        <source>Print Quality: Normal</source>
+        <translation>Qualità di stampa: Normale</translation>
+    </message>
+    <message>
+        <source>Quality &amp; Media</source>
+        <translation>Qualità e Tipo di carta</translation>
+    </message>
+    <message>
+        <source>Show instructions to resolve the conflict settings.</source>
+        <translation>Mostrare le istruzioni per risolvere il conflitto.</translation>
+    </message>
+    <message>
+        <source>is not compatible with</source>
+        <translation>non è compatibile con</translation>
+    </message>
+</context>
+</TS>

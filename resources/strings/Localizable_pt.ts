@@ -1,0 +1,195 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>1) Cancel the Print dialog.</source>
+        <translation>1) Cancele a caixa de diálogo Imprimir.</translation>
+    </message>
+    <message>
+        <source>1) From the pop-up menu, choose Layout.</source>
+        <translation>1) No menu suspenso, escolha Disposição.</translation>
+    </message>
+    <message>
+        <source>1) From the pop-up menu, choose Quality &amp; Media.</source>
+        <translation>1) No menu suspenso, escolha Papel e Qualidade.</translation>
+    </message>
+    <message>
+        <source>1) If your application does not have File -&gt; Page Setup, skip to step 7.</source>
+        <translation>1) Se o seu aplicativo não tiver Arquivo -&gt; Configurar página, vá para o passo 7.</translation>
+    </message>
+    <message>
+        <source>2) Cancel the Print dialog.</source>
+        <translation>2) Cancele a caixa de diálogo Imprimir.</translation>
+    </message>
+    <message>
+        <source>2) From the Pages per Sheet popup menu, choose 1.</source>
+        <translation>2) No menu suspenso Páginas por folha, escolha 1.</translation>
+    </message>
+    <message>
+        <source>2) Go to Advanced Options -&gt; From the Color Output pop-up menu, choose Color.</source>
+        <translation>2) Vá para Opções avançadas -&gt; No menu suspenso Saída de cor, escolha Color (cor).</translation>
+    </message>
+    <message>
+        <source>2) Go to Advanced Options -&gt; From the Ink To Use pop-up menu, choose Automatic.</source>
+        <translation>2) Vá para Opções avançadas -&gt; No menu suspenso Tinta a usar, escolha Automático.</translation>
+    </message>
+    <message>
+        <source>2) Launch the Korvane Utility</source>
+        <translation>2) Abra o utilitário Korvane</translation>
+    </message>
+    <message>
+        <source>3) Click the close button in the upper left corner of this screen.</source>
+        <translation>3) Clique no botão de fechar desta janela.</translation>
+    </message>
+    <message>
+        <source>3) Select File -&gt; Page Setup.</source>
+        <translation>3) Selecione Arquivo -&gt; Configurar página.</translation>
+    </message>
+    <message>
+        <source>3) Select the Install/ Change Cartridge... button.</source>
+        <translation>3) Clique no botão Instalar/Trocar cartucho...</translation>
+    </message>
+    <message>
+        <source>4) From the Paper Size pop-up menu, select the desired paper size.</source>
+        <translation>4) No menu suspenso Tamanho do papel, selecione o tamanho desejado.</translation>
+    </message>
+    <message>
+        <source>4) Install a black cartridge.</source>
+        <translation>4) Instale um cartucho preto.</translation>
+    </message>
+    <message>
+        <source>5) Click OK.</source>
+        <translation>5) Clique em OK.</translation>
+    </message>
+    <message>
+        <source>5) Open the Print dialog, and then reselect your settings.</source>
+        <translation>5) Abra a caixa de diálogo Imprimir e selecione novamente as suas definições.</translation>
+    </message>
+    <message>
+        <source>6) Click the close button in the upper left corner of this screen.</source>
+        <translation>6) Clique no botão de fechar desta janela.</translation>
+    </message>
+    <message>
+        <source>6) Open the Print dialog.</source>
+        <translation>6) Abra a caixa de diálogo Imprimir.</translation>
+    </message>
+    <message>
+        <source>7) From the Print dialog, select your desired settings.</source>
+        <translation>7) Na caixa de diálogo Imprimir, selecione as definições desejadas.</translation>
+    </message>
+    <message>
+        <source>8) Click the close button in the upper left corner of this screen.</source>
+        <translation>8) Clique no botão de fechar desta janela.</translation>
+    </message>
+    <message>
+        <source>Advanced Options: Mirror (OFF)</source>
+        <translation>Opções avançadas: Espelho (DESATIVADO)</translation>
+    </message>
+    <message>
+        <source>Advanced Options: Mirror (ON)</source>
+        <translation>Opções avançadas: Espelho (ATIVADO)</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Cartridge(s) installed: Only Color</source>
+        <translation>Cartucho(s) instalado(s): Somente cor</translation>
+    </message>
+    <message>
+        <source>Cartridge(s) installed: Photo</source>
+        <translation>Cartucho(s) instalado(s): Foto</translation>
+    </message>
+    <message>
+        <source>Choose an option to resolve the conflict:</source>
+        <translation>Escolha uma opção para resolver o conflito:</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Cor</translation>
+    </message>
+    <message>
+        <source>Conflicting settings</source>
+        <translation>Definições incompatíveis</translation>
+    </message>
+    <message>
+        <source>Continue without resolving the conflict.</source>
+        <translation>Continuar sem resolver o conflito.</translation>
+    </message>
+    <message>
+        <source>Document Color: Black Only</source>
+        <translation>Cor do documento: Somente preto</translation>
+    </message>
+    <message>
+        <source>Document Color: Color</source>
+        <translation>Cor do documento: Cor</translation>
+    </message>
+    <message>
+        <source>Ink To Use</source>
+        <translation>Tinta a usar</translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <translation>Instruções</translation>
+    </message>
+    <message>
+        <source>Layout: Pages per Sheet (&gt;1)</source>
+        <translation>Disposição: Páginas por folha (&gt;1)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Outro</translation>
+    </message>
+    <message>
+        <source>Paper Size: </source>
+        <translation>Tamanho do papel: </translation>
+    </message>
+    <message>
+        <source>Paper Type: </source>
+        <translation>Tipo de papel: </translation>
+    </message>
+    <message>
+        <source>Paper Type: Automatic</source>
+        <translation>Tipo de papel: Automático</translation>
+    </message>
+    <message>
+        <source>Paper Type: Envelope</source>
+        <translation>Tipo de papel: Envelope</translation>
+    </message>
+    <message>
+        <source>Paper Type: Iron-On Transfer</source>
+        <translation>Tipo de papel: Transferência a quente</translation>
+    </message>
+    <message>
+        <source>Paper Type: Plain Paper</source>
+        <translation>Tipo de papel: Papel comum</translation>
+    </message>
+    <message>
+        <source>Print Quality: Draft</source>
+        <translation>Qualidade de impressão: Rascunho</translation>
+    </message>
+    <message>
+        <source>Print Quality: Normal</source>
+        <translation>Qualidade de impressão: Normal</translation>
+    </message>
+    <message>
+        <source>Quality &amp; Media</source>
+        <translation>Papel e Qualidade</translation>
+    </message>
+    <message>
+        <source>Show instructions to resolve the conflict settings.</source>
+        <translation>Mostrar instruções para resolver o conflito.</translation>
+    </message>
+    <message>
+        <source>is not compatible with</source>
+        <translation>não é compatível com</translation>
+    </message>
+</context>
+</TS>
