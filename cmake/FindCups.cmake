@@ -1,6 +1,6 @@
 # libcups, which brings no pkg-config file in Debian 12. Defines Cups::Cups.
-# Only model/ and dialog/printers/ link it. ppd.h marks every call deprecated; the empty macro keeps
-# the one interface that reads PPD files usable without a warning on each line.
+# ppd.h marks every call deprecated, though no other interface reads PPD files; who links this target
+# uses it on purpose. Qt's own deprecated calls stay errors through QT_DISABLE_DEPRECATED_BEFORE.
 find_path(CUPS_INCLUDE_DIR cups/ppd.h)
 find_library(CUPS_LIBRARY cups)
 include(FindPackageHandleStandardArgs)
@@ -10,6 +10,6 @@ if(CUPS_FOUND AND NOT TARGET Cups::Cups)
     set_target_properties(Cups::Cups PROPERTIES
         IMPORTED_LOCATION "${CUPS_LIBRARY}"
         INTERFACE_INCLUDE_DIRECTORIES "${CUPS_INCLUDE_DIR}"
-        INTERFACE_COMPILE_DEFINITIONS "_PPD_DEPRECATED=")
+        INTERFACE_COMPILE_OPTIONS -Wno-deprecated-declarations)
 endif()
 set(Cups_FOUND ${CUPS_FOUND})
