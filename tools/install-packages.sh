@@ -42,9 +42,13 @@ find_privilege() {
     sudo -n true 2>/dev/null
 }
 
+# Shows apt-get's output only when it fails.
 apt_get() {
-    "${privilege[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq \
-        -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 "$@" </dev/null
+    local output
+    output=$("${privilege[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q \
+        -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 "$@" </dev/null 2>&1) && return
+    echo "$output" >&2
+    return 1
 }
 
 # A stale package list and a busy mirror both look like a failed installation; one more try with a
@@ -54,7 +58,7 @@ install_missing() {
     for attempt in 1 2; do
         echo "install-packages.sh: reading the package lists (attempt $attempt)"
         apt_get update || echo "install-packages.sh: no fresh package lists, using the old ones" >&2
-        echo "install-packages.sh: installing $*"
+        echo "install-packages.sh: installing $* (a minute or two)"
         apt_get install -y --no-install-recommends "$@" && return
     done
     echo "install-packages.sh: apt-get could not install: $*" >&2
