@@ -14,8 +14,8 @@
 #include <utility>
 #include <vector>
 
-/// The protocol between a print dialog and a panel extension: pure virtual classes, one interface id.
-/// Every call comes on the main thread.
+/// The protocol between a print dialog and a panel extension: pure virtual classes, one interface
+/// id. Every call comes on the main thread.
 
 typedef struct ppd_file_s ppd_file_t; // libcups' PPD record, opened and closed by the dialog
 
@@ -43,6 +43,9 @@ public:
 /// Entries of a panel in the dialog's summary: title and text, in order, titles unique.
 using SummaryInfo = std::vector<std::pair<QString, QString>>;
 
+/// Adds an entry, or gives the entry of that title the new text. A null title or text adds nothing.
+PLATFORM_EXPORT void setSummaryEntry(SummaryInfo &info, const QString &title, const QString &text);
+
 /// What a panel tells about itself for replay, support and tests. Optional, read-only.
 class PLATFORM_EXPORT PDEPanelDiagnostics
 {
@@ -50,7 +53,8 @@ public:
     virtual ~PDEPanelDiagnostics();
 
     /// One entry per setting, named as the value getter: {"option": bool, "value": text or null,
-    /// "ticket": text or null}; "dryTime" has "popUpOption" and "checkBoxOption" instead of "option".
+    /// "ticket": text or null}; "dryTime" has "popUpOption" and "checkBoxOption" instead of
+    /// "option".
     [[nodiscard]] virtual QJsonObject model() = 0;
     /// Frame records of the panel's views: {"ibPDEView": [x, y, width, height], ...}.
     [[nodiscard]] virtual QJsonObject frames() = 0;
@@ -72,8 +76,8 @@ public:
     [[nodiscard]] virtual QStringList supportedPPDOptionKeys() = 0;
     virtual void willShow() = 0;
     virtual bool shouldHide() = 0;
-    /// Take over what the PPD has marked, and hand over what was chosen. Both always answer true and
-    /// never write @p error, which may be null.
+    /// Take over what the PPD has marked, and hand over what was chosen. Both always answer true
+    /// and never write @p error, which may be null.
     virtual bool restoreValuesAndReturnError(QString *error) = 0;
     virtual bool saveValuesAndReturnError(QString *error) = 0;
     [[nodiscard]] virtual SummaryInfo summaryInfo() = 0;

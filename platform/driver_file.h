@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/export.h"
+
+#include <QString>
+#include <QVariant>
+
+/// Files of the driver whose paths are put together from texts of a PPD. PPDs come from servers.
+namespace platform {
+
+/// Reads the property list at a literal driver path (see platform::resolved()). It is opened only
+/// when the file itself, with every ".." and link on the way followed, lies below the driver root's
+/// "/Library/Printers"; anywhere else it reads as missing.
+[[nodiscard]] PLATFORM_EXPORT QVariant readDriverPropertyList(const QString &literalPath);
+
+} // namespace platform
