@@ -56,9 +56,3 @@ test_run_takes_one_document() {
     run "$project/run" a.pdf b.pdf
     expect_status 2
 }
-
-test_the_scripts_have_no_findings() {
-    command -v shellcheck >/dev/null || exit 77
-    cd "$project" || return
-    shellcheck run check .ci/run tools/*.sh driver/demo/*.sh tests/tools/scripts/*.sh
-}

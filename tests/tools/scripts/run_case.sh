@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # run_case.sh FILE CASE: runs one test function of a file in an empty folder, with the helpers below.
-# A test fails when any of its commands fails; status 77 skips it.
+# A test fails when any of its commands fails.
 set -euo pipefail
 
 project=$(cd "$(dirname "$0")/../../.." && pwd)
