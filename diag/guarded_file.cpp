@@ -1,5 +1,7 @@
 #include "diag/guarded_file.h"
 
+#include "platform/regular_file.h"
+
 #include <cerrno>
 #include <string_view>
 #include <utility>
@@ -74,25 +76,6 @@ std::optional<struct stat> statusOfOwnFile(const Descriptor &file)
     return {};
 }
 
-std::optional<QByteArray> readUpTo(const Descriptor &file, qint64 maximum)
-{
-    QByteArray bytes(maximum + 1, Qt::Uninitialized);
-    qint64 length = 0;
-    while (length <= maximum) {
-        const ssize_t count =
-            ::read(file.get(), bytes.data() + length, std::size_t(bytes.size() - length));
-        if (count < 0)
-            return {};
-        if (count == 0)
-            break;
-        length += count;
-    }
-    if (length > maximum)
-        return {};
-    bytes.truncate(length);
-    return bytes;
-}
-
 std::FILE *streamOfLog(Descriptor file)
 {
     if (!statusOfOwnFile(file))
@@ -111,9 +94,9 @@ std::optional<QByteArray> readGuardedFile(const std::string &folder, const std::
 {
     const Descriptor file = openBelow(folder, name, O_RDONLY);
     const auto status = statusOfOwnFile(file);
-    if (!status || (status->st_mode & (S_IWGRP | S_IWOTH)) != 0 || status->st_size > maximum)
+    if (!status || (status->st_mode & (S_IWGRP | S_IWOTH)) != 0)
         return {};
-    return readUpTo(file, maximum);
+    return platform::readRegularFile(file.get(), maximum);
 }
 
 std::FILE *openGuardedLog(const std::string &folder, const std::string &name)
