@@ -52,18 +52,17 @@ protected:
 class WithoutPrivileges
 {
 public:
-    WithoutPrivileges()
-    {
-        if (::geteuid() == 0)
-            EXPECT_EQ(::setresuid(65534, 65534, 0), 0);
-    }
+    WithoutPrivileges() = default;
     ~WithoutPrivileges()
     {
-        if (::geteuid() == 65534)
-            EXPECT_EQ(::setresuid(0, 0, 0), 0);
+        if (dropped_ && ::setresuid(0, 0, 0) != 0)
+            ADD_FAILURE() << "privileges cannot be taken back";
     }
     WithoutPrivileges(const WithoutPrivileges &) = delete;
     WithoutPrivileges &operator=(const WithoutPrivileges &) = delete;
+
+private:
+    const bool dropped_ = ::geteuid() == 0 && ::setresuid(65534, 65534, 0) == 0;
 };
 
 TEST_F(DebugRecords, Log_12_BytesAreDumpedInUpperCaseHexadecimal)
