@@ -29,6 +29,21 @@ void RadioMatrix::setRows(int rows)
     }
 }
 
+QStringList RadioMatrix::titles() const
+{
+    QStringList titles;
+    for (int row = 0; row < rows(); ++row)
+        titles.append(rowTitle(row));
+    return titles;
+}
+
+void RadioMatrix::setTitles(const QStringList &titles)
+{
+    setRows(static_cast<int>(titles.size()));
+    for (int row = 0; row < rows(); ++row)
+        setRowTitle(row, titles[row]);
+}
+
 int RadioMatrix::selectedRow() const
 {
     return group_->checkedId();

@@ -13,6 +13,8 @@ class PLATFORM_EXPORT RadioMatrix : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(int rows READ rows WRITE setRows)
+    /// As many rows as titles; for interface files.
+    Q_PROPERTY(QStringList titles READ titles WRITE setTitles)
 
 public:
     explicit RadioMatrix(QWidget *parent = nullptr);
@@ -20,6 +22,8 @@ public:
     [[nodiscard]] int rows() const;
     /// Keeps the first @p rows buttons and adds what is missing, untitled.
     void setRows(int rows);
+    [[nodiscard]] QStringList titles() const;
+    void setTitles(const QStringList &titles);
     /// -1 when no row is selected.
     [[nodiscard]] int selectedRow() const;
     /// A row outside the matrix selects none. Emits nothing.
