@@ -84,6 +84,10 @@
         <translation>8) Klicken Sie auf die Schließen-Schaltfläche dieses Fensters.</translation>
     </message>
     <message>
+        <source>Adjusts how dark text and images are printed.</source>
+        <translation>Passt an, wie dunkel Text und Bilder gedruckt werden.</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>Erweiterte Optionen: Spiegelbild (AUS)</translation>
     </message>
@@ -102,6 +106,10 @@
     <message>
         <source>Cartridge(s) installed: Photo</source>
         <translation>Eingesetzte Patrone(n): Foto</translation>
+    </message>
+    <message>
+        <source>Changes how the printer works to correct the problem chosen below.</source>
+        <translation>Ändert die Arbeitsweise des Druckers, um das unten gewählte Problem zu beheben.</translation>
     </message>
     <message>
         <source>Choose an option to resolve the conflict:</source>
@@ -128,12 +136,28 @@
         <translation>Dokumentfarbe: Farbe</translation>
     </message>
     <message>
+        <source>Improve toner fixing</source>
+        <translation>Tonerfixierung verbessern</translation>
+    </message>
+    <message>
+        <source>Improvement</source>
+        <translation>Verbesserung</translation>
+    </message>
+    <message>
+        <source>Improvement Settings</source>
+        <translation>Verbesserungen</translation>
+    </message>
+    <message>
         <source>Ink To Use</source>
         <translation>Zu verwendende Tinte</translation>
     </message>
     <message>
         <source>Instructions</source>
         <translation>Anleitung</translation>
+    </message>
+    <message>
+        <source>Keeps faint copies of an image from appearing further down the page.</source>
+        <translation>Verhindert, dass ein Bild weiter unten auf der Seite schwach noch einmal erscheint.</translation>
     </message>
     <message>
         <source>Layout: Pages per Sheet (&gt;1)</source>
@@ -172,6 +196,10 @@
         <translation>Papiersorte: Normalpapier</translation>
     </message>
     <message>
+        <source>Print Density</source>
+        <translation>Druckdichte</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>Druckqualität: Entwurf</translation>
     </message>
@@ -184,8 +212,24 @@
         <translation>Qualität/Medien</translation>
     </message>
     <message>
+        <source>Reduce Ghosting</source>
+        <translation>Geisterbilder verringern</translation>
+    </message>
+    <message>
+        <source>Reduce paper curl</source>
+        <translation>Papierwellung verringern</translation>
+    </message>
+    <message>
+        <source>Reduce wrinkles or creases</source>
+        <translation>Falten und Knicke verringern</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>Anleitung zum Lösen des Konflikts anzeigen.</translation>
+    </message>
+    <message>
+        <source>The problem that the printer corrects.</source>
+        <translation>Das Problem, das der Drucker behebt.</translation>
     </message>
     <message>
         <source>is not compatible with</source>

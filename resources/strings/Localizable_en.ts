@@ -84,6 +84,10 @@
         <translation>8) Click the close button in the upper left corner of this screen.</translation>
     </message>
     <message>
+        <source>Adjusts how dark text and images are printed.</source>
+        <translation>Adjusts how dark text and images are printed.</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>Advanced Options: Mirror (OFF)</translation>
     </message>
@@ -102,6 +106,10 @@
     <message>
         <source>Cartridge(s) installed: Photo</source>
         <translation>Cartridge(s) installed: Photo</translation>
+    </message>
+    <message>
+        <source>Changes how the printer works to correct the problem chosen below.</source>
+        <translation>Changes how the printer works to correct the problem chosen below.</translation>
     </message>
     <message>
         <source>Choose an option to resolve the conflict:</source>
@@ -128,12 +136,28 @@
         <translation>Document Color: Color</translation>
     </message>
     <message>
+        <source>Improve toner fixing</source>
+        <translation>Improve toner fixing</translation>
+    </message>
+    <message>
+        <source>Improvement</source>
+        <translation>Improvement</translation>
+    </message>
+    <message>
+        <source>Improvement Settings</source>
+        <translation>Improvement Settings</translation>
+    </message>
+    <message>
         <source>Ink To Use</source>
         <translation>Ink To Use</translation>
     </message>
     <message>
         <source>Instructions</source>
         <translation>Instructions</translation>
+    </message>
+    <message>
+        <source>Keeps faint copies of an image from appearing further down the page.</source>
+        <translation>Keeps faint copies of an image from appearing further down the page.</translation>
     </message>
     <message>
         <source>Layout: Pages per Sheet (&gt;1)</source>
@@ -172,6 +196,10 @@
         <translation>Paper Type: Plain Paper</translation>
     </message>
     <message>
+        <source>Print Density</source>
+        <translation>Print Density</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>Print Quality: Draft</translation>
     </message>
@@ -184,8 +212,24 @@
         <translation>Quality &amp; Media</translation>
     </message>
     <message>
+        <source>Reduce Ghosting</source>
+        <translation>Reduce Ghosting</translation>
+    </message>
+    <message>
+        <source>Reduce paper curl</source>
+        <translation>Reduce paper curl</translation>
+    </message>
+    <message>
+        <source>Reduce wrinkles or creases</source>
+        <translation>Reduce wrinkles or creases</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>Show instructions to resolve the conflict settings.</translation>
+    </message>
+    <message>
+        <source>The problem that the printer corrects.</source>
+        <translation>The problem that the printer corrects.</translation>
     </message>
     <message>
         <source>is not compatible with</source>

@@ -84,6 +84,10 @@
         <translation>8) Haga clic en el botón de cierre de esta ventana.</translation>
     </message>
     <message>
+        <source>Adjusts how dark text and images are printed.</source>
+        <translation>Ajusta la intensidad con que se imprimen el texto y las imágenes.</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>Opciones avanzadas: Espejo (DESACTIVADO)</translation>
     </message>
@@ -102,6 +106,10 @@
     <message>
         <source>Cartridge(s) installed: Photo</source>
         <translation>Cartucho(s) instalado(s): Foto</translation>
+    </message>
+    <message>
+        <source>Changes how the printer works to correct the problem chosen below.</source>
+        <translation>Cambia el modo de trabajo de la impresora para corregir el problema elegido abajo.</translation>
     </message>
     <message>
         <source>Choose an option to resolve the conflict:</source>
@@ -128,12 +136,28 @@
         <translation>Color del documento: Color</translation>
     </message>
     <message>
+        <source>Improve toner fixing</source>
+        <translation>Mejorar la fijación del tóner</translation>
+    </message>
+    <message>
+        <source>Improvement</source>
+        <translation>Mejora</translation>
+    </message>
+    <message>
+        <source>Improvement Settings</source>
+        <translation>Ajustes de mejora</translation>
+    </message>
+    <message>
         <source>Ink To Use</source>
         <translation>Tinta que se usará</translation>
     </message>
     <message>
         <source>Instructions</source>
         <translation>Instrucciones</translation>
+    </message>
+    <message>
+        <source>Keeps faint copies of an image from appearing further down the page.</source>
+        <translation>Evita que aparezcan copias tenues de una imagen más abajo en la página.</translation>
     </message>
     <message>
         <source>Layout: Pages per Sheet (&gt;1)</source>
@@ -172,6 +196,10 @@
         <translation>Tipo de papel: Papel normal</translation>
     </message>
     <message>
+        <source>Print Density</source>
+        <translation>Densidad de impresión</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>Calidad de impresión: Borrador</translation>
     </message>
@@ -184,8 +212,24 @@
         <translation>Calidad y material</translation>
     </message>
     <message>
+        <source>Reduce Ghosting</source>
+        <translation>Reducir imágenes fantasma</translation>
+    </message>
+    <message>
+        <source>Reduce paper curl</source>
+        <translation>Reducir la curvatura del papel</translation>
+    </message>
+    <message>
+        <source>Reduce wrinkles or creases</source>
+        <translation>Reducir arrugas o pliegues</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>Mostrar instrucciones para resolver el conflicto.</translation>
+    </message>
+    <message>
+        <source>The problem that the printer corrects.</source>
+        <translation>El problema que corrige la impresora.</translation>
     </message>
     <message>
         <source>is not compatible with</source>

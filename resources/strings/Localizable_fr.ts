@@ -84,6 +84,10 @@
         <translation>8) Cliquez sur le bouton de fermeture de cette fenêtre.</translation>
     </message>
     <message>
+        <source>Adjusts how dark text and images are printed.</source>
+        <translation>Ajuste l’intensité d’impression du texte et des images.</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>Options avancées : Miroir (DÉSACTIVÉ)</translation>
     </message>
@@ -102,6 +106,10 @@
     <message>
         <source>Cartridge(s) installed: Photo</source>
         <translation>Cartouche(s) installée(s) : Photo</translation>
+    </message>
+    <message>
+        <source>Changes how the printer works to correct the problem chosen below.</source>
+        <translation>Modifie le fonctionnement de l’imprimante pour corriger le problème choisi ci-dessous.</translation>
     </message>
     <message>
         <source>Choose an option to resolve the conflict:</source>
@@ -128,12 +136,28 @@
         <translation>Couleur du document : Couleur</translation>
     </message>
     <message>
+        <source>Improve toner fixing</source>
+        <translation>Améliorer la fixation du toner</translation>
+    </message>
+    <message>
+        <source>Improvement</source>
+        <translation>Amélioration</translation>
+    </message>
+    <message>
+        <source>Improvement Settings</source>
+        <translation>Réglages d’amélioration</translation>
+    </message>
+    <message>
         <source>Ink To Use</source>
         <translation>Encre à utiliser</translation>
     </message>
     <message>
         <source>Instructions</source>
         <translation>Instructions</translation>
+    </message>
+    <message>
+        <source>Keeps faint copies of an image from appearing further down the page.</source>
+        <translation>Évite que des copies pâles d’une image apparaissent plus bas sur la page.</translation>
     </message>
     <message>
         <source>Layout: Pages per Sheet (&gt;1)</source>
@@ -172,6 +196,10 @@
         <translation>Type de papier : Papier ordinaire</translation>
     </message>
     <message>
+        <source>Print Density</source>
+        <translation>Densité d’impression</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>Qualité d’impression : Brouillon</translation>
     </message>
@@ -184,8 +212,24 @@
         <translation>Qualité et Papiers</translation>
     </message>
     <message>
+        <source>Reduce Ghosting</source>
+        <translation>Réduire les images fantômes</translation>
+    </message>
+    <message>
+        <source>Reduce paper curl</source>
+        <translation>Réduire le gondolage du papier</translation>
+    </message>
+    <message>
+        <source>Reduce wrinkles or creases</source>
+        <translation>Réduire les plis et les froissements</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>Afficher les instructions pour résoudre le conflit.</translation>
+    </message>
+    <message>
+        <source>The problem that the printer corrects.</source>
+        <translation>Le problème que l’imprimante corrige.</translation>
     </message>
     <message>
         <source>is not compatible with</source>

@@ -84,6 +84,10 @@
         <translation>8) Fare clic sul pulsante di chiusura di questa finestra.</translation>
     </message>
     <message>
+        <source>Adjusts how dark text and images are printed.</source>
+        <translation>Regola l’intensità di stampa di testo e immagini.</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>Opzioni avanzate: Speculare (NON ATTIVO)</translation>
     </message>
@@ -102,6 +106,10 @@
     <message>
         <source>Cartridge(s) installed: Photo</source>
         <translation>Cartucce installate: Foto</translation>
+    </message>
+    <message>
+        <source>Changes how the printer works to correct the problem chosen below.</source>
+        <translation>Modifica il funzionamento della stampante per correggere il problema scelto sotto.</translation>
     </message>
     <message>
         <source>Choose an option to resolve the conflict:</source>
@@ -128,12 +136,28 @@
         <translation>Colore documento: Colore</translation>
     </message>
     <message>
+        <source>Improve toner fixing</source>
+        <translation>Migliora il fissaggio del toner</translation>
+    </message>
+    <message>
+        <source>Improvement</source>
+        <translation>Miglioramento</translation>
+    </message>
+    <message>
+        <source>Improvement Settings</source>
+        <translation>Impostazioni di miglioramento</translation>
+    </message>
+    <message>
         <source>Ink To Use</source>
         <translation>Inchiostro da usare</translation>
     </message>
     <message>
         <source>Instructions</source>
         <translation>Istruzioni</translation>
+    </message>
+    <message>
+        <source>Keeps faint copies of an image from appearing further down the page.</source>
+        <translation>Evita che copie sbiadite di un’immagine appaiano più in basso nella pagina.</translation>
     </message>
     <message>
         <source>Layout: Pages per Sheet (&gt;1)</source>
@@ -172,6 +196,10 @@
         <translation>Tipo di carta: Carta comune</translation>
     </message>
     <message>
+        <source>Print Density</source>
+        <translation>Densità di stampa</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>Qualità di stampa: Bozza</translation>
     </message>
@@ -184,8 +212,24 @@
         <translation>Qualità e Tipo di carta</translation>
     </message>
     <message>
+        <source>Reduce Ghosting</source>
+        <translation>Riduci le immagini fantasma</translation>
+    </message>
+    <message>
+        <source>Reduce paper curl</source>
+        <translation>Riduci l’arricciamento della carta</translation>
+    </message>
+    <message>
+        <source>Reduce wrinkles or creases</source>
+        <translation>Riduci grinze o pieghe</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>Mostrare le istruzioni per risolvere il conflitto.</translation>
+    </message>
+    <message>
+        <source>The problem that the printer corrects.</source>
+        <translation>Il problema che la stampante corregge.</translation>
     </message>
     <message>
         <source>is not compatible with</source>

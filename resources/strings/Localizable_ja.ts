@@ -84,6 +84,10 @@
         <translation>8) このウインドウのクローズボタンをクリックします。</translation>
     </message>
     <message>
+        <source>Adjusts how dark text and images are printed.</source>
+        <translation>文字と画像を印刷する濃さを調整します。</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>追加オプション: 左右反転 (オフ)</translation>
     </message>
@@ -102,6 +106,10 @@
     <message>
         <source>Cartridge(s) installed: Photo</source>
         <translation>取り付け済みカートリッジ: フォト</translation>
+    </message>
+    <message>
+        <source>Changes how the printer works to correct the problem chosen below.</source>
+        <translation>下で選んだ問題を改善するように、プリンターの動作を変えます。</translation>
     </message>
     <message>
         <source>Choose an option to resolve the conflict:</source>
@@ -128,12 +136,28 @@
         <translation>文書の色: カラー</translation>
     </message>
     <message>
+        <source>Improve toner fixing</source>
+        <translation>トナーの定着を良くする</translation>
+    </message>
+    <message>
+        <source>Improvement</source>
+        <translation>改善</translation>
+    </message>
+    <message>
+        <source>Improvement Settings</source>
+        <translation>改善設定</translation>
+    </message>
+    <message>
         <source>Ink To Use</source>
         <translation>使用するインク</translation>
     </message>
     <message>
         <source>Instructions</source>
         <translation>操作手順</translation>
+    </message>
+    <message>
+        <source>Keeps faint copies of an image from appearing further down the page.</source>
+        <translation>画像の薄い残像がページの下のほうに現れるのを防ぎます。</translation>
     </message>
     <message>
         <source>Layout: Pages per Sheet (&gt;1)</source>
@@ -172,6 +196,10 @@
         <translation>用紙の種類: 普通紙</translation>
     </message>
     <message>
+        <source>Print Density</source>
+        <translation>印刷濃度</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>印刷品質: 下書き</translation>
     </message>
@@ -184,8 +212,24 @@
         <translation>印刷品質/用紙の種類</translation>
     </message>
     <message>
+        <source>Reduce Ghosting</source>
+        <translation>ゴーストを減らす</translation>
+    </message>
+    <message>
+        <source>Reduce paper curl</source>
+        <translation>用紙のカールを減らす</translation>
+    </message>
+    <message>
+        <source>Reduce wrinkles or creases</source>
+        <translation>しわや折れを減らす</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>競合を解決する手順を表示する。</translation>
+    </message>
+    <message>
+        <source>The problem that the printer corrects.</source>
+        <translation>プリンターが改善する問題です。</translation>
     </message>
     <message>
         <source>is not compatible with</source>

@@ -84,6 +84,10 @@
         <translation>8) Clique no botão de fechar desta janela.</translation>
     </message>
     <message>
+        <source>Adjusts how dark text and images are printed.</source>
+        <translation>Ajusta a intensidade com que o texto e as imagens são impressos.</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>Opções avançadas: Espelho (DESATIVADO)</translation>
     </message>
@@ -102,6 +106,10 @@
     <message>
         <source>Cartridge(s) installed: Photo</source>
         <translation>Cartucho(s) instalado(s): Foto</translation>
+    </message>
+    <message>
+        <source>Changes how the printer works to correct the problem chosen below.</source>
+        <translation>Altera o funcionamento da impressora para corrigir o problema escolhido abaixo.</translation>
     </message>
     <message>
         <source>Choose an option to resolve the conflict:</source>
@@ -128,12 +136,28 @@
         <translation>Cor do documento: Cor</translation>
     </message>
     <message>
+        <source>Improve toner fixing</source>
+        <translation>Melhorar a fixação do toner</translation>
+    </message>
+    <message>
+        <source>Improvement</source>
+        <translation>Melhoria</translation>
+    </message>
+    <message>
+        <source>Improvement Settings</source>
+        <translation>Definições de melhoria</translation>
+    </message>
+    <message>
         <source>Ink To Use</source>
         <translation>Tinta a usar</translation>
     </message>
     <message>
         <source>Instructions</source>
         <translation>Instruções</translation>
+    </message>
+    <message>
+        <source>Keeps faint copies of an image from appearing further down the page.</source>
+        <translation>Evita que cópias ténues de uma imagem apareçam mais abaixo na página.</translation>
     </message>
     <message>
         <source>Layout: Pages per Sheet (&gt;1)</source>
@@ -172,6 +196,10 @@
         <translation>Tipo de papel: Papel comum</translation>
     </message>
     <message>
+        <source>Print Density</source>
+        <translation>Densidade de impressão</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>Qualidade de impressão: Rascunho</translation>
     </message>
@@ -184,8 +212,24 @@
         <translation>Papel e Qualidade</translation>
     </message>
     <message>
+        <source>Reduce Ghosting</source>
+        <translation>Reduzir imagens fantasma</translation>
+    </message>
+    <message>
+        <source>Reduce paper curl</source>
+        <translation>Reduzir a ondulação do papel</translation>
+    </message>
+    <message>
+        <source>Reduce wrinkles or creases</source>
+        <translation>Reduzir rugas ou vincos</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>Mostrar instruções para resolver o conflito.</translation>
+    </message>
+    <message>
+        <source>The problem that the printer corrects.</source>
+        <translation>O problema que a impressora corrige.</translation>
     </message>
     <message>
         <source>is not compatible with</source>

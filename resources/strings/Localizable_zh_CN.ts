@@ -84,6 +84,10 @@
         <translation>8) 单击此窗口的关闭按钮。</translation>
     </message>
     <message>
+        <source>Adjusts how dark text and images are printed.</source>
+        <translation>调整文字和图像的打印浓度。</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>高级选项: 镜像 (关)</translation>
     </message>
@@ -102,6 +106,10 @@
     <message>
         <source>Cartridge(s) installed: Photo</source>
         <translation>已安装的墨盒: 照片</translation>
+    </message>
+    <message>
+        <source>Changes how the printer works to correct the problem chosen below.</source>
+        <translation>改变打印机的工作方式，以改善下面所选的问题。</translation>
     </message>
     <message>
         <source>Choose an option to resolve the conflict:</source>
@@ -128,12 +136,28 @@
         <translation>文档颜色: 彩色</translation>
     </message>
     <message>
+        <source>Improve toner fixing</source>
+        <translation>改善墨粉定影</translation>
+    </message>
+    <message>
+        <source>Improvement</source>
+        <translation>改善</translation>
+    </message>
+    <message>
+        <source>Improvement Settings</source>
+        <translation>改善设置</translation>
+    </message>
+    <message>
         <source>Ink To Use</source>
         <translation>使用的墨水</translation>
     </message>
     <message>
         <source>Instructions</source>
         <translation>操作说明</translation>
+    </message>
+    <message>
+        <source>Keeps faint copies of an image from appearing further down the page.</source>
+        <translation>防止图像的淡影出现在页面下方。</translation>
     </message>
     <message>
         <source>Layout: Pages per Sheet (&gt;1)</source>
@@ -172,6 +196,10 @@
         <translation>纸张类型: 普通纸</translation>
     </message>
     <message>
+        <source>Print Density</source>
+        <translation>打印浓度</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>打印质量: 草稿</translation>
     </message>
@@ -184,8 +212,24 @@
         <translation>质量与介质</translation>
     </message>
     <message>
+        <source>Reduce Ghosting</source>
+        <translation>减少重影</translation>
+    </message>
+    <message>
+        <source>Reduce paper curl</source>
+        <translation>减少纸张卷曲</translation>
+    </message>
+    <message>
+        <source>Reduce wrinkles or creases</source>
+        <translation>减少褶皱或折痕</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>显示解决冲突的操作说明。</translation>
+    </message>
+    <message>
+        <source>The problem that the printer corrects.</source>
+        <translation>打印机要改善的问题。</translation>
     </message>
     <message>
         <source>is not compatible with</source>

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "model/settings.h"
+#include "other/outlets.h"
+
+#include <QJsonObject>
+
+#include <array>
+#include <cstddef>
+
+/// The four settings of the panel as one table, in the order in which the printer's options are
+/// looked up.
+namespace other {
+
+enum class Setting { ReduceGhosting, PrintDensity, ImprovementSettings, ImprovePrintQuality };
+
+/// What a check box shows before the tickets do.
+enum class Start {
+    OnUnlessOff, ///< on unless the PPD's default is "Off"
+    OnWhenOff,   ///< the reverse, deliberate for ghosting
+    Matrix,      ///< no check box
+};
+
+struct SettingRow
+{
+    Setting setting;
+    const char *keyword;
+    SettingSlots slots;
+    QPointer<QCheckBox> OtherOutlets::*box; ///< null: the matrix
+    Start start;
+    const char *defaultChoice; ///< fixed, whatever the PPD's own default is
+};
+
+#define KV_SLOTS(value, Value)                                                                     \
+    SettingSlots                                                                                   \
+    {                                                                                              \
+        &PDEModel2::value##Option, &PDEModel2::set##Value##Option, &PDEModel2::value,              \
+            &PDEModel2::set##Value, &PDEModel2::value##Ticket, &PDEModel2::set##Value##Ticket      \
+    }
+
+// clang-format off
+inline constexpr std::array<SettingRow, 4> kSettings{{
+    {Setting::ReduceGhosting, "ReduceGhosting", KV_SLOTS(reduceGhosting, ReduceGhosting),
+     &OtherOutlets::ibReduceGhosting, Start::OnWhenOff, "Off"},
+    {Setting::PrintDensity, "PrintDensity", KV_SLOTS(printDensity, PrintDensity),
+     &OtherOutlets::ibImprovePrintDensity, Start::OnUnlessOff, "Off"},
+    {Setting::ImprovementSettings, "ImprovementSettings", KV_SLOTS(improvementSettings, ImprovementSettings),
+     &OtherOutlets::ibImprovementSettings, Start::OnUnlessOff, "Off"},
+    {Setting::ImprovePrintQuality, "ImprovePrintQuality", KV_SLOTS(improvePrintQuality, ImprovePrintQuality),
+     nullptr, Start::Matrix, "ReducePaperCurl"},
+}};
+// clang-format on
+#undef KV_SLOTS
+
+/// The rows of the matrix: the choice of each and the name under which the log mentions it.
+struct ImprovementRow
+{
+    const char *choice;
+    const char *logName;
+};
+
+// clang-format off
+inline constexpr std::array<ImprovementRow, 3> kImprovements{{
+    {"ReducePaperCurl",          "kNSReducePaperCurlChoice"},
+    {"ImproveTonerFixing",       "kNSImproveTonerFixingChoice"},
+    {"ImproveWrinklesorCreases", "kNSImproveWrinklesorCreasesChoice"},
+}};
+// clang-format on
+
+static_assert(
+    [] {
+        for (std::size_t i = 0; i < kSettings.size(); ++i)
+            if (static_cast<std::size_t>(kSettings[i].setting) != i)
+                return false;
+        return true;
+    }(),
+    "the table's rows stand in the order of the settings");
+
+[[nodiscard]] constexpr const SettingRow &row(Setting setting)
+{
+    return kSettings[static_cast<std::size_t>(setting)];
+}
+[[nodiscard]] inline QString keyword(Setting setting)
+{
+    return QString::fromLatin1(row(setting).keyword);
+}
+
+/// One entry per setting, named as the value getter.
+[[nodiscard]] QJsonObject describeModel(const PDEModel2 &model);
+
+} // namespace other
