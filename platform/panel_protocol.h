@@ -17,8 +17,6 @@
 /// The protocol between a print dialog and a panel extension: pure virtual classes, one interface
 /// id. Every call comes on the main thread.
 
-typedef struct ppd_file_s ppd_file_t; // libcups' PPD record, opened and closed by the dialog
-
 /// The host callback object: the dialog, as the panels see it. Outlives the panels.
 class PLATFORM_EXPORT PDEPlugInCallback
 {

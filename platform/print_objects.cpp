@@ -60,3 +60,11 @@ OSStatus PMPaperGetPPDPaperName(PMPaper paper, QString *name)
     *name = paper->ppdName;
     return noErr;
 }
+
+OSStatus GetPPDRefFromSession(PMPrintSession session, ppd_file_t **ppd)
+{
+    if (!session || !session->ppd)
+        return paramErr;
+    *ppd = session->ppd;
+    return noErr;
+}

@@ -8,6 +8,8 @@
 
 #include <map>
 
+typedef struct ppd_file_s ppd_file_t; // libcups' PPD record, opened and closed by the dialog
+
 namespace platform {
 
 /// The job's settings: key to string, integer, real or boolean. Owned by the dialog.
@@ -41,11 +43,12 @@ private:
     Paper paper_;
 };
 
-/// The print session: groups settings and page format of one dialog.
+/// The print session: groups settings, page format and PPD of one dialog, all borrowed.
 struct PrintSession
 {
-    PrintSettings *settings = nullptr; ///< borrowed
-    PageFormat *pageFormat = nullptr;  ///< borrowed
+    PrintSettings *settings = nullptr;
+    PageFormat *pageFormat = nullptr;
+    ppd_file_t *ppd = nullptr;
 };
 
 } // namespace platform
@@ -74,3 +77,7 @@ PLATFORM_EXPORT OSStatus PMGetPageFormatPaper(PMPageFormat pageFormat, PMPaper *
 
 /// Stores the paper's PPD name; a null paper leaves @p name alone and answers paramErr.
 PLATFORM_EXPORT OSStatus PMPaperGetPPDPaperName(PMPaper paper, QString *name);
+
+/// Stores the session's PPD; without one, or with a null handle, leaves @p ppd alone and answers
+/// paramErr.
+PLATFORM_EXPORT OSStatus GetPPDRefFromSession(PMPrintSession session, ppd_file_t **ppd);
