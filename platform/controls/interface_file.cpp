@@ -69,8 +69,6 @@ private:
 class Loader : public QUiLoader
 {
 public:
-    Loader() { setTranslationEnabled(false); }
-
     QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
     {
         if (const WidgetMaker maker = makerOf(className)) {
@@ -78,12 +76,12 @@ public:
             widget->setObjectName(name);
             return widget;
         }
-        if (availableWidgets().contains(className))
+        if (className == QLatin1String("Line") || availableWidgets().contains(className))
             return QUiLoader::createWidget(className, parent, name);
         qCritical("interface file: %s is of the unknown class %s", qUtf8Printable(name),
                   qUtf8Printable(className));
         foundUnknownClass_ = true;
-        return nullptr;
+        return new QWidget(parent); // goes with the rest of the interface
     }
 
     [[nodiscard]] bool foundUnknownClass() const { return foundUnknownClass_; }
@@ -99,14 +97,16 @@ std::unique_ptr<Loader> makeLoader()
     return std::make_unique<Loader>();
 }
 
-/// Copies one <string>, translated unless it is marked otherwise.
+/// Copies one <string>, translated unless it is marked otherwise. The copy is marked, so that
+/// QUiLoader does not hand it to the application's translators.
 void copyString(QXmlStreamReader &from, QXmlStreamWriter &to, const Bundle *bundle)
 {
-    const bool translatable =
-        from.attributes().value(QLatin1String("notr")) != QLatin1String("true");
-    to.writeCurrentToken(from);
+    const QLatin1String mark("notr");
+    const bool marked = from.attributes().value(mark) == QLatin1String("true");
     const QString text = from.readElementText();
-    to.writeCharacters(translatable && !text.isEmpty() ? bundle->localizedString(text) : text);
+    to.writeStartElement(QStringLiteral("string"));
+    to.writeAttribute(mark, QStringLiteral("true"));
+    to.writeCharacters(marked ? text : bundle->localizedString(text));
     to.writeEndElement();
 }
 

@@ -22,9 +22,15 @@ QtMessageHandler &formerHandler()
     return handler;
 }
 
+/// The offscreen platform says so of every window operation that it does not have.
+bool isOfThePlatform(const QString &message)
+{
+    return message.startsWith(QStringLiteral("This plugin does not support "));
+}
+
 void watch(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    if (type == QtDebugMsg || type == QtInfoMsg) {
+    if (type == QtDebugMsg || type == QtInfoMsg || isOfThePlatform(message)) {
         formerHandler()(type, context, message);
         return;
     }
