@@ -5,6 +5,16 @@
 #include "platform/values.h"
 
 namespace conflict {
+namespace {
+
+QString nameIn(const QVariant &current, const QString &slot)
+{
+    const QVariant name =
+        platform::valueForKey(platform::valueForKey(current, slot), QStringLiteral("CartName"));
+    return name.typeId() == QMetaType::QString ? name.toString() : QString();
+}
+
+} // namespace
 
 QString cartridgePreferencesPath(const QString &modelYear)
 {
@@ -12,14 +22,13 @@ QString cartridgePreferencesPath(const QString &modelYear)
            platform::described(modelYear) + QStringLiteral(".plist");
 }
 
-QString installedCartridge(const QString &modelYear, const QString &modelName, const QString &slot)
+Cartridges installedCartridges(const QString &modelYear, const QString &modelName)
 {
-    QVariant level =
+    const QVariant preferences =
         platform::readPropertyList(platform::resolved(cartridgePreferencesPath(modelYear)));
-    for (const QString &key :
-         {modelName, QStringLiteral("Current"), slot, QStringLiteral("CartName")})
-        level = platform::valueForKey(level, key);
-    return level.typeId() == QMetaType::QString ? level.toString() : QString();
+    const QVariant current = platform::valueForKey(platform::valueForKey(preferences, modelName),
+                                                   QStringLiteral("Current"));
+    return {nameIn(current, QStringLiteral("Cart1")), nameIn(current, QStringLiteral("Cart2"))};
 }
 
 } // namespace conflict

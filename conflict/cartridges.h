@@ -8,10 +8,15 @@ namespace conflict {
 /// year stands as "(null)".
 [[nodiscard]] QString cartridgePreferencesPath(const QString &modelYear);
 
-/// Name of the cartridge that the preferences file gives for a model and a slot ("Cart1", "Cart2");
-/// null when the file, a level or a name is missing or of another type. Not trusted, never
-/// blocking.
-[[nodiscard]] QString installedCartridge(const QString &modelYear, const QString &modelName,
-                                         const QString &slot);
+/// Names of the installed cartridges; null where the file, a level or a name is missing or of
+/// another type.
+struct Cartridges
+{
+    QString cart1;
+    QString cart2;
+};
+
+/// Reads the preferences file for a model. The file is not trusted; reading it never blocks.
+[[nodiscard]] Cartridges installedCartridges(const QString &modelYear, const QString &modelName);
 
 } // namespace conflict

@@ -1,5 +1,7 @@
 #include "conflict/flags.h"
 
+#include <initializer_list>
+
 bool HAS_PAPERSIZE_CONFLICT = false;
 bool HAS_PAGESPERSHEET_CONFLICT = false;
 bool HAS_PRINTINBLACK_CONFLICT = false;

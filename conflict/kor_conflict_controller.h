@@ -1,12 +1,15 @@
 #pragma once
 
+#include "conflict/cartridges.h"
 #include "conflict/outlets.h"
-#include "model/pde_model.h"
+#include "conflict/rules.h"
+#include "model/settings.h"
 #include "platform/bundle.h"
 #include "platform/print_objects.h"
 
 #include <QObject>
 
+#include <span>
 #include <vector>
 
 /// Name of the notification that a resolution changed the model; its object is the OK button.
@@ -14,8 +17,20 @@ inline const QString ConflictControllerChangeNotification =
     QStringLiteral("ConflictController calling a UI CHANGE");
 
 namespace conflict {
-struct ChoiceFlags;
-struct Topic;
+
+enum class Window { MsgOne, MsgTwo, MsgFive, Instruction };
+
+/// One choice of a window: its button, the flag that says it is chosen, the labels that say what it
+/// is.
+struct Choice
+{
+    QRadioButton *button; ///< null while the window is not loaded
+    bool *flag;
+    std::vector<QLabel *> labels;
+};
+
+struct Instructed;
+
 } // namespace conflict
 
 /// Looks at the settings of the Quality & Media panel for combinations that the printer cannot
@@ -89,27 +104,41 @@ private:
     friend struct ConflictTestAccess;
 
     [[nodiscard]] QString localized(const char *key) const;
-    [[nodiscard]] QString modelName() const;
     [[nodiscard]] QString currentPaperSize();
     [[nodiscard]] QString shownPaperSize();
-    [[nodiscard]] QString cartridgeIn(const char *slot) const;
+    [[nodiscard]] conflict::Cartridges installedCartridges() const;
+    [[nodiscard]] conflict::Situation gatherSituation();
 
     [[nodiscard]] bool loadWindows();
     void connectWindows();
-    void resetChoices();
-    void resetChoices_MsgOne();
-    void resetChoices_MsgTwo();
-    void resetChoices_MsgFive();
+    [[nodiscard]] QDialog *windowOf(conflict::Window window) const;
+    [[nodiscard]] std::vector<conflict::Choice> choicesOf(conflict::Window window);
+    void choose(conflict::Window window, std::size_t index, const QRadioButton *sender);
+    void resetChoiceFlags(conflict::Window window);
+    void resetChoices(conflict::Window window);
+    void nameChoices(conflict::Window window);
 
     enum class Pass { GoesOn, Ends };
     [[nodiscard]] Pass showConflict(int caseNumber);
-    [[nodiscard]] Pass runWindow(QDialog *window);
+    void compose(conflict::Window window, quint8 kind);
+    void endWindow(conflict::Window window);
     void runInstructions();
     void postChange(QPushButton *button);
 
-    void applyPaperSizeResolution();
-    void applyColorOutputResolution();
-    void composeFirstMsgFiveChoice(const QString &text);
+    void composePaperSizeConflict();
+    void composePrintInBlackConflict();
+    void composeCartridgeConflict();
+    void composeInkToUseConflict();
+    [[nodiscard]] QString shownPaperType() const;
+    [[nodiscard]] QString offeredPaperTypeText();
+    [[nodiscard]] QString utilityLine() const;
+
+    void setChoice(const SettingSlots &slots, const char *keyword);
+    void applyFirstChoice_MsgTwo();
+    void applyThirdChoice_MsgTwo();
+    void applyFirstChoice_MsgFive();
+    [[nodiscard]] const char *appliedPaperType();
+    void composeInstructionsFor(std::span<const conflict::Instructed> kinds);
 
     PMPageFormat mPageFormat;
     PMPrintSettings mPrintSetting;

@@ -5,8 +5,7 @@
 platform::OutletTable ConflictOutlets::table()
 {
     platform::OutletTable outlets;
-    outlets
-        .KV_OUTLET(ibMsgOneWindow)
+    outlets.KV_OUTLET(ibMsgOneWindow)
         .KV_OUTLET(ibLabelA_MsgOne)
         .KV_OUTLET(ibLabelB_MsgOne)
         .KV_OUTLET(ibLabelC_MsgOne)
@@ -20,8 +19,7 @@ platform::OutletTable ConflictOutlets::table()
         .KV_OUTLET(ibLabelB_SecondButton_MsgOne)
         .KV_OUTLET(ibLabelA_ThirdButton_MsgOne)
         .KV_OUTLET(ibOkButton_MsgOne);
-    outlets
-        .KV_OUTLET(ibMsgTwoWindow)
+    outlets.KV_OUTLET(ibMsgTwoWindow)
         .KV_OUTLET(ibLabelA_MsgTwo)
         .KV_OUTLET(ibLabelB_MsgTwo)
         .KV_OUTLET(ibLabelC_MsgTwo)
@@ -34,8 +32,7 @@ platform::OutletTable ConflictOutlets::table()
         .KV_OUTLET(ibLabelA_SecondButton_MsgTwo)
         .KV_OUTLET(ibLabelA_ThirdButton_MsgTwo)
         .KV_OUTLET(ibOkButton_MsgTwo);
-    outlets
-        .KV_OUTLET(ibMsgFiveWindow)
+    outlets.KV_OUTLET(ibMsgFiveWindow)
         .KV_OUTLET(ibLabelA_MsgFive)
         .KV_OUTLET(ibLabelB_MsgFive)
         .KV_OUTLET(ibLabelC_MsgFive)
@@ -46,8 +43,6 @@ platform::OutletTable ConflictOutlets::table()
         .KV_OUTLET(ibLabelB_FirstButton_MsgFive)
         .KV_OUTLET(ibLabelA_SecondButton_MsgFive)
         .KV_OUTLET(ibOkButton_MsgFive);
-    outlets
-        .KV_OUTLET(ibInstructionWindow)
-        .KV_OUTLET(ibInstructionText);
+    outlets.KV_OUTLET(ibInstructionWindow).KV_OUTLET(ibInstructionText);
     return outlets;
 }

@@ -21,7 +21,7 @@ class Session
 public:
     explicit Session(QDialog *window) : window_(window)
     {
-        QObject::connect(window, &QObject::destroyed, &loop_, [this] { stop(); });
+        QObject::connect(window, &QObject::destroyed, &loop_, [this] { abandon(); });
     }
 
     void run()
@@ -29,6 +29,9 @@ public:
         // A loop that starts forgets an earlier request to quit.
         if (!stopped_)
             loop_.exec();
+        // A program that quits ends every loop, and no new one would run.
+        if (!stopped_)
+            abandon();
     }
 
     void stop()
@@ -37,12 +40,21 @@ public:
         loop_.quit();
     }
 
+    /// Also a session that was stopped and has not returned yet counts as abandoned from now on.
+    void abandon()
+    {
+        end_ = ModalEnd::Abandoned;
+        stop();
+    }
+
+    [[nodiscard]] ModalEnd end() const { return end_; }
     [[nodiscard]] bool isOf(const QDialog *window) const { return window_ == window; }
 
 private:
     QPointer<QDialog> window_;
     QEventLoop loop_;
     bool stopped_ = false;
+    ModalEnd end_ = ModalEnd::Stopped;
 };
 
 /// Innermost last.
@@ -151,13 +163,13 @@ private:
 
 } // namespace
 
-void runModalForWindow(QDialog *window)
+ModalEnd runModalForWindow(QDialog *window)
 {
     if (!window)
-        return;
+        return ModalEnd::Abandoned;
     if (isRunning(window)) {
         qWarning("window %s runs already", qUtf8Printable(window->objectName()));
-        return;
+        return ModalEnd::Abandoned;
     }
     const QPointer<QDialog> guard = window;
     const QString name = window->objectName();
@@ -172,6 +184,7 @@ void runModalForWindow(QDialog *window)
     if (guard)
         endModality(window, former);
     Q_EMIT ModalSessions::shared().closed(name);
+    return session.end();
 }
 
 void stopModal()
@@ -183,7 +196,7 @@ void stopModal()
 void stopAllModalSessions()
 {
     for (auto session = sessions().rbegin(); session != sessions().rend(); ++session)
-        (*session)->stop();
+        (*session)->abandon();
 }
 
 int modalDepth()
@@ -215,6 +228,22 @@ void closeWindow(QDialog *window)
 {
     if (window && window->isVisible())
         window->close();
+}
+
+void discardWindow(QDialog *window)
+{
+    if (!window)
+        return;
+    if (modalDepth() == 0) {
+        delete window;
+        return;
+    }
+    for (Session *session : sessions()) {
+        if (session->isOf(window))
+            session->abandon();
+    }
+    window->hide();
+    window->deleteLater();
 }
 
 ModalSessions &ModalSessions::shared()

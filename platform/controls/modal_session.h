@@ -13,10 +13,15 @@ class QDialog;
 /// inside the call that runs it. The windows underneath go on repainting.
 namespace platform {
 
+/// How a session ended: Stopped by stopModal(); Abandoned because the window was destroyed or could
+/// not be run, or because everything is closing. After an abandoned one a person is not asked
+/// anything more.
+enum class ModalEnd { Stopped, Abandoned };
+
 /// Runs a window until stopModal() ends its session or the window is destroyed, then returns. The
 /// caller must check that it still lives itself. A null window returns at once. A window that
 /// already runs is refused with a warning.
-PLATFORM_EXPORT void runModalForWindow(QDialog *window);
+PLATFORM_EXPORT ModalEnd runModalForWindow(QDialog *window);
 
 /// Ends the innermost session that is still running; never one further out, and calling it twice
 /// before the loop has returned ends only that one. Without a session it does nothing. The window
@@ -41,6 +46,11 @@ PLATFORM_EXPORT void setWindowDelegate(QDialog *window, QObject *context,
 /// Closes a window, telling its delegate; null and hidden windows do nothing.
 PLATFORM_EXPORT void closeWindow(QDialog *window);
 
+/// Destroys a window that its owner no longer needs: at once, or, while modal sessions run and one
+/// of its own events may be under way, as soon as control is back in an event loop. Null does
+/// nothing.
+PLATFORM_EXPORT void discardWindow(QDialog *window);
+
 /// Tells watchers (replay, the dialog) when modal windows open and close.
 class PLATFORM_EXPORT ModalSessions : public QObject
 {
@@ -56,7 +66,7 @@ Q_SIGNALS:
     void closed(const QString &objectName);
 
 private:
-    friend void runModalForWindow(QDialog *);
+    friend ModalEnd runModalForWindow(QDialog *);
     ModalSessions() = default;
 };
 
