@@ -24,12 +24,16 @@ QString withoutFinalLineFeed(const QString &line)
 
 void writeConsole(const QString &line)
 {
-    if (currentSink())
-        currentSink()(line);
+    const ConsoleSink sink = currentSink(); // a copy, for a sink that replaces itself
+    if (sink)
+        sink(line);
     else
         qCInfo(lcConsole).noquote() << withoutFinalLineFeed(line);
 }
 
-ConsoleSink setConsoleSink(ConsoleSink sink) { return std::exchange(currentSink(), std::move(sink)); }
+ConsoleSink setConsoleSink(ConsoleSink sink)
+{
+    return std::exchange(currentSink(), std::move(sink));
+}
 
 } // namespace platform

@@ -11,8 +11,8 @@ namespace platform {
 
 using ConsoleSink = std::function<void(const QString &line)>;
 
-/// Writes one line, which stands as it is: no format is read from it, and a line feed at its end, if
-/// any, belongs to it.
+/// Writes one line, which stands as it is: no format is read from it, and a line feed at its end,
+/// if any, belongs to it.
 PLATFORM_EXPORT void writeConsole(const QString &line);
 
 /// Replaces where lines go and returns the former sink. An empty sink restores the default, the Qt

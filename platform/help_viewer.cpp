@@ -62,8 +62,9 @@ OSStatus AHRegisterHelpBook(const FSRef &book)
 
 OSStatus AHGotoPage(const QString &bookName, const QString &page, const QString &anchor)
 {
-    if (currentOpener())
-        currentOpener()(
+    const platform::HelpOpener opener = currentOpener(); // a copy, for one that replaces itself
+    if (opener)
+        opener(
             {.bookName = bookName, .bookPath = bookPath(bookName), .page = page, .anchor = anchor});
     return noErr;
 }

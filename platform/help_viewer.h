@@ -7,14 +7,16 @@
 
 #include <functional>
 
-/// The help viewer: knows registered books and opens them by name. The dialog sets what opening does.
+/// The help viewer: knows registered books and opens them by name. The dialog sets what opening
+/// does.
 
 namespace platform {
 
 struct HelpRequest
 {
     QString bookName; ///< null when the caller named none
-    QString bookPath; ///< real path of the registered bundle of that name; null when none was registered
+    QString bookPath; ///< real path of the registered bundle of that name; null when none was
+                      ///< registered
     QString page;     ///< null for the book's first page
     QString anchor;
 };
@@ -32,13 +34,15 @@ struct FSRef
     QString realPath;
 };
 
-/// Finds the file at a literal path under the driver root. False, with the reference untouched, when
-/// there is none.
+/// Finds the file at a literal path under the driver root. False, with the reference untouched,
+/// when there is none.
 PLATFORM_EXPORT bool CFURLGetFSRef(const QString &literalPath, FSRef *reference);
 
-/// Registers a help-book bundle under its "CFBundleHelpBookName"; paramErr when it has none.
+/// Registers a help-book bundle under its "CFBundleHelpBookName", in place of an earlier one of
+/// that name; paramErr when it has no name.
 PLATFORM_EXPORT OSStatus AHRegisterHelpBook(const FSRef &book);
 
-/// Opens a book by name (null allowed), at a page and an anchor where they are not null.
+/// Opens a book by name (null allowed), at a page and an anchor where they are not null. Always
+/// noErr.
 PLATFORM_EXPORT OSStatus AHGotoPage(const QString &bookName, const QString &page,
                                     const QString &anchor);

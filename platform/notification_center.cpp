@@ -1,6 +1,9 @@
 #include "platform/notification_center.h"
 
+#include "platform/strings.h"
+
 #include <algorithm>
+#include <utility>
 
 namespace platform {
 
@@ -27,7 +30,7 @@ void NotificationCenter::post(const QString &name, QObject *object)
 {
     const std::vector<Registration> receivers = registrations_;
     for (const Registration &receiver : receivers) {
-        const bool wanted = receiver.name.isNull() || receiver.name == name;
+        const bool wanted = receiver.name.isNull() || isEqual(receiver.name, name);
         if (wanted && receiver.observer && isRegistered(receiver.id))
             receiver.handler({name, object});
     }
@@ -35,9 +38,9 @@ void NotificationCenter::post(const QString &name, QObject *object)
 
 int NotificationCenter::observerCount() const
 {
-    return static_cast<int>(
-        std::count_if(registrations_.begin(), registrations_.end(),
-                      [](const Registration &registration) { return !registration.observer.isNull(); }));
+    return static_cast<int>(std::count_if(
+        registrations_.begin(), registrations_.end(),
+        [](const Registration &registration) { return !registration.observer.isNull(); }));
 }
 
 bool NotificationCenter::isRegistered(quint64 id) const

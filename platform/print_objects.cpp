@@ -8,9 +8,15 @@ QVariant PrintSettings::value(const QString &key) const
     return found == values_.end() ? QVariant() : found->second;
 }
 
-void PrintSettings::setValue(const QString &key, const QVariant &value) { values_[key] = value; }
+void PrintSettings::setValue(const QString &key, const QVariant &value)
+{
+    values_[key] = value;
+}
 
-void PrintSettings::remove(const QString &key) { values_.erase(key); }
+void PrintSettings::remove(const QString &key)
+{
+    values_.erase(key);
+}
 
 } // namespace platform
 
@@ -18,14 +24,13 @@ namespace {
 
 bool isNullValue(const QVariant &value)
 {
-    return !value.isValid() ||
-           (value.typeId() == QMetaType::QString && value.toString().isNull());
+    return value.isNull() || (value.typeId() == QMetaType::QString && value.toString().isNull());
 }
 
 } // namespace
 
-OSStatus PMPrintSettingsSetValue(PMPrintSettings settings, const QString &key, const QVariant &value,
-                                 PMLock)
+OSStatus PMPrintSettingsSetValue(PMPrintSettings settings, const QString &key,
+                                 const QVariant &value, PMLock)
 {
     if (!settings)
         return paramErr;

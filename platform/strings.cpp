@@ -2,6 +2,7 @@
 
 #include <QStringDecoder>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -11,9 +12,18 @@ namespace {
 constexpr int kMax = std::numeric_limits<int>::max();
 constexpr int kMin = std::numeric_limits<int>::min();
 
-bool isSign(QChar c) { return c == u'+' || c == u'-'; }
+/// What the Shift_JIS decoder writes for bytes that it cannot read.
+constexpr QChar kSubstitute(u'\x1A');
 
-bool isAsciiDigit(QChar c) { return c >= u'0' && c <= u'9'; }
+bool isSign(QChar c)
+{
+    return c == u'+' || c == u'-';
+}
+
+bool isAsciiDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
 
 qsizetype afterWhiteSpace(const QString &text)
 {
@@ -50,12 +60,18 @@ bool readsAsTrue(const QString &text)
 const char *decoderName(unsigned long stringEncoding)
 {
     switch (stringEncoding) {
-    case encoding::utf8: return "UTF-8";
-    case encoding::isoLatin1: return "ISO-8859-1";
-    case encoding::shiftJis: return "Shift_JIS";
-    case encoding::windowsLatin1: return "windows-1252";
-    case encoding::macRoman: return "macintosh";
-    default: return nullptr;
+    case encoding::utf8:
+        return "UTF-8";
+    case encoding::isoLatin1:
+        return "ISO-8859-1";
+    case encoding::shiftJis:
+        return "Shift_JIS";
+    case encoding::windowsLatin1:
+        return "windows-1252";
+    case encoding::macRoman:
+        return "macintosh";
+    default:
+        return nullptr;
     }
 }
 
@@ -70,7 +86,10 @@ QString decodedAscii(const QByteArray &bytes)
 
 } // namespace
 
-bool isEqual(const QString &a, const QString &b) { return a.isNull() == b.isNull() && a == b; }
+bool isEqual(const QString &a, const QString &b)
+{
+    return a.isNull() == b.isNull() && a == b;
+}
 
 bool isSameObject(const QString &a, const QString &b)
 {
@@ -101,28 +120,40 @@ int integerValue(const QString &text)
 int integerValue(const QVariant &value)
 {
     switch (value.typeId()) {
-    case QMetaType::Bool: return value.toBool() ? 1 : 0;
-    case QMetaType::Int: return value.toInt();
+    case QMetaType::Bool:
+        return value.toBool() ? 1 : 0;
+    case QMetaType::Int:
+        return value.toInt();
     case QMetaType::LongLong:
         return static_cast<int>(std::clamp<qint64>(value.toLongLong(), kMin, kMax));
     case QMetaType::ULongLong:
         return static_cast<int>(std::min<quint64>(value.toULongLong(), quint64{kMax}));
-    case QMetaType::Double: return saturated(value.toDouble());
-    case QMetaType::QString: return integerValue(value.toString());
-    default: return 0;
+    case QMetaType::Double:
+        return saturated(value.toDouble());
+    case QMetaType::QString:
+        return integerValue(value.toString());
+    default:
+        return 0;
     }
 }
 
 bool booleanValue(const QVariant &value)
 {
     switch (value.typeId()) {
-    case QMetaType::Bool: return value.toBool();
-    case QMetaType::Int: return value.toInt() != 0;
-    case QMetaType::LongLong: return value.toLongLong() != 0;
-    case QMetaType::ULongLong: return value.toULongLong() != 0;
-    case QMetaType::Double: return value.toDouble() != 0.0;
-    case QMetaType::QString: return readsAsTrue(value.toString());
-    default: return false;
+    case QMetaType::Bool:
+        return value.toBool();
+    case QMetaType::Int:
+        return value.toInt() != 0;
+    case QMetaType::LongLong:
+        return value.toLongLong() != 0;
+    case QMetaType::ULongLong:
+        return value.toULongLong() != 0;
+    case QMetaType::Double:
+        return value.toDouble() != 0.0;
+    case QMetaType::QString:
+        return readsAsTrue(value.toString());
+    default:
+        return false;
     }
 }
 
@@ -168,11 +199,17 @@ QString decoded(const char *bytes, unsigned long stringEncoding)
     const char *name = decoderName(stringEncoding);
     if (!name)
         return {};
-    QStringDecoder decoder(name);
-    const QString text = decoder.decode(data);
+    // Stateless: a character that is cut off at the end shows as one that cannot be read.
+    QStringDecoder decoder(name, QStringConverter::Flag::Stateless);
+    QString text = decoder.decode(data);
+    if (stringEncoding == encoding::shiftJis)
+        text.replace(kSubstitute, QChar(QChar::ReplacementCharacter));
     return text.isEmpty() ? QStringLiteral("") : text;
 }
 
-QString decodedUtf8(const char *bytes) { return decoded(bytes, encoding::utf8); }
+QString decodedUtf8(const char *bytes)
+{
+    return decoded(bytes, encoding::utf8);
+}
 
 } // namespace platform

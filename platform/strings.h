@@ -5,8 +5,8 @@
 #include <QString>
 #include <QVariant>
 
-/// Text and number rules of the print panels. A null QString stands for "no string" and is never the
-/// same as an empty one; QString's own operator== does not know the difference.
+/// Text and number rules of the print panels. A null QString stands for "no string" and is never
+/// the same as an empty one; QString's own operator== does not know the difference.
 namespace platform {
 
 /// Exact comparison in which null equals null only.
@@ -52,8 +52,9 @@ inline constexpr unsigned long windowsLatin1 = 12;
 inline constexpr unsigned long macRoman = 30;
 } // namespace encoding
 
-/// NUL-terminated bytes as text. A null pointer and an unknown encoding give null. ASCII bytes above
-/// 127 make the whole result null; the other encodings replace what they cannot read by U+FFFD.
+/// NUL-terminated bytes as text. A null pointer and an unknown encoding give null. ASCII bytes
+/// above 127 make the whole result null; the other encodings replace what they cannot read by
+/// U+FFFD.
 [[nodiscard]] PLATFORM_EXPORT QString decoded(const char *bytes, unsigned long stringEncoding);
 
 /// decoded() as UTF-8.

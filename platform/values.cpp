@@ -4,6 +4,8 @@
 #include <QLocale>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace platform {
 namespace {
 
@@ -27,39 +29,24 @@ Values &values()
 /// "de_AT.UTF-8@euro" without encoding and modifier; the C locale's names read as English.
 QString fromPosix(const QString &name)
 {
-    QString language = name;
-    language.truncate(std::min(language.indexOf(u'.') < 0 ? language.size() : language.indexOf(u'.'),
-                               language.indexOf(u'@') < 0 ? language.size()
-                                                          : language.indexOf(u'@')));
-    if (language == QStringLiteral("C") || language == QStringLiteral("POSIX"))
-        return QStringLiteral("en");
-    return language;
-}
-
-QStringList languagesOfEnvironment()
-{
-    const QString list = qEnvironmentVariable("LANGUAGE");
-    if (!list.isEmpty()) {
-        QStringList languages;
-        for (const QString &name : list.split(u':', Qt::SkipEmptyParts))
-            languages.append(fromPosix(name));
-        return languages;
-    }
-    for (const char *variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        const QString name = qEnvironmentVariable(variable);
-        if (!name.isEmpty())
-            return {fromPosix(name)};
-    }
-    return {QStringLiteral("en")};
+    static const QRegularExpression end(QStringLiteral("[.@]"));
+    const QString language = name.left(name.indexOf(end));
+    const bool isUnnamed = language.isEmpty() || language == QStringLiteral("C") ||
+                           language == QStringLiteral("POSIX");
+    return isUnnamed ? QStringLiteral("en") : language;
 }
 
 } // namespace
 
-QString driverRoot() { return values().driverRoot; }
+QString driverRoot()
+{
+    return values().driverRoot;
+}
 
 void setDriverRoot(const QString &root)
 {
-    values().driverRoot = root.isEmpty() ? QStringLiteral("") : QDir::cleanPath(root);
+    const QString folder = QDir::cleanPath(root);
+    values().driverRoot = folder.isEmpty() || folder == u'/' ? QStringLiteral("") : folder;
 }
 
 QString resolved(const QString &literalPath)
@@ -67,9 +54,26 @@ QString resolved(const QString &literalPath)
     return literalPath.startsWith(u'/') ? values().driverRoot + literalPath : literalPath;
 }
 
-int systemVersion() { return values().systemVersion; }
+int systemVersion()
+{
+    return values().systemVersion;
+}
 
-void setSystemVersion(int version) { values().systemVersion = version; }
+void setSystemVersion(int version)
+{
+    values().systemVersion = version;
+}
+
+QStringList languagesOfEnvironment()
+{
+    for (const char *variable : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"}) {
+        QStringList languages = qEnvironmentVariable(variable).split(u':', Qt::SkipEmptyParts);
+        std::transform(languages.begin(), languages.end(), languages.begin(), fromPosix);
+        if (!languages.isEmpty())
+            return languages;
+    }
+    return {QStringLiteral("en")};
+}
 
 QStringList preferredLanguages()
 {
@@ -96,12 +100,15 @@ QString localeIdentifier()
 
 QString localeLanguageCode()
 {
+    static const QRegularExpression end(QStringLiteral("[_-]"));
     const QString identifier = localeIdentifier();
-    const qsizetype end = identifier.indexOf(QRegularExpression(QStringLiteral("[_-]")));
-    return end < 0 ? identifier : identifier.left(end);
+    return identifier.left(identifier.indexOf(end));
 }
 
-void setLocaleIdentifier(const QString &identifier) { values().localeIdentifier = identifier; }
+void setLocaleIdentifier(const QString &identifier)
+{
+    values().localeIdentifier = identifier;
+}
 
 QString temporaryDirectory()
 {

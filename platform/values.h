@@ -7,8 +7,8 @@
 
 #include <cstdint>
 
-/// What the operating system says about itself and its user. The host may set each value, before the
-/// first panel is created; every value has a default taken from the running system.
+/// What the operating system says about itself and its user. The host may set each value, before
+/// the first panel is created; every value has a default taken from the running system.
 namespace platform {
 
 /// Folder under which every absolute driver path ("/Library/Printers/...") is looked up; "" is the
@@ -22,10 +22,12 @@ PLATFORM_EXPORT void setDriverRoot(const QString &root);
 [[nodiscard]] PLATFORM_EXPORT int systemVersion();
 PLATFORM_EXPORT void setSystemVersion(int version);
 
-/// The user's languages, most wanted first. Default: LANGUAGE, LC_ALL, LC_MESSAGES, LANG, the first
-/// of them that is set, in POSIX form without encoding ("zh_CN"); C and POSIX give "en".
+/// The user's languages, most wanted first; those of the environment until the host sets others.
 [[nodiscard]] PLATFORM_EXPORT QStringList preferredLanguages();
 PLATFORM_EXPORT void setPreferredLanguages(const QStringList &languages);
+/// From LANGUAGE, LC_ALL, LC_MESSAGES, LANG, the first of them that names any, in POSIX form
+/// without encoding and modifier ("zh_CN"); C, POSIX and an empty environment give "en".
+[[nodiscard]] PLATFORM_EXPORT QStringList languagesOfEnvironment();
 /// The first preferred language; null when there is none.
 [[nodiscard]] PLATFORM_EXPORT QString firstPreferredLanguage();
 
@@ -49,6 +51,6 @@ inline constexpr OSStatus gestaltUndefSelectorErr = -5551;
 /// The four characters "sysv".
 inline constexpr OSType gestaltSystemVersion = 0x73797376;
 
-/// Stores systemVersion() for gestaltSystemVersion. Any other selector leaves the response alone and
-/// returns gestaltUndefSelectorErr.
+/// Stores systemVersion() for gestaltSystemVersion. Any other selector leaves the response alone
+/// and returns gestaltUndefSelectorErr.
 PLATFORM_EXPORT OSStatus Gestalt(OSType selector, std::int32_t *response);
