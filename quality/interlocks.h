@@ -96,8 +96,8 @@ struct MirrorSituation
 {
     MirrorPlace place = MirrorPlace::PrintSettings;
     QString paperTypeTicket;
-    QString mirror; ///< the model's value
-    bool isMirrorInPrintSettings = false;
+    QString mirror;                       ///< the model's value
+    bool isMirrorInPrintSettings = false; ///< looked at for a new paper type only
     bool isMirrorSetByIronOn = false;
     bool isMirrorManuallySet = false;
     bool isMirrorSetDuringPreset = false;

@@ -3,6 +3,7 @@
 #include "conflict/kor_conflict_controller.h"
 #include "model/pde_model.h"
 #include "model/pde_tools.h"
+#include "model/settings.h"
 #include "platform/bundle.h"
 #include "platform/panel_protocol.h"
 #include "quality/interlocks.h"
@@ -18,6 +19,8 @@
 #include <dirent.h>
 
 #include <memory>
+#include <optional>
+#include <vector>
 
 /// Name of the notification that the advanced options were opened or closed; geometry is final when
 /// it is posted, with the disclosure triangle as its object.
@@ -118,6 +121,9 @@ public:
     /// frame records; zeros for a missing view.
     [[nodiscard]] QJsonObject frames() const;
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     friend struct QualityTestAccess;
     struct DirectoryCloser
@@ -125,76 +131,95 @@ private:
         void operator()(DIR *directory) const { closedir(directory); }
     };
 
-    // Model and PPD.
+    struct PickedChoice
+    {
+        QString text;
+        QString keyword;
+    };
+    enum class WhenNull { Select, Leave };
+
+    // The model's settings.
+    [[nodiscard]] ppd_option_t *optionOf(quality::Setting setting) const;
     [[nodiscard]] bool hasOption(quality::Setting setting) const;
+    [[nodiscard]] quality::SettingSet optionsOfPrinter() const;
     [[nodiscard]] QString valueOf(quality::Setting setting) const;
     [[nodiscard]] QString ticketOf(quality::Setting setting) const;
     void storeSetting(quality::Setting setting, const QString &choice);
     void storeStrings(quality::Setting setting, const QString &value, const QString &ticket);
-    void offerTicket(quality::Setting setting);
     void storeColorPreferencesDefault();
-    void resetDryTimeToDefault();
-    void storeThreshold();
-    void reportUnusualPPD() const;
+    void storeMirrorWord(const QString &word);
 
-    // Steps of the operations, each named after what it does.
-    void fillPopUps();
+    // Set-up.
+    void reportUnusualPPD() const;
+    void reportUnusualLabels() const;
+    void setDryTimeOption(ppd_file_t *ppd);
+    void resetDryTime();
+    [[nodiscard]] QStringList supportedDryTime() const;
+    void takeOverColorPreferences(const PDEModel2 &marked);
+    void takeOverInkToUse(const PDEModel2 &marked);
+    void takeOverColorOutput(const PDEModel2 &marked);
+    void takeOverMirror(const PDEModel2 &marked);
+
+    // Actions.
+    void perform(quality::Setting setting);
+    [[nodiscard]] PickedChoice choiceAtIndex(quality::Setting setting, int index);
+    [[nodiscard]] PickedChoice pickedChoice(quality::Setting setting);
+    void takeThenOffer(quality::Setting setting);
+    void offerThenTake(quality::Setting setting);
+    void askFirst(quality::Setting setting);
+    void takeBox(quality::Setting setting, const SettingSlots &slots);
+    bool offerTicket(quality::Setting setting);
+    [[nodiscard]] std::optional<PickedChoice> inkAt(int mappedIndex);
+    void takeInkFromPopUp();
+    void takeColorOutput();
+    void followPaperTypeWithMirror();
+    void restorePaperType(const PickedChoice &before);
+    void takeThresholdFromStepper();
+
+    // Synchronisation.
+    [[nodiscard]] static QString hostGrayscale();
+    [[nodiscard]] PopUpButton *popUpOf(quality::Setting setting) const;
+    [[nodiscard]] QCheckBox *boxOf(quality::Setting setting) const;
+    [[nodiscard]] QLabel *labelOf(quality::Setting setting) const;
+    [[nodiscard]] std::vector<QWidget *> controlsOf(quality::Setting setting) const;
+    void fillControls();
     void fillPopUp(quality::Setting setting);
     void fillInkToUse(const QString &exclusion);
+    [[nodiscard]] bool isDefaultOff(quality::Setting setting) const;
     void initializeTonerSave();
     void initializePaperSource();
     void initializeThreshold();
     void initializeHalftone();
     void initializeMirror();
     void initializeSharpen();
-    void takeOverColorPreferences(const PDEModel2 &marked);
-    void takeOverInkToUse(const PDEModel2 &marked);
-    void takeOverColorOutput(const PDEModel2 &marked);
-    void takeOverMirror(const PDEModel2 &marked);
-    void takeOverThreshold(const PDEModel2 &marked);
-
-    struct PickedChoice
-    {
-        QString text;
-        QString keyword;
-    };
-    [[nodiscard]] PickedChoice pickedChoice(quality::Setting setting, int index);
-    void takePickedChoice(quality::Setting setting);
-    void offerBeforeTaking(quality::Setting setting);
-    void takeBoxState(quality::Setting setting);
-    [[nodiscard]] PickedChoice inkAt(int popUpIndex, int choiceIndex);
-    void takeInkFromPopUp();
-    void offerDependentTickets();
-
-    [[nodiscard]] quality::ColorOutputSituation colorOutputSituation(quality::Occasion) const;
+    bool selectValueIfDifferent(quality::Setting setting, WhenNull whenNull);
+    void selectValue(quality::Setting setting);
+    void tickOnTicket(quality::Setting setting);
+    void synchronizeMirrorBox(int stateBefore);
+    void follow(quality::Setting setting);
     void applyColorOutputPlan(quality::Occasion occasion);
     void apply(const quality::Interlock &interlock);
-    void applyToTonerSave(quality::Effect effect);
+    void setControlsEnabled(quality::Setting setting, bool enabled);
     void showNeutralThreshold();
-    void storeBox(quality::Setting setting);
-
     [[nodiscard]] quality::MirrorSituation mirrorSituation() const;
-    void applyMirror(quality::MirrorChange change);
-    void storeMirrorWord(const QString &word);
+    void writeMirror(quality::MirrorChange change);
+    void setMirror(quality::MirrorChange change);
     void undoIronOnMirror();
-    void refusePaperType(const QString &value, const QString &ticket);
-    void synchronizeMirrorBox(int stateBefore);
 
-    void selectValue(quality::Setting setting);
-    void selectValueIfDifferent(quality::Setting setting);
-    void showNeutralThresholdText();
-    void showTicketInBox(quality::Setting setting);
-
-    // View.
-    [[nodiscard]] bool loadInterface();
+    // Presentation.
+    void loadInterface();
+    void removePaperSourceRow();
     void showDryTime();
+    [[nodiscard]] QString markedDryTime(ChoiceString flag) const;
     void connectControls();
-    void editThresholdField();
-    void projectFrames();
+    void connectDisclosure();
+    void beDelegateOfThresholdField();
+    void carryOut(const std::vector<quality::RowPlan> &plans);
     void titleRow(quality::Setting setting);
     void hideRow(quality::Setting setting);
     void localizeDisclosureLabel();
-    void localizeSharedPlaces();
+    [[nodiscard]] QString textOfMirrorTicket() const;
+    void addDryTime(SummaryInfo &info) const;
 
     bool doneInitialized = false;
     bool isMirrorManuallySet_ = false;
