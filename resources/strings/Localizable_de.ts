@@ -116,6 +116,10 @@
         <translation>Wählen Sie, wie der Konflikt gelöst werden soll:</translation>
     </message>
     <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
         <source>Color</source>
         <translation>Farbe</translation>
     </message>

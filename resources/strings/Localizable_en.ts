@@ -116,6 +116,10 @@
         <translation>Choose an option to resolve the conflict:</translation>
     </message>
     <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
         <source>Color</source>
         <translation>Color</translation>
     </message>

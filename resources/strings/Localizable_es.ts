@@ -116,6 +116,10 @@
         <translation>Elija una opción para resolver el conflicto:</translation>
     </message>
     <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
         <source>Color</source>
         <translation>Color</translation>
     </message>

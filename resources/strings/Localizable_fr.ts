@@ -116,6 +116,10 @@
         <translation>Choisissez une option pour résoudre le conflit :</translation>
     </message>
     <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
         <source>Color</source>
         <translation>Couleur</translation>
     </message>

@@ -116,6 +116,10 @@
         <translation>Scegliere un’opzione per risolvere il conflitto:</translation>
     </message>
     <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
         <source>Color</source>
         <translation>Colore</translation>
     </message>

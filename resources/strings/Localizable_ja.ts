@@ -116,6 +116,10 @@
         <translation>競合の解決方法を選択してください。</translation>
     </message>
     <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
         <source>Color</source>
         <translation>カラー</translation>
     </message>

@@ -116,6 +116,10 @@
         <translation>Escolha uma opção para resolver o conflito:</translation>
     </message>
     <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
         <source>Color</source>
         <translation>Cor</translation>
     </message>

@@ -116,6 +116,10 @@
         <translation>请选择解决冲突的方式：</translation>
     </message>
     <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
         <source>Color</source>
         <translation>彩色</translation>
     </message>
