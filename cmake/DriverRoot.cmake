@@ -1,7 +1,8 @@
 # The staged driver root: a folder that stands for "/" and holds "Library/Printers/Korvane/..." as an
 # installed driver would. Panels and tests look driver files up below it.
 #
-# Run as a script (cmake -P) it copies one tree; included, it defines
+# Run as a script (cmake -P) it copies one tree and removes what an earlier copy left of files that are
+# gone; included, it defines
 #   KORVANE_ROOT_DIR    the root
 #   KORVANE_BUNDLE_DIR  the plug-in's bundle below it
 #   korvane_stage(OUTPUT name SOURCE folder DESTINATION folder [DEPENDS file...])
@@ -15,6 +16,16 @@ set(_korvane_file_mode OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 if(CMAKE_SCRIPT_MODE_FILE STREQUAL CMAKE_CURRENT_LIST_FILE)
     file(COPY "${SOURCE}/" DESTINATION "${DESTINATION}"
         FILE_PERMISSIONS ${_korvane_file_mode} DIRECTORY_PERMISSIONS ${_korvane_folder_mode})
+    file(GLOB_RECURSE files LIST_DIRECTORIES false RELATIVE "${SOURCE}" "${SOURCE}/*")
+    if(EXISTS "${STAMP}")
+        file(STRINGS "${STAMP}" gone)
+        list(REMOVE_ITEM gone ${files})
+        foreach(file IN LISTS gone)
+            file(REMOVE "${DESTINATION}/${file}")
+        endforeach()
+    endif()
+    list(JOIN files "\n" files)
+    file(WRITE "${STAMP}" "${files}\n")
     return()
 endif()
 
@@ -36,7 +47,7 @@ endfunction()
 
 # korvane_stage(...): copies the tree below SOURCE to DESTINATION when a file in it has changed: those
 # found there, or those that DEPENDS names where the build makes them. OUTPUT names a stamp file for
-# a target to depend on.
+# a target to depend on; it lists the files.
 function(korvane_stage)
     cmake_parse_arguments(ARG "" "OUTPUT;SOURCE;DESTINATION" "DEPENDS" ${ARGN})
     korvane_staged_folder("${ARG_DESTINATION}")
@@ -46,8 +57,7 @@ function(korvane_stage)
     add_custom_command(
         OUTPUT "${ARG_OUTPUT}"
         COMMAND ${CMAKE_COMMAND} "-DSOURCE=${ARG_SOURCE}" "-DDESTINATION=${ARG_DESTINATION}"
-            -P "${_korvane_driver_root_script}"
-        COMMAND ${CMAKE_COMMAND} -E touch "${ARG_OUTPUT}"
+            "-DSTAMP=${ARG_OUTPUT}" -P "${_korvane_driver_root_script}"
         DEPENDS ${ARG_DEPENDS} "${_korvane_driver_root_script}"
         VERBATIM)
 endfunction()
