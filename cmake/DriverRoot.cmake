@@ -54,10 +54,11 @@ function(korvane_stage)
     if(NOT ARG_DEPENDS)
         file(GLOB_RECURSE ARG_DEPENDS CONFIGURE_DEPENDS "${ARG_SOURCE}/*")
     endif()
+    string(MD5 names "${ARG_DEPENDS}") # in the command, so that a removed file runs it again
     add_custom_command(
         OUTPUT "${ARG_OUTPUT}"
         COMMAND ${CMAKE_COMMAND} "-DSOURCE=${ARG_SOURCE}" "-DDESTINATION=${ARG_DESTINATION}"
-            "-DSTAMP=${ARG_OUTPUT}" -P "${_korvane_driver_root_script}"
+            "-DSTAMP=${ARG_OUTPUT}" "-DNAMES=${names}" -P "${_korvane_driver_root_script}"
         DEPENDS ${ARG_DEPENDS} "${_korvane_driver_root_script}"
         VERBATIM)
 endfunction()
