@@ -97,31 +97,40 @@ std::unique_ptr<Loader> makeLoader()
     return std::make_unique<Loader>();
 }
 
-/// Copies one <string>, translated unless it is marked otherwise. The copy is marked, so that
-/// QUiLoader does not hand it to the application's translators.
-void copyString(QXmlStreamReader &from, QXmlStreamWriter &to, const Bundle *bundle)
+const QLatin1String kNotTranslatable("notr");
+
+bool isMarked(const QXmlStreamReader &element)
 {
-    const QLatin1String mark("notr");
-    const bool marked = from.attributes().value(mark) == QLatin1String("true");
-    const QString text = from.readElementText();
+    return element.attributes().value(kNotTranslatable) == QLatin1String("true");
+}
+
+/// Writes one <string>, marked so that QUiLoader does not hand it to the application's translators.
+void writeString(QXmlStreamWriter &to, const QString &text)
+{
     to.writeStartElement(QStringLiteral("string"));
-    to.writeAttribute(mark, QStringLiteral("true"));
-    to.writeCharacters(marked ? text : bundle->localizedString(text));
+    to.writeAttribute(kNotTranslatable, QStringLiteral("true"));
+    to.writeCharacters(text);
     to.writeEndElement();
 }
 
-/// The same interface with its translatable texts in the bundle's language; null if malformed.
+/// The same interface with its translatable texts in the bundle's language; empty if malformed. A
+/// text is translatable unless it, or the list that it is in, is marked otherwise.
 QByteArray localized(const QByteArray &contents, const Bundle *bundle)
 {
     QByteArray result;
     QXmlStreamReader from(contents);
     QXmlStreamWriter to(&result);
-    while (!from.atEnd()) {
-        from.readNext();
-        if (from.isStartElement() && from.name() == QLatin1String("string"))
-            copyString(from, to, bundle);
-        else if (from.tokenType() != QXmlStreamReader::Invalid)
+    bool inMarkedList = false;
+    while (!from.atEnd() && from.readNext() != QXmlStreamReader::Invalid) {
+        if (from.name() == QLatin1String("stringlist"))
+            inMarkedList = from.isStartElement() && isMarked(from);
+        if (from.isStartElement() && from.name() == QLatin1String("string")) {
+            const bool literal = inMarkedList || isMarked(from);
+            const QString text = from.readElementText();
+            writeString(to, literal ? text : bundle->localizedString(text));
+        } else {
             to.writeCurrentToken(from);
+        }
     }
     return from.hasError() ? QByteArray() : result;
 }

@@ -359,6 +359,23 @@ TEST_F(InterfaceFiles, LeaveTextsThatAreNotTranslatable)
     EXPECT_TEXT(static_cast<QLabel *>(loaded.front().get())->text(), "First");
 }
 
+TEST_F(InterfaceFiles, TitleTheRowsOfAMatrix)
+{
+    speakFrench();
+    const QByteArray titles =
+        "<string>First</string><string>R&amp;D</string></stringlist></property>";
+    write("Panel.ui", interfaceOf("<widget class=\"QWidget\" name=\"ibView\">"
+                                  "<widget class=\"RadioMatrix\" name=\"ibTranslated\">"
+                                  "<property name=\"titles\"><stringlist>" +
+                                  titles +
+                                  "</widget><widget class=\"RadioMatrix\" name=\"ibLiteral\">"
+                                  "<property name=\"titles\"><stringlist notr=\"true\">" +
+                                  titles + "</widget></widget>"));
+    load("Panel");
+    EXPECT_EQ(child<RadioMatrix>("ibTranslated")->titles(), QStringList({q("Premier"), q("R&D")}));
+    EXPECT_EQ(child<RadioMatrix>("ibLiteral")->titles(), QStringList({q("First"), q("R&D")}));
+}
+
 TEST_F(InterfaceFiles, ShowTheTextOfTheFileWhereThereIsNoTranslation)
 {
     write("Panel.ui", labelled("<string>Two\nlines &amp; more</string>"));

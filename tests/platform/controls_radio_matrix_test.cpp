@@ -153,6 +153,16 @@ TEST_F(RadioMatrices, KeepTheirFirstRowsWhenTheirNumberChanges)
     EXPECT_EQ(matrix.selectedRow(), -1);
 }
 
+TEST_F(RadioMatrices, HaveAsManyRowsAsTitles)
+{
+    matrix.selectRow(1);
+    matrix.setTitles({q("Off"), q("R&D")});
+    EXPECT_EQ(matrix.rows(), 2);
+    EXPECT_EQ(matrix.titles(), QStringList({q("Off"), q("R&D")}));
+    EXPECT_EQ(matrix.selectedRow(), 1);
+    EXPECT_EQ(clicks.count(), 0);
+}
+
 TEST_F(RadioMatrices, CanBeDestroyedByTheirOwnClick)
 {
     auto doomed = std::make_unique<RadioMatrix>();
