@@ -88,6 +88,10 @@
         <translation>Passt an, wie dunkel Text und Bilder gedruckt werden.</translation>
     </message>
     <message>
+        <source>Advanced Options</source>
+        <translation>Erweiterte Optionen</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>Erweiterte Optionen: Spiegelbild (AUS)</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Automatic</source>
         <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>Schwarzweiß</translation>
     </message>
     <message>
         <source>Cartridge(s) installed: Only Color</source>
@@ -124,6 +132,14 @@
         <translation>Farbe</translation>
     </message>
     <message>
+        <source>Color Output:</source>
+        <translation>Farbausgabe:</translation>
+    </message>
+    <message>
+        <source>Color Preferences:</source>
+        <translation>Farbanpassung:</translation>
+    </message>
+    <message>
         <source>Conflicting settings</source>
         <translation>Unvereinbare Einstellungen</translation>
     </message>
@@ -138,6 +154,38 @@
     <message>
         <source>Document Color: Color</source>
         <translation>Dokumentfarbe: Farbe</translation>
+    </message>
+    <message>
+        <source>Dry Time</source>
+        <translation>Trockenzeit</translation>
+    </message>
+    <message>
+        <source>Dry Time:</source>
+        <translation>Trockenzeit:</translation>
+    </message>
+    <message>
+        <source>Halftone:</source>
+        <translation>Rasterung:</translation>
+    </message>
+    <message>
+        <source>How carefully the page is printed: better quality takes longer and uses more ink or toner.</source>
+        <translation>Wie sorgfältig gedruckt wird: Höhere Qualität dauert länger und braucht mehr Tinte oder Toner.</translation>
+    </message>
+    <message>
+        <source>How colors are matched between the screen and the print.</source>
+        <translation>Wie die Farben zwischen Bildschirm und Druck abgeglichen werden.</translation>
+    </message>
+    <message>
+        <source>How dark a gray must be to be printed as black, from 1 to 5.</source>
+        <translation>Wie dunkel ein Grau sein muss, um schwarz gedruckt zu werden, von 1 bis 5.</translation>
+    </message>
+    <message>
+        <source>How long the printer waits for the ink to dry before it prints the other side of the sheet.</source>
+        <translation>Wie lange der Drucker die Tinte trocknen lässt, bevor er die Rückseite bedruckt.</translation>
+    </message>
+    <message>
+        <source>ICC Test Chart</source>
+        <translation>ICC-Testtafel</translation>
     </message>
     <message>
         <source>Improve toner fixing</source>
@@ -156,6 +204,10 @@
         <translation>Zu verwendende Tinte</translation>
     </message>
     <message>
+        <source>Ink To Use:</source>
+        <translation>Tinte:</translation>
+    </message>
+    <message>
         <source>Instructions</source>
         <translation>Anleitung</translation>
     </message>
@@ -168,6 +220,14 @@
         <translation>Layout: Seiten pro Blatt (&gt;1)</translation>
     </message>
     <message>
+        <source>Makes the edges in pictures crisper. Too much of it looks grainy.</source>
+        <translation>Macht Kanten in Bildern schärfer. Zu viel davon wirkt körnig.</translation>
+    </message>
+    <message>
+        <source>Mirror</source>
+        <translation>Spiegeln</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -178,6 +238,14 @@
     <message>
         <source>Paper Size: </source>
         <translation>Papierformat: </translation>
+    </message>
+    <message>
+        <source>Paper Source:</source>
+        <translation>Papierzufuhr:</translation>
+    </message>
+    <message>
+        <source>Paper Type:</source>
+        <translation>Papiersorte:</translation>
     </message>
     <message>
         <source>Paper Type: </source>
@@ -204,6 +272,10 @@
         <translation>Druckdichte</translation>
     </message>
     <message>
+        <source>Print Quality:</source>
+        <translation>Druckqualität:</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>Druckqualität: Entwurf</translation>
     </message>
@@ -212,8 +284,32 @@
         <translation>Druckqualität: Normal</translation>
     </message>
     <message>
+        <source>Prints in color, or in black and shades of gray. Other settings depend on it.</source>
+        <translation>Druckt farbig oder in Schwarz und Graustufen. Andere Einstellungen hängen davon ab.</translation>
+    </message>
+    <message>
+        <source>Prints lighter, so that the toner lasts longer.</source>
+        <translation>Druckt heller, damit der Toner länger reicht.</translation>
+    </message>
+    <message>
+        <source>Prints the page reversed from left to right, as iron-on transfers need it.</source>
+        <translation>Druckt die Seite seitenverkehrt, wie es Bügelfolien brauchen.</translation>
+    </message>
+    <message>
+        <source>Prints without any color correction, for measuring a test chart.</source>
+        <translation>Druckt ohne jede Farbkorrektur, zum Ausmessen einer Testtafel.</translation>
+    </message>
+    <message>
+        <source>Prints without colors.</source>
+        <translation>Druckt ohne Farben.</translation>
+    </message>
+    <message>
         <source>Quality &amp; Media</source>
         <translation>Qualität/Medien</translation>
+    </message>
+    <message>
+        <source>Raises or lowers the threshold by one.</source>
+        <translation>Erhöht oder senkt den Schwellenwert um eins.</translation>
     </message>
     <message>
         <source>Reduce Ghosting</source>
@@ -228,12 +324,48 @@
         <translation>Falten und Knicke verringern</translation>
     </message>
     <message>
+        <source>Sharpening:</source>
+        <translation>Schärfen:</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>Anleitung zum Lösen des Konflikts anzeigen.</translation>
     </message>
     <message>
+        <source>Shows or hides the less common settings.</source>
+        <translation>Blendet die selteneren Einstellungen ein oder aus.</translation>
+    </message>
+    <message>
+        <source>The ink cartridges that the page is printed with.</source>
+        <translation>Die Tintenpatronen, mit denen gedruckt wird.</translation>
+    </message>
+    <message>
+        <source>The kind of paper in the printer. It decides how much ink is laid down and how fast the paper moves.</source>
+        <translation>Die Papiersorte im Drucker. Von ihr hängt ab, wie viel Tinte aufgetragen wird und wie schnell das Papier läuft.</translation>
+    </message>
+    <message>
+        <source>The pattern of dots that shades of gray are made of.</source>
+        <translation>Das Punktmuster, aus dem Graustufen entstehen.</translation>
+    </message>
+    <message>
         <source>The problem that the printer corrects.</source>
         <translation>Das Problem, das der Drucker behebt.</translation>
+    </message>
+    <message>
+        <source>The tray that the paper is taken from.</source>
+        <translation>Das Fach, aus dem das Papier genommen wird.</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Schwellenwert</translation>
+    </message>
+    <message>
+        <source>Threshold:</source>
+        <translation>Schwellenwert:</translation>
+    </message>
+    <message>
+        <source>Toner Save</source>
+        <translation>Toner sparen</translation>
     </message>
     <message>
         <source>is not compatible with</source>

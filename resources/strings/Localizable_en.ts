@@ -88,6 +88,10 @@
         <translation>Adjusts how dark text and images are printed.</translation>
     </message>
     <message>
+        <source>Advanced Options</source>
+        <translation>Advanced Options</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>Advanced Options: Mirror (OFF)</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Automatic</source>
         <translation>Automatic</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>Black and White</translation>
     </message>
     <message>
         <source>Cartridge(s) installed: Only Color</source>
@@ -124,6 +132,14 @@
         <translation>Color</translation>
     </message>
     <message>
+        <source>Color Output:</source>
+        <translation>Color Output:</translation>
+    </message>
+    <message>
+        <source>Color Preferences:</source>
+        <translation>Color Preferences:</translation>
+    </message>
+    <message>
         <source>Conflicting settings</source>
         <translation>Conflicting settings</translation>
     </message>
@@ -138,6 +154,38 @@
     <message>
         <source>Document Color: Color</source>
         <translation>Document Color: Color</translation>
+    </message>
+    <message>
+        <source>Dry Time</source>
+        <translation>Dry Time</translation>
+    </message>
+    <message>
+        <source>Dry Time:</source>
+        <translation>Dry Time:</translation>
+    </message>
+    <message>
+        <source>Halftone:</source>
+        <translation>Halftone:</translation>
+    </message>
+    <message>
+        <source>How carefully the page is printed: better quality takes longer and uses more ink or toner.</source>
+        <translation>How carefully the page is printed: better quality takes longer and uses more ink or toner.</translation>
+    </message>
+    <message>
+        <source>How colors are matched between the screen and the print.</source>
+        <translation>How colors are matched between the screen and the print.</translation>
+    </message>
+    <message>
+        <source>How dark a gray must be to be printed as black, from 1 to 5.</source>
+        <translation>How dark a gray must be to be printed as black, from 1 to 5.</translation>
+    </message>
+    <message>
+        <source>How long the printer waits for the ink to dry before it prints the other side of the sheet.</source>
+        <translation>How long the printer waits for the ink to dry before it prints the other side of the sheet.</translation>
+    </message>
+    <message>
+        <source>ICC Test Chart</source>
+        <translation>ICC Test Chart</translation>
     </message>
     <message>
         <source>Improve toner fixing</source>
@@ -156,6 +204,10 @@
         <translation>Ink To Use</translation>
     </message>
     <message>
+        <source>Ink To Use:</source>
+        <translation>Ink To Use:</translation>
+    </message>
+    <message>
         <source>Instructions</source>
         <translation>Instructions</translation>
     </message>
@@ -168,6 +220,14 @@
         <translation>Layout: Pages per Sheet (&gt;1)</translation>
     </message>
     <message>
+        <source>Makes the edges in pictures crisper. Too much of it looks grainy.</source>
+        <translation>Makes the edges in pictures crisper. Too much of it looks grainy.</translation>
+    </message>
+    <message>
+        <source>Mirror</source>
+        <translation>Mirror</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -178,6 +238,14 @@
     <message>
         <source>Paper Size: </source>
         <translation>Paper Size: </translation>
+    </message>
+    <message>
+        <source>Paper Source:</source>
+        <translation>Paper Source:</translation>
+    </message>
+    <message>
+        <source>Paper Type:</source>
+        <translation>Paper Type:</translation>
     </message>
     <message>
         <source>Paper Type: </source>
@@ -204,6 +272,10 @@
         <translation>Print Density</translation>
     </message>
     <message>
+        <source>Print Quality:</source>
+        <translation>Print Quality:</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>Print Quality: Draft</translation>
     </message>
@@ -212,8 +284,32 @@
         <translation>Print Quality: Normal</translation>
     </message>
     <message>
+        <source>Prints in color, or in black and shades of gray. Other settings depend on it.</source>
+        <translation>Prints in color, or in black and shades of gray. Other settings depend on it.</translation>
+    </message>
+    <message>
+        <source>Prints lighter, so that the toner lasts longer.</source>
+        <translation>Prints lighter, so that the toner lasts longer.</translation>
+    </message>
+    <message>
+        <source>Prints the page reversed from left to right, as iron-on transfers need it.</source>
+        <translation>Prints the page reversed from left to right, as iron-on transfers need it.</translation>
+    </message>
+    <message>
+        <source>Prints without any color correction, for measuring a test chart.</source>
+        <translation>Prints without any color correction, for measuring a test chart.</translation>
+    </message>
+    <message>
+        <source>Prints without colors.</source>
+        <translation>Prints without colors.</translation>
+    </message>
+    <message>
         <source>Quality &amp; Media</source>
         <translation>Quality &amp; Media</translation>
+    </message>
+    <message>
+        <source>Raises or lowers the threshold by one.</source>
+        <translation>Raises or lowers the threshold by one.</translation>
     </message>
     <message>
         <source>Reduce Ghosting</source>
@@ -228,12 +324,48 @@
         <translation>Reduce wrinkles or creases</translation>
     </message>
     <message>
+        <source>Sharpening:</source>
+        <translation>Sharpening:</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>Show instructions to resolve the conflict settings.</translation>
     </message>
     <message>
+        <source>Shows or hides the less common settings.</source>
+        <translation>Shows or hides the less common settings.</translation>
+    </message>
+    <message>
+        <source>The ink cartridges that the page is printed with.</source>
+        <translation>The ink cartridges that the page is printed with.</translation>
+    </message>
+    <message>
+        <source>The kind of paper in the printer. It decides how much ink is laid down and how fast the paper moves.</source>
+        <translation>The kind of paper in the printer. It decides how much ink is laid down and how fast the paper moves.</translation>
+    </message>
+    <message>
+        <source>The pattern of dots that shades of gray are made of.</source>
+        <translation>The pattern of dots that shades of gray are made of.</translation>
+    </message>
+    <message>
         <source>The problem that the printer corrects.</source>
         <translation>The problem that the printer corrects.</translation>
+    </message>
+    <message>
+        <source>The tray that the paper is taken from.</source>
+        <translation>The tray that the paper is taken from.</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Threshold</translation>
+    </message>
+    <message>
+        <source>Threshold:</source>
+        <translation>Threshold:</translation>
+    </message>
+    <message>
+        <source>Toner Save</source>
+        <translation>Toner Save</translation>
     </message>
     <message>
         <source>is not compatible with</source>

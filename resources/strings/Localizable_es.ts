@@ -88,6 +88,10 @@
         <translation>Ajusta la intensidad con que se imprimen el texto y las imágenes.</translation>
     </message>
     <message>
+        <source>Advanced Options</source>
+        <translation>Opciones avanzadas</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>Opciones avanzadas: Espejo (DESACTIVADO)</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Automatic</source>
         <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>Blanco y negro</translation>
     </message>
     <message>
         <source>Cartridge(s) installed: Only Color</source>
@@ -124,6 +132,14 @@
         <translation>Color</translation>
     </message>
     <message>
+        <source>Color Output:</source>
+        <translation>Salida de color:</translation>
+    </message>
+    <message>
+        <source>Color Preferences:</source>
+        <translation>Preferencias de color:</translation>
+    </message>
+    <message>
         <source>Conflicting settings</source>
         <translation>Ajustes incompatibles</translation>
     </message>
@@ -138,6 +154,38 @@
     <message>
         <source>Document Color: Color</source>
         <translation>Color del documento: Color</translation>
+    </message>
+    <message>
+        <source>Dry Time</source>
+        <translation>Tiempo de secado</translation>
+    </message>
+    <message>
+        <source>Dry Time:</source>
+        <translation>Tiempo de secado:</translation>
+    </message>
+    <message>
+        <source>Halftone:</source>
+        <translation>Semitono:</translation>
+    </message>
+    <message>
+        <source>How carefully the page is printed: better quality takes longer and uses more ink or toner.</source>
+        <translation>Con qué cuidado se imprime la página: una calidad mayor tarda más y gasta más tinta o tóner.</translation>
+    </message>
+    <message>
+        <source>How colors are matched between the screen and the print.</source>
+        <translation>Cómo se ajustan los colores entre la pantalla y la impresión.</translation>
+    </message>
+    <message>
+        <source>How dark a gray must be to be printed as black, from 1 to 5.</source>
+        <translation>Lo oscuro que debe ser un gris para imprimirse en negro, de 1 a 5.</translation>
+    </message>
+    <message>
+        <source>How long the printer waits for the ink to dry before it prints the other side of the sheet.</source>
+        <translation>Cuánto espera la impresora a que se seque la tinta antes de imprimir la otra cara de la hoja.</translation>
+    </message>
+    <message>
+        <source>ICC Test Chart</source>
+        <translation>Carta de prueba ICC</translation>
     </message>
     <message>
         <source>Improve toner fixing</source>
@@ -156,6 +204,10 @@
         <translation>Tinta que se usará</translation>
     </message>
     <message>
+        <source>Ink To Use:</source>
+        <translation>Tinta:</translation>
+    </message>
+    <message>
         <source>Instructions</source>
         <translation>Instrucciones</translation>
     </message>
@@ -168,6 +220,14 @@
         <translation>Disposición: Páginas por hoja (&gt;1)</translation>
     </message>
     <message>
+        <source>Makes the edges in pictures crisper. Too much of it looks grainy.</source>
+        <translation>Hace más nítidos los bordes de las imágenes. En exceso se ve granulado.</translation>
+    </message>
+    <message>
+        <source>Mirror</source>
+        <translation>Reflejar</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>Aceptar</translation>
     </message>
@@ -178,6 +238,14 @@
     <message>
         <source>Paper Size: </source>
         <translation>Tamaño de papel: </translation>
+    </message>
+    <message>
+        <source>Paper Source:</source>
+        <translation>Origen del papel:</translation>
+    </message>
+    <message>
+        <source>Paper Type:</source>
+        <translation>Tipo de papel:</translation>
     </message>
     <message>
         <source>Paper Type: </source>
@@ -204,6 +272,10 @@
         <translation>Densidad de impresión</translation>
     </message>
     <message>
+        <source>Print Quality:</source>
+        <translation>Calidad de impresión:</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>Calidad de impresión: Borrador</translation>
     </message>
@@ -212,8 +284,32 @@
         <translation>Calidad de impresión: Normal</translation>
     </message>
     <message>
+        <source>Prints in color, or in black and shades of gray. Other settings depend on it.</source>
+        <translation>Imprime en color o en negro y tonos de gris. Otros ajustes dependen de ello.</translation>
+    </message>
+    <message>
+        <source>Prints lighter, so that the toner lasts longer.</source>
+        <translation>Imprime más claro para que el tóner dure más.</translation>
+    </message>
+    <message>
+        <source>Prints the page reversed from left to right, as iron-on transfers need it.</source>
+        <translation>Imprime la página invertida de izquierda a derecha, como requieren las transferencias térmicas.</translation>
+    </message>
+    <message>
+        <source>Prints without any color correction, for measuring a test chart.</source>
+        <translation>Imprime sin corrección de color, para medir una carta de prueba.</translation>
+    </message>
+    <message>
+        <source>Prints without colors.</source>
+        <translation>Imprime sin colores.</translation>
+    </message>
+    <message>
         <source>Quality &amp; Media</source>
         <translation>Calidad y material</translation>
+    </message>
+    <message>
+        <source>Raises or lowers the threshold by one.</source>
+        <translation>Sube o baja el umbral en uno.</translation>
     </message>
     <message>
         <source>Reduce Ghosting</source>
@@ -228,12 +324,48 @@
         <translation>Reducir arrugas o pliegues</translation>
     </message>
     <message>
+        <source>Sharpening:</source>
+        <translation>Nitidez:</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>Mostrar instrucciones para resolver el conflicto.</translation>
     </message>
     <message>
+        <source>Shows or hides the less common settings.</source>
+        <translation>Muestra u oculta los ajustes menos habituales.</translation>
+    </message>
+    <message>
+        <source>The ink cartridges that the page is printed with.</source>
+        <translation>Los cartuchos de tinta con los que se imprime la página.</translation>
+    </message>
+    <message>
+        <source>The kind of paper in the printer. It decides how much ink is laid down and how fast the paper moves.</source>
+        <translation>La clase de papel que hay en la impresora. De ella dependen la cantidad de tinta y la velocidad del papel.</translation>
+    </message>
+    <message>
+        <source>The pattern of dots that shades of gray are made of.</source>
+        <translation>La trama de puntos con la que se forman los grises.</translation>
+    </message>
+    <message>
         <source>The problem that the printer corrects.</source>
         <translation>El problema que corrige la impresora.</translation>
+    </message>
+    <message>
+        <source>The tray that the paper is taken from.</source>
+        <translation>La bandeja de la que se toma el papel.</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Umbral</translation>
+    </message>
+    <message>
+        <source>Threshold:</source>
+        <translation>Umbral:</translation>
+    </message>
+    <message>
+        <source>Toner Save</source>
+        <translation>Ahorro de tóner</translation>
     </message>
     <message>
         <source>is not compatible with</source>

@@ -88,6 +88,10 @@
         <translation>Ajuste l’intensité d’impression du texte et des images.</translation>
     </message>
     <message>
+        <source>Advanced Options</source>
+        <translation>Options avancées</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>Options avancées : Miroir (DÉSACTIVÉ)</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Automatic</source>
         <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>Noir et blanc</translation>
     </message>
     <message>
         <source>Cartridge(s) installed: Only Color</source>
@@ -124,6 +132,14 @@
         <translation>Couleur</translation>
     </message>
     <message>
+        <source>Color Output:</source>
+        <translation>Sortie couleur :</translation>
+    </message>
+    <message>
+        <source>Color Preferences:</source>
+        <translation>Préférences couleur :</translation>
+    </message>
+    <message>
         <source>Conflicting settings</source>
         <translation>Réglages incompatibles</translation>
     </message>
@@ -138,6 +154,38 @@
     <message>
         <source>Document Color: Color</source>
         <translation>Couleur du document : Couleur</translation>
+    </message>
+    <message>
+        <source>Dry Time</source>
+        <translation>Temps de séchage</translation>
+    </message>
+    <message>
+        <source>Dry Time:</source>
+        <translation>Temps de séchage :</translation>
+    </message>
+    <message>
+        <source>Halftone:</source>
+        <translation>Trame :</translation>
+    </message>
+    <message>
+        <source>How carefully the page is printed: better quality takes longer and uses more ink or toner.</source>
+        <translation>Le soin apporté à l’impression : une meilleure qualité demande plus de temps et plus d’encre ou de toner.</translation>
+    </message>
+    <message>
+        <source>How colors are matched between the screen and the print.</source>
+        <translation>La façon dont les couleurs de l’écran et de l’impression sont accordées.</translation>
+    </message>
+    <message>
+        <source>How dark a gray must be to be printed as black, from 1 to 5.</source>
+        <translation>À partir de quel gris on imprime en noir, de 1 à 5.</translation>
+    </message>
+    <message>
+        <source>How long the printer waits for the ink to dry before it prints the other side of the sheet.</source>
+        <translation>Le temps de séchage de l’encre avant que l’imprimante n’imprime l’autre face de la feuille.</translation>
+    </message>
+    <message>
+        <source>ICC Test Chart</source>
+        <translation>Mire de test ICC</translation>
     </message>
     <message>
         <source>Improve toner fixing</source>
@@ -156,6 +204,10 @@
         <translation>Encre à utiliser</translation>
     </message>
     <message>
+        <source>Ink To Use:</source>
+        <translation>Encre à utiliser :</translation>
+    </message>
+    <message>
         <source>Instructions</source>
         <translation>Instructions</translation>
     </message>
@@ -168,6 +220,14 @@
         <translation>Disposition : Pages par feuille (&gt;1)</translation>
     </message>
     <message>
+        <source>Makes the edges in pictures crisper. Too much of it looks grainy.</source>
+        <translation>Rend les contours des images plus nets. À l’excès, l’image paraît granuleuse.</translation>
+    </message>
+    <message>
+        <source>Mirror</source>
+        <translation>Miroir</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -178,6 +238,14 @@
     <message>
         <source>Paper Size: </source>
         <translation>Format de papier : </translation>
+    </message>
+    <message>
+        <source>Paper Source:</source>
+        <translation>Source du papier :</translation>
+    </message>
+    <message>
+        <source>Paper Type:</source>
+        <translation>Type de papier :</translation>
     </message>
     <message>
         <source>Paper Type: </source>
@@ -204,6 +272,10 @@
         <translation>Densité d’impression</translation>
     </message>
     <message>
+        <source>Print Quality:</source>
+        <translation>Qualité d’impression :</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>Qualité d’impression : Brouillon</translation>
     </message>
@@ -212,8 +284,32 @@
         <translation>Qualité d’impression : Normale</translation>
     </message>
     <message>
+        <source>Prints in color, or in black and shades of gray. Other settings depend on it.</source>
+        <translation>Imprime en couleur, ou en noir et niveaux de gris. D’autres réglages en dépendent.</translation>
+    </message>
+    <message>
+        <source>Prints lighter, so that the toner lasts longer.</source>
+        <translation>Imprime plus clair pour que le toner dure plus longtemps.</translation>
+    </message>
+    <message>
+        <source>Prints the page reversed from left to right, as iron-on transfers need it.</source>
+        <translation>Imprime la page inversée de gauche à droite, comme l’exigent les transferts à chaud.</translation>
+    </message>
+    <message>
+        <source>Prints without any color correction, for measuring a test chart.</source>
+        <translation>Imprime sans correction des couleurs, pour mesurer une mire.</translation>
+    </message>
+    <message>
+        <source>Prints without colors.</source>
+        <translation>Imprime sans couleurs.</translation>
+    </message>
+    <message>
         <source>Quality &amp; Media</source>
         <translation>Qualité et Papiers</translation>
+    </message>
+    <message>
+        <source>Raises or lowers the threshold by one.</source>
+        <translation>Augmente ou diminue le seuil d’un cran.</translation>
     </message>
     <message>
         <source>Reduce Ghosting</source>
@@ -228,12 +324,48 @@
         <translation>Réduire les plis et les froissements</translation>
     </message>
     <message>
+        <source>Sharpening:</source>
+        <translation>Netteté :</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>Afficher les instructions pour résoudre le conflit.</translation>
     </message>
     <message>
+        <source>Shows or hides the less common settings.</source>
+        <translation>Affiche ou masque les réglages moins courants.</translation>
+    </message>
+    <message>
+        <source>The ink cartridges that the page is printed with.</source>
+        <translation>Les cartouches d’encre utilisées pour imprimer la page.</translation>
+    </message>
+    <message>
+        <source>The kind of paper in the printer. It decides how much ink is laid down and how fast the paper moves.</source>
+        <translation>Le papier chargé dans l’imprimante. Il détermine la quantité d’encre déposée et la vitesse d’avance.</translation>
+    </message>
+    <message>
+        <source>The pattern of dots that shades of gray are made of.</source>
+        <translation>La trame de points qui compose les niveaux de gris.</translation>
+    </message>
+    <message>
         <source>The problem that the printer corrects.</source>
         <translation>Le problème que l’imprimante corrige.</translation>
+    </message>
+    <message>
+        <source>The tray that the paper is taken from.</source>
+        <translation>Le bac d’où le papier est pris.</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Seuil</translation>
+    </message>
+    <message>
+        <source>Threshold:</source>
+        <translation>Seuil :</translation>
+    </message>
+    <message>
+        <source>Toner Save</source>
+        <translation>Économie de toner</translation>
     </message>
     <message>
         <source>is not compatible with</source>

@@ -88,6 +88,10 @@
         <translation>Regola l’intensità di stampa di testo e immagini.</translation>
     </message>
     <message>
+        <source>Advanced Options</source>
+        <translation>Opzioni avanzate</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>Opzioni avanzate: Speculare (NON ATTIVO)</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Automatic</source>
         <translation>Automatico</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>Bianco e nero</translation>
     </message>
     <message>
         <source>Cartridge(s) installed: Only Color</source>
@@ -124,6 +132,14 @@
         <translation>Colore</translation>
     </message>
     <message>
+        <source>Color Output:</source>
+        <translation>Uscita colore:</translation>
+    </message>
+    <message>
+        <source>Color Preferences:</source>
+        <translation>Preferenze colore:</translation>
+    </message>
+    <message>
         <source>Conflicting settings</source>
         <translation>Impostazioni incompatibili</translation>
     </message>
@@ -138,6 +154,38 @@
     <message>
         <source>Document Color: Color</source>
         <translation>Colore documento: Colore</translation>
+    </message>
+    <message>
+        <source>Dry Time</source>
+        <translation>Tempo di asciugatura</translation>
+    </message>
+    <message>
+        <source>Dry Time:</source>
+        <translation>Tempo di asciugatura:</translation>
+    </message>
+    <message>
+        <source>Halftone:</source>
+        <translation>Mezzitoni:</translation>
+    </message>
+    <message>
+        <source>How carefully the page is printed: better quality takes longer and uses more ink or toner.</source>
+        <translation>La cura con cui si stampa la pagina: una qualità migliore richiede più tempo e più inchiostro o toner.</translation>
+    </message>
+    <message>
+        <source>How colors are matched between the screen and the print.</source>
+        <translation>Come i colori della stampa corrispondono a quelli dello schermo.</translation>
+    </message>
+    <message>
+        <source>How dark a gray must be to be printed as black, from 1 to 5.</source>
+        <translation>Quanto scuro dev’essere un grigio per essere stampato in nero, da 1 a 5.</translation>
+    </message>
+    <message>
+        <source>How long the printer waits for the ink to dry before it prints the other side of the sheet.</source>
+        <translation>Quanto la stampante lascia asciugare l’inchiostro prima di stampare l’altro lato del foglio.</translation>
+    </message>
+    <message>
+        <source>ICC Test Chart</source>
+        <translation>Tavola di prova ICC</translation>
     </message>
     <message>
         <source>Improve toner fixing</source>
@@ -156,6 +204,10 @@
         <translation>Inchiostro da usare</translation>
     </message>
     <message>
+        <source>Ink To Use:</source>
+        <translation>Inchiostro:</translation>
+    </message>
+    <message>
         <source>Instructions</source>
         <translation>Istruzioni</translation>
     </message>
@@ -168,6 +220,14 @@
         <translation>Layout: Pagine per foglio (&gt;1)</translation>
     </message>
     <message>
+        <source>Makes the edges in pictures crisper. Too much of it looks grainy.</source>
+        <translation>Rende più nitidi i bordi delle immagini. Se eccessiva, l’immagine appare sgranata.</translation>
+    </message>
+    <message>
+        <source>Mirror</source>
+        <translation>Specchio</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -178,6 +238,14 @@
     <message>
         <source>Paper Size: </source>
         <translation>Formato carta: </translation>
+    </message>
+    <message>
+        <source>Paper Source:</source>
+        <translation>Alimentazione carta:</translation>
+    </message>
+    <message>
+        <source>Paper Type:</source>
+        <translation>Tipo di carta:</translation>
     </message>
     <message>
         <source>Paper Type: </source>
@@ -204,6 +272,10 @@
         <translation>Densità di stampa</translation>
     </message>
     <message>
+        <source>Print Quality:</source>
+        <translation>Qualità di stampa:</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>Qualità di stampa: Bozza</translation>
     </message>
@@ -212,8 +284,32 @@
         <translation>Qualità di stampa: Normale</translation>
     </message>
     <message>
+        <source>Prints in color, or in black and shades of gray. Other settings depend on it.</source>
+        <translation>Stampa a colori oppure in nero e toni di grigio. Altre impostazioni ne dipendono.</translation>
+    </message>
+    <message>
+        <source>Prints lighter, so that the toner lasts longer.</source>
+        <translation>Stampa più chiaro, così il toner dura di più.</translation>
+    </message>
+    <message>
+        <source>Prints the page reversed from left to right, as iron-on transfers need it.</source>
+        <translation>Stampa la pagina rovesciata da sinistra a destra, come richiesto dai trasferibili a caldo.</translation>
+    </message>
+    <message>
+        <source>Prints without any color correction, for measuring a test chart.</source>
+        <translation>Stampa senza correzione del colore, per misurare una tavola di prova.</translation>
+    </message>
+    <message>
+        <source>Prints without colors.</source>
+        <translation>Stampa senza colori.</translation>
+    </message>
+    <message>
         <source>Quality &amp; Media</source>
         <translation>Qualità e Tipo di carta</translation>
+    </message>
+    <message>
+        <source>Raises or lowers the threshold by one.</source>
+        <translation>Aumenta o riduce la soglia di uno.</translation>
     </message>
     <message>
         <source>Reduce Ghosting</source>
@@ -228,12 +324,48 @@
         <translation>Riduci grinze o pieghe</translation>
     </message>
     <message>
+        <source>Sharpening:</source>
+        <translation>Nitidezza:</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>Mostrare le istruzioni per risolvere il conflitto.</translation>
     </message>
     <message>
+        <source>Shows or hides the less common settings.</source>
+        <translation>Mostra o nasconde le impostazioni meno comuni.</translation>
+    </message>
+    <message>
+        <source>The ink cartridges that the page is printed with.</source>
+        <translation>Le cartucce d’inchiostro con cui si stampa la pagina.</translation>
+    </message>
+    <message>
+        <source>The kind of paper in the printer. It decides how much ink is laid down and how fast the paper moves.</source>
+        <translation>Il tipo di carta nella stampante. Ne dipendono la quantità di inchiostro e la velocità della carta.</translation>
+    </message>
+    <message>
+        <source>The pattern of dots that shades of gray are made of.</source>
+        <translation>Il motivo di punti con cui si formano i grigi.</translation>
+    </message>
+    <message>
         <source>The problem that the printer corrects.</source>
         <translation>Il problema che la stampante corregge.</translation>
+    </message>
+    <message>
+        <source>The tray that the paper is taken from.</source>
+        <translation>Il cassetto da cui viene presa la carta.</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Soglia</translation>
+    </message>
+    <message>
+        <source>Threshold:</source>
+        <translation>Soglia:</translation>
+    </message>
+    <message>
+        <source>Toner Save</source>
+        <translation>Risparmio toner</translation>
     </message>
     <message>
         <source>is not compatible with</source>

@@ -88,6 +88,10 @@
         <translation>文字と画像を印刷する濃さを調整します。</translation>
     </message>
     <message>
+        <source>Advanced Options</source>
+        <translation>追加オプション</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>追加オプション: 左右反転 (オフ)</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Automatic</source>
         <translation>自動</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>モノクロ</translation>
     </message>
     <message>
         <source>Cartridge(s) installed: Only Color</source>
@@ -124,6 +132,14 @@
         <translation>カラー</translation>
     </message>
     <message>
+        <source>Color Output:</source>
+        <translation>カラー出力:</translation>
+    </message>
+    <message>
+        <source>Color Preferences:</source>
+        <translation>カラー設定:</translation>
+    </message>
+    <message>
         <source>Conflicting settings</source>
         <translation>設定の競合</translation>
     </message>
@@ -138,6 +154,38 @@
     <message>
         <source>Document Color: Color</source>
         <translation>文書の色: カラー</translation>
+    </message>
+    <message>
+        <source>Dry Time</source>
+        <translation>乾燥時間</translation>
+    </message>
+    <message>
+        <source>Dry Time:</source>
+        <translation>乾燥時間:</translation>
+    </message>
+    <message>
+        <source>Halftone:</source>
+        <translation>ハーフトーン:</translation>
+    </message>
+    <message>
+        <source>How carefully the page is printed: better quality takes longer and uses more ink or toner.</source>
+        <translation>印刷の丁寧さです。高品質ほど時間がかかり、インクやトナーを多く使います。</translation>
+    </message>
+    <message>
+        <source>How colors are matched between the screen and the print.</source>
+        <translation>画面と印刷の色の合わせ方です。</translation>
+    </message>
+    <message>
+        <source>How dark a gray must be to be printed as black, from 1 to 5.</source>
+        <translation>どの濃さのグレーから黒として印刷するか、1～5で指定します。</translation>
+    </message>
+    <message>
+        <source>How long the printer waits for the ink to dry before it prints the other side of the sheet.</source>
+        <translation>裏面を印刷する前にインクを乾かす時間です。</translation>
+    </message>
+    <message>
+        <source>ICC Test Chart</source>
+        <translation>ICCテストチャート</translation>
     </message>
     <message>
         <source>Improve toner fixing</source>
@@ -156,6 +204,10 @@
         <translation>使用するインク</translation>
     </message>
     <message>
+        <source>Ink To Use:</source>
+        <translation>使用するインク:</translation>
+    </message>
+    <message>
         <source>Instructions</source>
         <translation>操作手順</translation>
     </message>
@@ -168,6 +220,14 @@
         <translation>レイアウト: ページ数/枚 (2以上)</translation>
     </message>
     <message>
+        <source>Makes the edges in pictures crisper. Too much of it looks grainy.</source>
+        <translation>画像の輪郭をくっきりさせます。強すぎるとざらついて見えます。</translation>
+    </message>
+    <message>
+        <source>Mirror</source>
+        <translation>左右反転</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -178,6 +238,14 @@
     <message>
         <source>Paper Size: </source>
         <translation>用紙サイズ: </translation>
+    </message>
+    <message>
+        <source>Paper Source:</source>
+        <translation>給紙元:</translation>
+    </message>
+    <message>
+        <source>Paper Type:</source>
+        <translation>用紙の種類:</translation>
     </message>
     <message>
         <source>Paper Type: </source>
@@ -204,6 +272,10 @@
         <translation>印刷濃度</translation>
     </message>
     <message>
+        <source>Print Quality:</source>
+        <translation>印刷品質:</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>印刷品質: 下書き</translation>
     </message>
@@ -212,8 +284,32 @@
         <translation>印刷品質: 標準</translation>
     </message>
     <message>
+        <source>Prints in color, or in black and shades of gray. Other settings depend on it.</source>
+        <translation>カラー、または黒とグレーの濃淡で印刷します。ほかの設定もこれに従います。</translation>
+    </message>
+    <message>
+        <source>Prints lighter, so that the toner lasts longer.</source>
+        <translation>薄く印刷してトナーを長持ちさせます。</translation>
+    </message>
+    <message>
+        <source>Prints the page reversed from left to right, as iron-on transfers need it.</source>
+        <translation>ページを左右反転して印刷します。アイロンプリント紙に必要です。</translation>
+    </message>
+    <message>
+        <source>Prints without any color correction, for measuring a test chart.</source>
+        <translation>色補正なしで印刷します。テストチャートの測定用です。</translation>
+    </message>
+    <message>
+        <source>Prints without colors.</source>
+        <translation>色を使わずに印刷します。</translation>
+    </message>
+    <message>
         <source>Quality &amp; Media</source>
         <translation>印刷品質/用紙の種類</translation>
+    </message>
+    <message>
+        <source>Raises or lowers the threshold by one.</source>
+        <translation>しきい値を1つ上げ下げします。</translation>
     </message>
     <message>
         <source>Reduce Ghosting</source>
@@ -228,12 +324,48 @@
         <translation>しわや折れを減らす</translation>
     </message>
     <message>
+        <source>Sharpening:</source>
+        <translation>シャープネス:</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>競合を解決する手順を表示する。</translation>
     </message>
     <message>
+        <source>Shows or hides the less common settings.</source>
+        <translation>あまり使わない設定を表示または非表示にします。</translation>
+    </message>
+    <message>
+        <source>The ink cartridges that the page is printed with.</source>
+        <translation>印刷に使うインクカートリッジです。</translation>
+    </message>
+    <message>
+        <source>The kind of paper in the printer. It decides how much ink is laid down and how fast the paper moves.</source>
+        <translation>プリンタにセットした用紙の種類です。インクの量と紙送りの速さが決まります。</translation>
+    </message>
+    <message>
+        <source>The pattern of dots that shades of gray are made of.</source>
+        <translation>グレーの濃淡を作る網点のパターンです。</translation>
+    </message>
+    <message>
         <source>The problem that the printer corrects.</source>
         <translation>プリンターが改善する問題です。</translation>
+    </message>
+    <message>
+        <source>The tray that the paper is taken from.</source>
+        <translation>用紙を給紙するトレイです。</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>しきい値</translation>
+    </message>
+    <message>
+        <source>Threshold:</source>
+        <translation>しきい値:</translation>
+    </message>
+    <message>
+        <source>Toner Save</source>
+        <translation>トナー節約</translation>
     </message>
     <message>
         <source>is not compatible with</source>

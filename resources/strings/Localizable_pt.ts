@@ -88,6 +88,10 @@
         <translation>Ajusta a intensidade com que o texto e as imagens são impressos.</translation>
     </message>
     <message>
+        <source>Advanced Options</source>
+        <translation>Opções avançadas</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>Opções avançadas: Espelho (DESATIVADO)</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Automatic</source>
         <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>Preto e branco</translation>
     </message>
     <message>
         <source>Cartridge(s) installed: Only Color</source>
@@ -124,6 +132,14 @@
         <translation>Cor</translation>
     </message>
     <message>
+        <source>Color Output:</source>
+        <translation>Saída de cor:</translation>
+    </message>
+    <message>
+        <source>Color Preferences:</source>
+        <translation>Preferências de cor:</translation>
+    </message>
+    <message>
         <source>Conflicting settings</source>
         <translation>Definições incompatíveis</translation>
     </message>
@@ -138,6 +154,38 @@
     <message>
         <source>Document Color: Color</source>
         <translation>Cor do documento: Cor</translation>
+    </message>
+    <message>
+        <source>Dry Time</source>
+        <translation>Tempo de secagem</translation>
+    </message>
+    <message>
+        <source>Dry Time:</source>
+        <translation>Tempo de secagem:</translation>
+    </message>
+    <message>
+        <source>Halftone:</source>
+        <translation>Meio-tom:</translation>
+    </message>
+    <message>
+        <source>How carefully the page is printed: better quality takes longer and uses more ink or toner.</source>
+        <translation>O cuidado com que a página é impressa: mais qualidade leva mais tempo e gasta mais tinta ou toner.</translation>
+    </message>
+    <message>
+        <source>How colors are matched between the screen and the print.</source>
+        <translation>Como as cores da impressão correspondem às da tela.</translation>
+    </message>
+    <message>
+        <source>How dark a gray must be to be printed as black, from 1 to 5.</source>
+        <translation>Quão escuro um cinza deve ser para sair preto, de 1 a 5.</translation>
+    </message>
+    <message>
+        <source>How long the printer waits for the ink to dry before it prints the other side of the sheet.</source>
+        <translation>Quanto a impressora espera a tinta secar antes de imprimir o outro lado da folha.</translation>
+    </message>
+    <message>
+        <source>ICC Test Chart</source>
+        <translation>Carta de teste ICC</translation>
     </message>
     <message>
         <source>Improve toner fixing</source>
@@ -156,6 +204,10 @@
         <translation>Tinta a usar</translation>
     </message>
     <message>
+        <source>Ink To Use:</source>
+        <translation>Tinta:</translation>
+    </message>
+    <message>
         <source>Instructions</source>
         <translation>Instruções</translation>
     </message>
@@ -168,6 +220,14 @@
         <translation>Disposição: Páginas por folha (&gt;1)</translation>
     </message>
     <message>
+        <source>Makes the edges in pictures crisper. Too much of it looks grainy.</source>
+        <translation>Deixa mais nítidos os contornos das imagens. Em excesso, a imagem fica granulada.</translation>
+    </message>
+    <message>
+        <source>Mirror</source>
+        <translation>Espelhar</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -178,6 +238,14 @@
     <message>
         <source>Paper Size: </source>
         <translation>Tamanho do papel: </translation>
+    </message>
+    <message>
+        <source>Paper Source:</source>
+        <translation>Origem do papel:</translation>
+    </message>
+    <message>
+        <source>Paper Type:</source>
+        <translation>Tipo de papel:</translation>
     </message>
     <message>
         <source>Paper Type: </source>
@@ -204,6 +272,10 @@
         <translation>Densidade de impressão</translation>
     </message>
     <message>
+        <source>Print Quality:</source>
+        <translation>Qualidade de impressão:</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>Qualidade de impressão: Rascunho</translation>
     </message>
@@ -212,8 +284,32 @@
         <translation>Qualidade de impressão: Normal</translation>
     </message>
     <message>
+        <source>Prints in color, or in black and shades of gray. Other settings depend on it.</source>
+        <translation>Imprime em cores ou em preto e tons de cinza. Outros ajustes dependem disso.</translation>
+    </message>
+    <message>
+        <source>Prints lighter, so that the toner lasts longer.</source>
+        <translation>Imprime mais claro, para que o toner dure mais.</translation>
+    </message>
+    <message>
+        <source>Prints the page reversed from left to right, as iron-on transfers need it.</source>
+        <translation>Imprime a página invertida da esquerda para a direita, como pedem os transfers térmicos.</translation>
+    </message>
+    <message>
+        <source>Prints without any color correction, for measuring a test chart.</source>
+        <translation>Imprime sem correção de cor, para medir uma carta de teste.</translation>
+    </message>
+    <message>
+        <source>Prints without colors.</source>
+        <translation>Imprime sem cores.</translation>
+    </message>
+    <message>
         <source>Quality &amp; Media</source>
         <translation>Papel e Qualidade</translation>
+    </message>
+    <message>
+        <source>Raises or lowers the threshold by one.</source>
+        <translation>Aumenta ou diminui o limiar em um.</translation>
     </message>
     <message>
         <source>Reduce Ghosting</source>
@@ -228,12 +324,48 @@
         <translation>Reduzir rugas ou vincos</translation>
     </message>
     <message>
+        <source>Sharpening:</source>
+        <translation>Nitidez:</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>Mostrar instruções para resolver o conflito.</translation>
     </message>
     <message>
+        <source>Shows or hides the less common settings.</source>
+        <translation>Mostra ou oculta os ajustes menos comuns.</translation>
+    </message>
+    <message>
+        <source>The ink cartridges that the page is printed with.</source>
+        <translation>Os cartuchos de tinta com que a página é impressa.</translation>
+    </message>
+    <message>
+        <source>The kind of paper in the printer. It decides how much ink is laid down and how fast the paper moves.</source>
+        <translation>O tipo de papel na impressora. Dele dependem a quantidade de tinta e a velocidade do papel.</translation>
+    </message>
+    <message>
+        <source>The pattern of dots that shades of gray are made of.</source>
+        <translation>O padrão de pontos que forma os tons de cinza.</translation>
+    </message>
+    <message>
         <source>The problem that the printer corrects.</source>
         <translation>O problema que a impressora corrige.</translation>
+    </message>
+    <message>
+        <source>The tray that the paper is taken from.</source>
+        <translation>A bandeja de onde o papel é retirado.</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Limiar</translation>
+    </message>
+    <message>
+        <source>Threshold:</source>
+        <translation>Limiar:</translation>
+    </message>
+    <message>
+        <source>Toner Save</source>
+        <translation>Economia de toner</translation>
     </message>
     <message>
         <source>is not compatible with</source>

@@ -88,6 +88,10 @@
         <translation>调整文字和图像的打印浓度。</translation>
     </message>
     <message>
+        <source>Advanced Options</source>
+        <translation>高级选项</translation>
+    </message>
+    <message>
         <source>Advanced Options: Mirror (OFF)</source>
         <translation>高级选项: 镜像 (关)</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Automatic</source>
         <translation>自动</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>黑白</translation>
     </message>
     <message>
         <source>Cartridge(s) installed: Only Color</source>
@@ -124,6 +132,14 @@
         <translation>彩色</translation>
     </message>
     <message>
+        <source>Color Output:</source>
+        <translation>色彩输出：</translation>
+    </message>
+    <message>
+        <source>Color Preferences:</source>
+        <translation>色彩偏好：</translation>
+    </message>
+    <message>
         <source>Conflicting settings</source>
         <translation>设置冲突</translation>
     </message>
@@ -138,6 +154,38 @@
     <message>
         <source>Document Color: Color</source>
         <translation>文档颜色: 彩色</translation>
+    </message>
+    <message>
+        <source>Dry Time</source>
+        <translation>干燥时间</translation>
+    </message>
+    <message>
+        <source>Dry Time:</source>
+        <translation>干燥时间：</translation>
+    </message>
+    <message>
+        <source>Halftone:</source>
+        <translation>半色调：</translation>
+    </message>
+    <message>
+        <source>How carefully the page is printed: better quality takes longer and uses more ink or toner.</source>
+        <translation>页面打印的精细程度：质量越高，耗时越长，使用的墨水或碳粉越多。</translation>
+    </message>
+    <message>
+        <source>How colors are matched between the screen and the print.</source>
+        <translation>屏幕与打印之间的色彩匹配方式。</translation>
+    </message>
+    <message>
+        <source>How dark a gray must be to be printed as black, from 1 to 5.</source>
+        <translation>灰色达到多深时打印为黑色，取值 1 到 5。</translation>
+    </message>
+    <message>
+        <source>How long the printer waits for the ink to dry before it prints the other side of the sheet.</source>
+        <translation>打印纸张另一面之前等待墨水干燥的时间。</translation>
+    </message>
+    <message>
+        <source>ICC Test Chart</source>
+        <translation>ICC 测试图表</translation>
     </message>
     <message>
         <source>Improve toner fixing</source>
@@ -156,6 +204,10 @@
         <translation>使用的墨水</translation>
     </message>
     <message>
+        <source>Ink To Use:</source>
+        <translation>使用的墨水：</translation>
+    </message>
+    <message>
         <source>Instructions</source>
         <translation>操作说明</translation>
     </message>
@@ -168,6 +220,14 @@
         <translation>布局: 每张页数 (&gt;1)</translation>
     </message>
     <message>
+        <source>Makes the edges in pictures crisper. Too much of it looks grainy.</source>
+        <translation>使图片边缘更清晰，过度则显得粗糙。</translation>
+    </message>
+    <message>
+        <source>Mirror</source>
+        <translation>镜像</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>确定</translation>
     </message>
@@ -178,6 +238,14 @@
     <message>
         <source>Paper Size: </source>
         <translation>纸张尺寸: </translation>
+    </message>
+    <message>
+        <source>Paper Source:</source>
+        <translation>纸张来源：</translation>
+    </message>
+    <message>
+        <source>Paper Type:</source>
+        <translation>纸张类型：</translation>
     </message>
     <message>
         <source>Paper Type: </source>
@@ -204,6 +272,10 @@
         <translation>打印浓度</translation>
     </message>
     <message>
+        <source>Print Quality:</source>
+        <translation>打印质量：</translation>
+    </message>
+    <message>
         <source>Print Quality: Draft</source>
         <translation>打印质量: 草稿</translation>
     </message>
@@ -212,8 +284,32 @@
         <translation>打印质量: 标准</translation>
     </message>
     <message>
+        <source>Prints in color, or in black and shades of gray. Other settings depend on it.</source>
+        <translation>以彩色打印，或以黑色和灰阶打印。其他设置取决于此项。</translation>
+    </message>
+    <message>
+        <source>Prints lighter, so that the toner lasts longer.</source>
+        <translation>打印得较淡，使碳粉更耐用。</translation>
+    </message>
+    <message>
+        <source>Prints the page reversed from left to right, as iron-on transfers need it.</source>
+        <translation>左右反转打印页面，适用于热转印纸。</translation>
+    </message>
+    <message>
+        <source>Prints without any color correction, for measuring a test chart.</source>
+        <translation>不做任何色彩校正地打印，用于测量测试图表。</translation>
+    </message>
+    <message>
+        <source>Prints without colors.</source>
+        <translation>不使用彩色打印。</translation>
+    </message>
+    <message>
         <source>Quality &amp; Media</source>
         <translation>质量与介质</translation>
+    </message>
+    <message>
+        <source>Raises or lowers the threshold by one.</source>
+        <translation>将阈值增加或减少 1。</translation>
     </message>
     <message>
         <source>Reduce Ghosting</source>
@@ -228,12 +324,48 @@
         <translation>减少褶皱或折痕</translation>
     </message>
     <message>
+        <source>Sharpening:</source>
+        <translation>锐化：</translation>
+    </message>
+    <message>
         <source>Show instructions to resolve the conflict settings.</source>
         <translation>显示解决冲突的操作说明。</translation>
     </message>
     <message>
+        <source>Shows or hides the less common settings.</source>
+        <translation>显示或隐藏不常用的设置。</translation>
+    </message>
+    <message>
+        <source>The ink cartridges that the page is printed with.</source>
+        <translation>打印页面所用的墨盒。</translation>
+    </message>
+    <message>
+        <source>The kind of paper in the printer. It decides how much ink is laid down and how fast the paper moves.</source>
+        <translation>打印机中的纸张种类，决定墨水用量和走纸速度。</translation>
+    </message>
+    <message>
+        <source>The pattern of dots that shades of gray are made of.</source>
+        <translation>构成灰阶的网点图案。</translation>
+    </message>
+    <message>
         <source>The problem that the printer corrects.</source>
         <translation>打印机要改善的问题。</translation>
+    </message>
+    <message>
+        <source>The tray that the paper is taken from.</source>
+        <translation>取纸的纸盘。</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>阈值</translation>
+    </message>
+    <message>
+        <source>Threshold:</source>
+        <translation>阈值：</translation>
+    </message>
+    <message>
+        <source>Toner Save</source>
+        <translation>节省碳粉</translation>
     </message>
     <message>
         <source>is not compatible with</source>
