@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Color Preferences:</source>
-        <translation>Farbanpassung:</translation>
+        <translation>Farbabstimmung:</translation>
     </message>
     <message>
         <source>Conflicting settings</source>
@@ -157,15 +157,15 @@
     </message>
     <message>
         <source>Dry Time</source>
-        <translation>Trockenzeit</translation>
+        <translation>Trocknungszeit</translation>
     </message>
     <message>
         <source>Dry Time:</source>
-        <translation>Trockenzeit:</translation>
+        <translation>Trocknungszeit:</translation>
     </message>
     <message>
         <source>Halftone:</source>
-        <translation>Rasterung:</translation>
+        <translation>Druckraster:</translation>
     </message>
     <message>
         <source>How carefully the page is printed: better quality takes longer and uses more ink or toner.</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Ink To Use:</source>
-        <translation>Tinte:</translation>
+        <translation>Zu verwendende Tinte:</translation>
     </message>
     <message>
         <source>Instructions</source>
@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>Mirror</source>
-        <translation>Spiegeln</translation>
+        <translation>Spiegelbild</translation>
     </message>
     <message>
         <source>OK</source>
@@ -293,7 +293,7 @@
     </message>
     <message>
         <source>Prints the page reversed from left to right, as iron-on transfers need it.</source>
-        <translation>Druckt die Seite seitenverkehrt, wie es Bügelfolien brauchen.</translation>
+        <translation>Druckt die Seite seitenverkehrt, wie es Transferpapier braucht.</translation>
     </message>
     <message>
         <source>Prints without any color correction, for measuring a test chart.</source>
@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>Raises or lowers the threshold by one.</source>
-        <translation>Erhöht oder senkt den Schwellenwert um eins.</translation>
+        <translation>Erhöht oder senkt den Schwellwert um eins.</translation>
     </message>
     <message>
         <source>Reduce Ghosting</source>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>Reduce paper curl</source>
-        <translation>Papierwellung verringern</translation>
+        <translation>Papierwölbung verringern</translation>
     </message>
     <message>
         <source>Reduce wrinkles or creases</source>
@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>Sharpening:</source>
-        <translation>Schärfen:</translation>
+        <translation>Scharfzeichnung:</translation>
     </message>
     <message>
         <source>Show instructions to resolve the conflict settings.</source>
@@ -357,11 +357,11 @@
     </message>
     <message>
         <source>Threshold</source>
-        <translation>Schwellenwert</translation>
+        <translation>Schwellwert</translation>
     </message>
     <message>
         <source>Threshold:</source>
-        <translation>Schwellenwert:</translation>
+        <translation>Schwellwert:</translation>
     </message>
     <message>
         <source>Toner Save</source>

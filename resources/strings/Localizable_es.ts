@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Halftone:</source>
-        <translation>Semitono:</translation>
+        <translation>Trama:</translation>
     </message>
     <message>
         <source>How carefully the page is printed: better quality takes longer and uses more ink or toner.</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Ink To Use:</source>
-        <translation>Tinta:</translation>
+        <translation>Tinta que se usará:</translation>
     </message>
     <message>
         <source>Instructions</source>
@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>Mirror</source>
-        <translation>Reflejar</translation>
+        <translation>Espejo</translation>
     </message>
     <message>
         <source>OK</source>
@@ -365,7 +365,7 @@
     </message>
     <message>
         <source>Toner Save</source>
-        <translation>Ahorro de tóner</translation>
+        <translation>Ahorrar tóner</translation>
     </message>
     <message>
         <source>is not compatible with</source>

@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Color Preferences:</source>
-        <translation>Préférences couleur :</translation>
+        <translation>Préférences de couleur :</translation>
     </message>
     <message>
         <source>Conflicting settings</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>ICC Test Chart</source>
-        <translation>Mire de test ICC</translation>
+        <translation>Mire ICC</translation>
     </message>
     <message>
         <source>Improve toner fixing</source>
@@ -293,7 +293,7 @@
     </message>
     <message>
         <source>Prints the page reversed from left to right, as iron-on transfers need it.</source>
-        <translation>Imprime la page inversée de gauche à droite, comme l’exigent les transferts à chaud.</translation>
+        <translation>Imprime la page inversée de gauche à droite, comme l’exigent les transferts thermocollants.</translation>
     </message>
     <message>
         <source>Prints without any color correction, for measuring a test chart.</source>

@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Halftone:</source>
-        <translation>Mezzitoni:</translation>
+        <translation>Retino:</translation>
     </message>
     <message>
         <source>How carefully the page is printed: better quality takes longer and uses more ink or toner.</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>ICC Test Chart</source>
-        <translation>Tavola di prova ICC</translation>
+        <translation>Tabella di prova ICC</translation>
     </message>
     <message>
         <source>Improve toner fixing</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Ink To Use:</source>
-        <translation>Inchiostro:</translation>
+        <translation>Inchiostro da usare:</translation>
     </message>
     <message>
         <source>Instructions</source>
@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>Mirror</source>
-        <translation>Specchio</translation>
+        <translation>Speculare</translation>
     </message>
     <message>
         <source>OK</source>

@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Color Preferences:</source>
-        <translation>カラー設定:</translation>
+        <translation>色の設定:</translation>
     </message>
     <message>
         <source>Conflicting settings</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Paper Source:</source>
-        <translation>給紙元:</translation>
+        <translation>給紙方法:</translation>
     </message>
     <message>
         <source>Paper Type:</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>The kind of paper in the printer. It decides how much ink is laid down and how fast the paper moves.</source>
-        <translation>プリンタにセットした用紙の種類です。インクの量と紙送りの速さが決まります。</translation>
+        <translation>プリンターにセットした用紙の種類です。インクの量と紙送りの速さが決まります。</translation>
     </message>
     <message>
         <source>The pattern of dots that shades of gray are made of.</source>

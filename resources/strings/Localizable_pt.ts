@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>ICC Test Chart</source>
-        <translation>Carta de teste ICC</translation>
+        <translation>Gráfico de teste ICC</translation>
     </message>
     <message>
         <source>Improve toner fixing</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Ink To Use:</source>
-        <translation>Tinta:</translation>
+        <translation>Tinta a usar:</translation>
     </message>
     <message>
         <source>Instructions</source>
@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>Mirror</source>
-        <translation>Espelhar</translation>
+        <translation>Espelho</translation>
     </message>
     <message>
         <source>OK</source>
@@ -293,7 +293,7 @@
     </message>
     <message>
         <source>Prints the page reversed from left to right, as iron-on transfers need it.</source>
-        <translation>Imprime a página invertida da esquerda para a direita, como pedem os transfers térmicos.</translation>
+        <translation>Imprime a página invertida da esquerda para a direita, como pedem as transferências a quente.</translation>
     </message>
     <message>
         <source>Prints without any color correction, for measuring a test chart.</source>
@@ -365,7 +365,7 @@
     </message>
     <message>
         <source>Toner Save</source>
-        <translation>Economia de toner</translation>
+        <translation>Economizar toner</translation>
     </message>
     <message>
         <source>is not compatible with</source>

@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>Color Output:</source>
-        <translation>色彩输出：</translation>
+        <translation>颜色输出：</translation>
     </message>
     <message>
         <source>Color Preferences:</source>
-        <translation>色彩偏好：</translation>
+        <translation>颜色偏好：</translation>
     </message>
     <message>
         <source>Conflicting settings</source>
@@ -185,11 +185,11 @@
     </message>
     <message>
         <source>ICC Test Chart</source>
-        <translation>ICC 测试图表</translation>
+        <translation>ICC 测试图</translation>
     </message>
     <message>
         <source>Improve toner fixing</source>
-        <translation>改善墨粉定影</translation>
+        <translation>改善碳粉定影</translation>
     </message>
     <message>
         <source>Improvement</source>

@@ -1,3 +1,4 @@
+#include "tests/tools/sample_ppd.h"
 #include "tests/tools/string_table.h"
 
 #include "tests/support/print_to.h"
@@ -10,6 +11,8 @@
 #include <QXmlStreamReader>
 
 #include <gtest/gtest.h>
+
+#include <span>
 
 namespace {
 
@@ -132,6 +135,51 @@ TEST_P(HelpBook, IsWrittenInItsLanguage)
                   GetParam() == q("en"))
             << qPrintable(page);
     }
+}
+
+struct PageOfSetting
+{
+    const char *page;
+    const char *option;
+};
+
+// clang-format off
+constexpr PageOfSetting inkPages[] = {
+    {"print-quality",     "PrintQuality"},
+    {"paper-type",        "MediaType"},
+    {"paper-source",      "PaperSource"},
+    {"color-output",      "ColorOutput"},
+    {"color-preferences", "ColorPreferences"},
+    {"ink-to-use",        "InkToUse"},
+    {"dry-time",          "DupDryTime"},
+    {"sharpening",        "Sharpen"},
+    {"mirror",            "Mirror"},
+    {"icc-test-chart",    "ICCTestChartProcess"},
+};
+constexpr PageOfSetting tonerPages[] = {
+    {"toner-save", "TonerSave"},
+    {"halftone",   "HalftoneLevel"},
+    {"threshold",  "Threshold"},
+};
+// clang-format on
+
+void expectTitlesOfOptions(const char *language, const char *edition,
+                           std::span<const PageOfSetting> pages)
+{
+    const sample::Ppd ppd = sample::open(edition);
+    ASSERT_NE(ppd, nullptr);
+    for (const PageOfSetting &entry : pages) {
+        const QString html = read(bookOf(q(language)) + q("/%1.html").arg(q(entry.page)));
+        EXPECT_SAME(titleOf(html), q(ppdFindOption(ppd.get(), entry.option)->text)) << language;
+    }
+}
+
+TEST(HelpTitles, AreThoseOfThePrintersOptions)
+{
+    expectTitlesOfOptions("en", "Korvane-S300", inkPages);
+    expectTitlesOfOptions("de", "Korvane-S300-de", inkPages);
+    expectTitlesOfOptions("ja", "Korvane-S300-ja", inkPages);
+    expectTitlesOfOptions("en", "Korvane-T500", tonerPages);
 }
 
 TEST(HelpLinks, AreFoundBrokenWhereThePageIsMissing)

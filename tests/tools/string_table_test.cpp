@@ -132,6 +132,23 @@ TEST(StringTables, AreTranslatedInEveryLanguage)
     }
 }
 
+TEST(StringTables, CallASettingTheSameOnItsLabelAsInTheWindows)
+{
+    const strings::Table table = strings::readTable();
+    for (auto texts = table.cbegin(); texts != table.cend(); ++texts) {
+        for (const char *name :
+             {"Paper Type", "Print Quality", "Ink To Use", "Dry Time", "Threshold"}) {
+            const QString label = texts->value(q(name) + q(":"));
+            ASSERT_FALSE(label.isEmpty()) << name;
+            for (const char *continued : {"", ": ", ": Automatic", ": Draft"}) {
+                const QString text = texts->value(q(name) + q(continued));
+                EXPECT_TRUE(text.isNull() || text.startsWith(label.chopped(1).trimmed()))
+                    << qPrintable(texts.key()) << ": " << qPrintable(text);
+            }
+        }
+    }
+}
+
 TEST(StringTables, NameTheModelInTheUtilityLineOfGermanAndJapanese)
 {
     const strings::Table table = strings::readTable();
