@@ -133,17 +133,15 @@ public:
     }
 
 private:
-    /// False when the window, and this delegate with it, is gone afterwards.
+    /// False when the window, and this delegate with it, is gone afterwards. A close that begins in
+    /// here ends at once, since the window is closing or hidden already.
     bool report()
     {
-        if (!willClose_ || std::exchange(reporting_, true))
-            return true;
         reported_ = true;
         const QPointer<QDialog> window = window_;
         const auto willClose = willClose_; // outlives this delegate
-        willClose(window);
-        if (window)
-            reporting_ = false;
+        if (willClose)
+            willClose(window);
         return window;
     }
 
@@ -157,7 +155,6 @@ private:
 
     QDialog *window_;
     std::function<void(QDialog *)> willClose_;
-    bool reporting_ = false;
     bool reported_ = false;
 };
 

@@ -18,6 +18,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <vector>
 
 using namespace platform;
 using test::q;
@@ -407,6 +408,72 @@ TEST_F(ModalSession, EndsWithAProgramThatLeavesItsWindowsOpen)
     });
     EXPECT_EQ(QApplication::exec(), 7);
     EXPECT_EQ(events.mid(2), QStringList({q("B ends"), q("A ends")}));
+}
+
+TEST_F(ModalSession, TellsWhetherItWasStoppedOrAbandoned)
+{
+    auto window = std::make_unique<OkWindow>("A");
+    later([&] { window->clickOk(); });
+    EXPECT_EQ(runModalForWindow(window.get()), ModalEnd::Stopped);
+    later([] { stopAllModalSessions(); });
+    EXPECT_EQ(runModalForWindow(window.get()), ModalEnd::Abandoned);
+    later([&] {
+        stopModal();
+        stopAllModalSessions();
+    });
+    EXPECT_EQ(runModalForWindow(window.get()), ModalEnd::Abandoned);
+    later([&] { window.reset(); });
+    EXPECT_EQ(runModalForWindow(window.get()), ModalEnd::Abandoned);
+    EXPECT_EQ(runModalForWindow(nullptr), ModalEnd::Abandoned);
+}
+
+TEST_F(ModalSession, IsAbandonedWhenTheProgramQuitsEvenIfItBeginsAfterwards)
+{
+    OkWindow first("A");
+    OkWindow second("B");
+    std::vector<ModalEnd> ends;
+    later([&] {
+        later([] { QCoreApplication::quit(); });
+        ends.push_back(runModalForWindow(&first));
+        ends.push_back(runModalForWindow(&second));
+    });
+    QApplication::exec();
+    EXPECT_EQ(ends, std::vector<ModalEnd>({ModalEnd::Abandoned, ModalEnd::Abandoned}));
+}
+
+TEST_F(ModalSession, StoppedByItsClosingWindowWhenTheProgramQuitsIsNoLessStopped)
+{
+    OkWindow window("A");
+    stopWhenClosing(&window);
+    ModalEnd end = ModalEnd::Abandoned;
+    later([&] {
+        later([] { QCoreApplication::quit(); });
+        end = runModalForWindow(&window);
+    });
+    QApplication::exec();
+    EXPECT_EQ(end, ModalEnd::Stopped);
+}
+
+TEST_F(ModalSession, LetsAWindowBeDiscardedFromItsOwnButton)
+{
+    const QPointer<OkWindow> window = new OkWindow("A");
+    QObject::connect(window->other, &QPushButton::clicked, &context, [&] {
+        discardWindow(window);
+        EXPECT_FALSE(window.isNull());
+        EXPECT_FALSE(window->isVisible());
+    });
+    later([&] { QTest::mouseClick(window->other, Qt::LeftButton); });
+    EXPECT_EQ(runModalForWindow(window), ModalEnd::Abandoned);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(window.isNull());
+}
+
+TEST_F(ModalSession, LetsAWindowBeDiscardedAtOnceWhileNoneRuns)
+{
+    const QPointer<QDialog> window = new QDialog;
+    discardWindow(window);
+    EXPECT_TRUE(window.isNull());
+    discardWindow(nullptr);
 }
 
 TEST_F(ModalSession, TakesReturnForItsDefaultButton)

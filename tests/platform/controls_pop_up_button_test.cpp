@@ -10,10 +10,14 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QStyle>
+#include <QStyleFactory>
 #include <QTest>
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
+
+#include <memory>
 
 using test::q;
 
@@ -135,14 +139,21 @@ TEST_F(PopUpButtons, EndATitleThatDoesNotFitByAnEllipsis)
     EXPECT_TEXT(controls::titleOfSelectedItem(&shortened), "Photo Paper Plus Glossy II");
 }
 
-TEST_F(PopUpButtons, OpenAListAsWideAsItsItems)
+TEST_F(PopUpButtons, OpenAListAsWideAsItsItemsInEveryStyle)
 {
     const QString title = q("Photo Paper Plus Glossy II, both sides, from the rear tray");
-    controls::addItem(popUp, title, q("LONG"));
-    popUp->setFixedWidth(60);
-    popUp->showPopup();
-    EXPECT_GE(popUp->view()->width(), popUp->fontMetrics().horizontalAdvance(title));
-    popUp->hidePopup();
+    for (const QString &name : QStyleFactory::keys()) {
+        const std::unique_ptr<QStyle> style(QStyleFactory::create(name));
+        PopUpButton narrow;
+        narrow.setStyle(style.get());
+        controls::addItem(&narrow, title, q("LONG"));
+        narrow.setFixedWidth(60);
+        narrow.show();
+        narrow.showPopup();
+        EXPECT_GE(narrow.view()->width(), narrow.fontMetrics().horizontalAdvance(title))
+            << name.toStdString();
+        narrow.hidePopup();
+    }
 }
 
 TEST_F(PopUpButtons, NeverOpenAListWiderThanTheScreen)
