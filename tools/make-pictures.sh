@@ -4,12 +4,8 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 build=${1:-build/dev}
-jobs=$(mktemp -d)
-trap 'rm -rf "$jobs"' EXIT
-
 mkdir -p docs/pictures
 for scenario in docs/scenarios/*.scenario; do
-    QT_QPA_PLATFORM=offscreen "$build/bin/korvane-print" --root "$build/root" \
-        --job-folder "$jobs" replay "$scenario" --pictures docs/pictures
+    tools/replay.sh "$build" "$scenario" driver/demo/sample.pdf --pictures docs/pictures
 done
 ls docs/pictures/*.png

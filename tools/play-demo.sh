@@ -12,10 +12,9 @@ out=out
 play() {
     local folder=$out/$1 status=0
     mkdir -p "$folder"
-    QT_QPA_PLATFORM=offscreen "$build/bin/korvane-print" --root "$build/root" \
-        --ppd "driver/ppd/$3.ppd" --language "$4" --job-folder "$folder" \
-        replay "driver/demo/$2.scenario" --report "$folder/report.json" --pictures "$folder" \
-        "$document" || status=$?
+    tools/replay.sh "$build" "driver/demo/$2.scenario" "$document" --ppd "driver/ppd/$3.ppd" \
+        --language "$4" --job-folder "$folder" --report "$folder/report.json" \
+        --pictures "$folder" || status=$?
     echo "$folder:"
     find "$folder" -type f | LC_ALL=C sort | sed 's/^/  /'
     return "$status"
