@@ -1,0 +1,146 @@
+#include "dialog/command_line.h"
+
+#include "dialog/replay/scenario.h"
+
+#include <QCommandLineParser>
+
+namespace dialog {
+namespace {
+
+QCommandLineOption valueOption(const char *name, const char *description, const char *value)
+{
+    return {QString::fromLatin1(name), QString::fromLatin1(description),
+            QString::fromLatin1(value)};
+}
+
+QCommandLineOption flagOption(const char *name, const char *description)
+{
+    return {QString::fromLatin1(name), QString::fromLatin1(description)};
+}
+
+void addCaseOptions(QCommandLineParser &parser)
+{
+    parser.addOptions({
+        valueOption("ppd", "The printer's PPD file.", "FILE"),
+        valueOption("root", "Folder under which /Library/Printers is looked up.", "DIR"),
+        valueOption("system-version", "System version that the panels see, such as 0x1060.", "V"),
+        valueOption("language", "First preferred language, such as de or fr-CA.", "L"),
+        valueOption("queue", "Print queue to send the job to.", "NAME"),
+        valueOption("job-folder", "Folder for jobs that go to no queue.", "DIR"),
+        flagOption("console", "Show the console lines of the panels."),
+        QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")},
+                           QStringLiteral("Show this text and leave.")),
+        flagOption("version", "Show the version and leave."),
+    });
+}
+
+void addReplayOptions(QCommandLineParser &parser)
+{
+    parser.addOptions({
+        valueOption("report", "Write the report to this file, - for standard output.", "OUT.json"),
+        valueOption("pictures", "Folder for the pictures that the scenario takes.", "DIR"),
+        flagOption("stable", "Write the same report for the same scenario: no job ids, no times."),
+    });
+}
+
+/// Null where the option was not given.
+QString given(const QCommandLineParser &parser, const char *option)
+{
+    const QString name = QString::fromLatin1(option);
+    return parser.isSet(name) ? parser.value(name) : QString();
+}
+
+PrintCase caseOf(const QCommandLineParser &parser)
+{
+    PrintCase printCase;
+    printCase.ppd = given(parser, "ppd");
+    printCase.root = given(parser, "root");
+    printCase.language = given(parser, "language");
+    printCase.queue = given(parser, "queue");
+    printCase.jobFolder = given(parser, "job-folder");
+    printCase.showsConsole = parser.isSet(QStringLiteral("console"));
+    return printCase;
+}
+
+/// Null when the version was not given or can be read.
+QString readSystemVersion(const QCommandLineParser &parser, PrintCase &printCase)
+{
+    const QString word = given(parser, "system-version");
+    if (word.isNull())
+        return {};
+    const int version = replay::systemVersionOf(word);
+    if (version < 0)
+        return word + QStringLiteral(" is no system version; write it like 0x1060");
+    printCase.systemVersion = version;
+    return {};
+}
+
+QString takePositionals(const QStringList &words, CommandLine &line)
+{
+    const bool isReplay = line.command == CommandLine::Command::Replay;
+    if (isReplay && words.isEmpty())
+        return QStringLiteral("replay needs the scenario's file");
+    if (words.size() > (isReplay ? 2 : 1))
+        return QStringLiteral("too many words: ") + words.last();
+    if (isReplay)
+        line.scenario = words.first();
+    line.printCase.document = words.value(isReplay ? 1 : 0);
+    return {};
+}
+
+CommandLine helpLine(QCommandLineParser &parser, bool isReplay)
+{
+    if (isReplay) {
+        parser.addPositionalArgument(QStringLiteral("replay"), QStringLiteral("Play a scenario."),
+                                     QStringLiteral("replay"));
+        parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("The scenario."));
+    } else {
+        parser.setApplicationDescription(QStringLiteral(
+            "Opens the print dialog. \"korvane-print replay FILE\" plays a scenario instead."));
+    }
+    parser.addPositionalArgument(QStringLiteral("DOCUMENT"),
+                                 QStringLiteral("The document to print."),
+                                 QStringLiteral("[DOCUMENT]"));
+    CommandLine line;
+    line.command = CommandLine::Command::ShowHelp;
+    line.helpText = parser.helpText();
+    return line;
+}
+
+} // namespace
+
+std::variant<CommandLine, UsageError> parseCommandLine(const QStringList &words)
+{
+    const bool isReplay = words.value(1) == QLatin1String("replay");
+    QStringList rest = words;
+    if (isReplay)
+        rest.removeAt(1);
+    QCommandLineParser parser;
+    addCaseOptions(parser);
+    if (isReplay)
+        addReplayOptions(parser);
+    if (!parser.parse(rest))
+        return UsageError{parser.errorText()};
+    if (parser.isSet(QStringLiteral("help")))
+        return helpLine(parser, isReplay);
+
+    CommandLine line;
+    line.command = isReplay ? CommandLine::Command::Replay : CommandLine::Command::OpenDialog;
+    if (parser.isSet(QStringLiteral("version")))
+        line.command = CommandLine::Command::ShowVersion;
+    line.printCase = caseOf(parser);
+    QString error = readSystemVersion(parser, line.printCase);
+    if (error.isNull() && line.command != CommandLine::Command::ShowVersion)
+        error = takePositionals(parser.positionalArguments(), line);
+    if (!error.isNull())
+        return UsageError{error};
+    if (isReplay) {
+        line.report = given(parser, "report");
+        line.player.pictures = given(parser, "pictures");
+        line.player.naming = parser.isSet(QStringLiteral("stable")) ? replay::Naming::Stable
+                                                                    : replay::Naming::Actual;
+    }
+    return line;
+}
+
+} // namespace dialog

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "dialog/print_case.h"
+#include "dialog/replay/player.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <variant>
+
+namespace dialog {
+
+/// What the program was asked to do.
+struct CommandLine
+{
+    enum class Command { OpenDialog, Replay, ShowHelp, ShowVersion };
+
+    Command command = Command::OpenDialog;
+    PrintCase printCase;
+    QString scenario;
+    QString report; ///< null: none; "-": standard output
+    replay::PlayerOptions player;
+    QString helpText;
+};
+
+/// Why the words make no command, in one line.
+struct UsageError
+{
+    QString message;
+};
+
+/// @p words begins with the program's name.
+[[nodiscard]] std::variant<CommandLine, UsageError> parseCommandLine(const QStringList &words);
+
+} // namespace dialog

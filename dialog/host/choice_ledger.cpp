@@ -1,0 +1,36 @@
+#include "dialog/host/choice_ledger.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace dialog {
+namespace {
+
+QString markedChoice(const Choices &marks, const QString &option)
+{
+    const auto found = std::find_if(marks.begin(), marks.end(), [&](const Choice &mark) {
+        return mark.option.compare(option, Qt::CaseInsensitive) == 0;
+    });
+    return found == marks.end() ? QString() : found->choice;
+}
+
+} // namespace
+
+void ChoiceLedger::recordOffer(const Choice &choice)
+{
+    if (std::exchange(isFirst_, false))
+        chosen_[choice.option] = choice.choice;
+}
+
+std::vector<Difference> ChoiceLedger::differences(const Choices &marks) const
+{
+    std::vector<Difference> differences;
+    for (const auto &[option, choice] : chosen_) {
+        const QString marked = markedChoice(marks, option);
+        if (marked.isNull() || marked.compare(choice, Qt::CaseInsensitive) != 0)
+            differences.push_back({option, choice, marked});
+    }
+    return differences;
+}
+
+} // namespace dialog

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "dialog/printers/choice.h"
+
+#include <map>
+
+namespace dialog {
+
+/// A choice of a person that the job will not have.
+struct Difference
+{
+    QString option;
+    QString chosen;
+    QString marked; ///< null when nothing is marked
+
+    bool operator==(const Difference &) const = default;
+};
+
+/// Remembers what a person chose, accepted or refused, beside what rules offered afterwards.
+///
+/// The first offer of an action is the person's own; the offers that follow in the same action are
+/// the consequences that the panel's rules draw, and replace nobody's choice.
+class ChoiceLedger
+{
+public:
+    void beginAction() { isFirst_ = true; }
+    void recordOffer(const Choice &choice);
+
+    /// What a person chose last for each option.
+    [[nodiscard]] const std::map<QString, QString> &chosen() const { return chosen_; }
+    /// Where the marks differ from it, by option.
+    [[nodiscard]] std::vector<Difference> differences(const Choices &marks) const;
+
+private:
+    std::map<QString, QString> chosen_;
+    bool isFirst_ = true;
+};
+
+} // namespace dialog

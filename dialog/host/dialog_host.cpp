@@ -1,0 +1,164 @@
+#include "dialog/host/dialog_host.h"
+
+#include "dialog/printers/ppd_document.h"
+
+#include <QScopedValueRollback>
+
+#include <utility>
+
+namespace dialog {
+namespace {
+
+const QString kPageSize = QStringLiteral("PageSize");
+
+/// A refusal that a null, unknown or forbidden offer has earned is not shown as a choice of a
+/// person's.
+bool namesKnownChoice(OfferVerdict verdict)
+{
+    return verdict == OfferVerdict::Accepted || verdict == OfferVerdict::Conflicts ||
+           verdict == OfferVerdict::Refused;
+}
+
+} // namespace
+
+DialogHost::DialogHost(PpdDocument &printer, QObject *parent) : QObject(parent), printer_(printer)
+{
+}
+
+ppd_file_t *DialogHost::ppdFile()
+{
+    return printer_.handle();
+}
+
+void DialogHost::panelViewDidResize()
+{
+    Q_EMIT panelResized();
+}
+
+bool DialogHost::willChangePPDOptionKeyValue(const QString &option, const QString &choice)
+{
+    const Choice offered{option, choice};
+    const bool accepted = isCommitting_ ? commit(offered) : answer(offered);
+    Q_EMIT answered(offered, accepted);
+    return accepted;
+}
+
+OfferOutcome DialogHost::judge(const Choice &offered)
+{
+    OfferOutcome outcome = judgeOffer(printer_, offered);
+    if (takesRefusal(offered.option))
+        outcome.verdict = OfferVerdict::Refused;
+    return outcome;
+}
+
+bool DialogHost::takesRefusal(const QString &option)
+{
+    const auto found = refusals_.find(option);
+    if (found == refusals_.end())
+        return false;
+    if (found->second && --*found->second == 0)
+        refusals_.erase(found);
+    return true;
+}
+
+bool DialogHost::answer(const Choice &offered)
+{
+    const OfferOutcome outcome = judge(offered);
+    if (!called_ && namesKnownChoice(outcome.verdict))
+        recordPersonsOffer(outcome);
+    const bool accepted = outcome.verdict == OfferVerdict::Accepted;
+    if (accepted)
+        accept(offered);
+    Q_EMIT judged(outcome);
+    return accepted;
+}
+
+bool DialogHost::commit(const Choice &offered)
+{
+    const bool known = !offered.choice.isNull() && printer_.hasChoice(offered);
+    if (known)
+        printer_.mark(offered);
+    return known;
+}
+
+/// An action lasts until the event loop is reached again, a modal window's loop included.
+void DialogHost::recordPersonsOffer(const OfferOutcome &outcome)
+{
+    if (!std::exchange(isActionOpen_, true)) {
+        ledger_.beginAction();
+        Q_EMIT actionBegan();
+        QMetaObject::invokeMethod(
+            this, [this] { isActionOpen_ = false; }, Qt::QueuedConnection);
+    }
+    ledger_.recordOffer(outcome.offered);
+}
+
+void DialogHost::accept(const Choice &offered)
+{
+    printer_.mark(offered);
+    followPageSize();
+    queueChange({offered, called_ ? called_ : front_});
+}
+
+void DialogHost::queueChange(const Change &change)
+{
+    changes_.push_back(change);
+    QMetaObject::invokeMethod(this, &DialogHost::deliverChanges, Qt::QueuedConnection);
+}
+
+void DialogHost::deliverChanges()
+{
+    const std::vector<Change> changes = std::exchange(changes_, {});
+    for (const Change &change : changes)
+        tellPanels(change);
+}
+
+void DialogHost::tellPanels(const Change &change)
+{
+    const PDEPanelList panels = panels_;
+    for (const auto &panel : panels) {
+        if (panel.get() != change.from)
+            callPanel(panel.get(), [&](PDEPanel &told) {
+                told.PPDOptionKeyValueDidChange(change.choice.option, change.choice.choice);
+            });
+    }
+}
+
+CommitResult DialogHost::commitPanels()
+{
+    deliverChanges();
+    const QScopedValueRollback committing(isCommitting_, true);
+    const PDEPanelList panels = panels_;
+    for (const auto &panel : panels)
+        callPanel(panel.get(), [](PDEPanel &saved) { saved.saveValuesAndReturnError(nullptr); });
+    followPageSize();
+    return {printer_.conflicts(), ledger_.differences(printer_.marks())};
+}
+
+void DialogHost::changeFromElsewhere(const Choice &choice)
+{
+    printer_.mark(choice);
+    followPageSize();
+    tellPanels({choice, nullptr});
+}
+
+void DialogHost::refuseOffers(const QString &option, std::optional<int> count)
+{
+    if (count && *count <= 0)
+        refusals_.erase(option);
+    else
+        refusals_[option] = count;
+}
+
+void DialogHost::setPaperName(const QString &ppdName)
+{
+    paperName_ = ppdName;
+    followPageSize();
+}
+
+void DialogHost::followPageSize()
+{
+    format_.setPaperName(paperName_.isNull() ? printer_.marked(kPageSize) : paperName_);
+}
+
+} // namespace dialog

@@ -1,0 +1,119 @@
+#pragma once
+
+#include "dialog/host/choice_ledger.h"
+#include "dialog/host/offer.h"
+#include "platform/panel_protocol.h"
+
+#include <QObject>
+
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace dialog {
+
+class PpdDocument;
+
+/// What committing the panels came to.
+struct CommitResult
+{
+    std::vector<Conflict> conflicts;
+    std::vector<Difference> differences;
+
+    [[nodiscard]] bool isClean() const { return conflicts.empty() && differences.empty(); }
+};
+
+/// The dialog as the panels see it: judges and marks their offers, tells the other panels, and
+/// keeps the job's objects.
+///
+/// Calls into panels go through this class, so that it knows which panel offers: the one that is
+/// being called, else the one in front. Accepted choices reach the other panels after the outermost
+/// offer has returned, from the event loop.
+class DialogHost : public QObject, public PDEPlugInCallback
+{
+    Q_OBJECT
+
+public:
+    /// Borrows the printer, which outlives the host.
+    explicit DialogHost(PpdDocument &printer, QObject *parent = nullptr);
+
+    // The protocol.
+    [[nodiscard]] ppd_file_t *ppdFile() override;
+    [[nodiscard]] PMPrintSettings printSettings() override { return &settings_; }
+    [[nodiscard]] PMPageFormat pageFormat() override { return &format_; }
+    [[nodiscard]] PMPrintSession printSession() override { return &session_; }
+    void panelViewDidResize() override;
+    bool willChangePPDOptionKeyValue(const QString &option, const QString &choice) override;
+
+    // The dialog's side.
+    void setPanels(const PDEPanelList &panels) { panels_ = panels; }
+    void setFrontPanel(PDEPanel *panel) { front_ = panel; }
+    /// Calls an operation of a panel; offers that it makes are the panel's, not a person's.
+    template <class Call>
+    void callPanel(PDEPanel *panel, const Call &call)
+    {
+        PDEPanel *const former = std::exchange(called_, panel);
+        call(*panel);
+        called_ = former;
+    }
+
+    /// Saves every panel: marks each pair that the PPD knows, then looks at the whole once.
+    CommitResult commitPanels();
+    /// Marks a choice as another panel's and tells every panel the word as it stands.
+    void changeFromElsewhere(const Choice &choice);
+    /// Tells the panels what has been accepted since, without waiting for the event loop.
+    void deliverChanges();
+    /// Refuses that many of the next offers of an option, all without a count; a count of 0 ends
+    /// it.
+    void refuseOffers(const QString &option, std::optional<int> count);
+
+    /// Page format's paper: this name, or else the marked page size.
+    void setPaperName(const QString &ppdName);
+    [[nodiscard]] const QString &explicitPaperName() const { return paperName_; }
+    void followPageSize();
+
+    [[nodiscard]] const platform::PrintSettings &settings() const { return settings_; }
+    [[nodiscard]] const ChoiceLedger &ledger() const { return ledger_; }
+
+Q_SIGNALS:
+    /// A person's action made its first offer.
+    void actionBegan();
+    /// Every offer, with the answer that the panel gets; commits included.
+    void answered(const dialog::Choice &choice, bool accepted);
+    /// Offers outside a commit, in more detail.
+    void judged(const dialog::OfferOutcome &outcome);
+    void panelResized();
+
+private:
+    struct Change
+    {
+        Choice choice;
+        const PDEPanel *from; ///< not told; null tells all
+    };
+
+    [[nodiscard]] OfferOutcome judge(const Choice &offered);
+    [[nodiscard]] bool takesRefusal(const QString &option);
+    [[nodiscard]] bool answer(const Choice &offered);
+    [[nodiscard]] bool commit(const Choice &offered);
+    void recordPersonsOffer(const OfferOutcome &outcome);
+    void accept(const Choice &offered);
+    void queueChange(const Change &change);
+    void tellPanels(const Change &change);
+
+    PpdDocument &printer_;
+    platform::PrintSettings settings_;
+    platform::PageFormat format_;
+    platform::PrintSession session_{&settings_, &format_};
+    QString paperName_;
+
+    PDEPanelList panels_;
+    PDEPanel *front_ = nullptr;  ///< borrowed
+    PDEPanel *called_ = nullptr; ///< borrowed
+    bool isCommitting_ = false;
+    bool isActionOpen_ = false;
+    std::vector<Change> changes_;
+    std::map<QString, std::optional<int>> refusals_;
+    ChoiceLedger ledger_;
+};
+
+} // namespace dialog

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace dialog {
+
+/// Null when the document can be printed: a regular file that may be read. Else what to tell a
+/// person.
+[[nodiscard]] QString documentProblem(const QString &path);
+
+} // namespace dialog

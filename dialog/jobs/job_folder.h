@@ -1,0 +1,28 @@
+#pragma once
+
+#include "dialog/jobs/ticket.h"
+
+#include <QString>
+
+namespace dialog {
+
+/// Folder of the job folders: this one when it is not null, else "korvane-print/jobs" in the user's
+/// data folder ($XDG_DATA_HOME, else ~/.local/share).
+[[nodiscard]] QString jobsFolder(const QString &requested);
+
+/// Name of a new job: "korvane-job-" and the time to the millisecond.
+[[nodiscard]] QString newJobId(const QDateTime &time);
+
+struct JobFolderResult
+{
+    QString ticketPath; ///< null on failure
+    QString error;
+};
+
+/// Writes "<folder>/<ticket.id>/" with "ticket.json" and, unless @p document is null, a copy of the
+/// document under ticket.documentFile. The folder appears complete or not at all; one of that name
+/// is never replaced. Only this user may read it.
+[[nodiscard]] JobFolderResult writeJobFolder(const QString &folder, const Ticket &ticket,
+                                             const QString &document);
+
+} // namespace dialog

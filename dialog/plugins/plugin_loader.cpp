@@ -1,0 +1,77 @@
+#include "dialog/plugins/plugin_loader.h"
+
+#include "dialog/texts.h"
+#include "platform/values.h"
+
+#include <QFileInfo>
+#include <QJsonObject>
+#include <QPluginLoader>
+
+namespace dialog {
+namespace {
+
+const QString kLibraryFolder = QStringLiteral("/Contents/Linux/");
+const QString kUsualLibrary = QStringLiteral("libkorvane-panels.so");
+const QString kInformation = QStringLiteral("/Contents/Info.plist");
+
+PlugInFailure failure(const PathRefusal &refusal)
+{
+    if (refusal.reason == PathRefusal::Reason::Missing)
+        return {text(Text::PlugInAbsent, {refusal.path})};
+    return {text(Text::PlugInRefused, {refusal.path, refusal.reasonText()})};
+}
+
+/// A plain file name; anything that leads elsewhere counts as not named.
+QString libraryName(const Bundle &bundle)
+{
+    const QString name =
+        bundle.infoDictionary().value(QStringLiteral("CFBundleExecutable")).toString();
+    const bool isPlain = !name.isEmpty() && !name.contains(u'/') && !name.startsWith(u'.');
+    const QString path = bundle.path() + kLibraryFolder + name;
+    return isPlain && QFileInfo::exists(path) ? name : kUsualLibrary;
+}
+
+std::optional<PathRefusal> checkBundle(const QString &literalPath, TrustedOwner owner)
+{
+    if (const auto refusal = checkDriverPath(literalPath, PathKind::Directory, owner))
+        return refusal;
+    const auto refusal = checkDriverPath(literalPath + kInformation, PathKind::File, owner);
+    const bool isMissing = refusal && refusal->reason == PathRefusal::Reason::Missing;
+    return isMissing ? std::nullopt : refusal;
+}
+
+std::variant<std::unique_ptr<PDEPlugIn>, PlugInFailure> createPrincipal(const QString &libraryPath)
+{
+    QPluginLoader loader(libraryPath);
+    loader.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
+    const QString interfaceId = loader.metaData().value(QLatin1String("IID")).toString();
+    if (interfaceId.isEmpty())
+        return PlugInFailure{text(Text::PlugInDamaged, {libraryPath, loader.errorString()})};
+    if (interfaceId != QLatin1String(PDEPlugInModule_iid))
+        return PlugInFailure{text(Text::PlugInForeign, {libraryPath})};
+    auto *module = qobject_cast<PDEPlugInModule *>(loader.instance());
+    if (!module)
+        return PlugInFailure{text(Text::PlugInDamaged, {libraryPath, loader.errorString()})};
+    return module->createPlugIn();
+}
+
+} // namespace
+
+std::variant<PlugIn, PlugInFailure> loadPlugIn(const QString &literalBundlePath, TrustedOwner owner)
+{
+    if (const auto refusal = checkBundle(literalBundlePath, owner))
+        return failure(*refusal);
+    PlugIn plugIn{Bundle::bundleWithPath(platform::resolved(literalBundlePath)), nullptr};
+    const QString library = literalBundlePath + kLibraryFolder + libraryName(*plugIn.bundle);
+    if (const auto refusal = checkDriverPath(library, PathKind::File, owner))
+        return failure(*refusal);
+    auto created = createPrincipal(platform::resolved(library));
+    if (const auto *failed = std::get_if<PlugInFailure>(&created))
+        return *failed;
+    plugIn.principal = std::move(std::get<std::unique_ptr<PDEPlugIn>>(created));
+    if (!plugIn.principal || !plugIn.principal->initWithBundle(plugIn.bundle.get()))
+        return PlugInFailure{text(Text::NoPanelsForPrinter)};
+    return plugIn;
+}
+
+} // namespace dialog

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace dialog {
+
+/// What the dialog is opened with. Null means "not given".
+struct PrintCase
+{
+    QString ppd;
+    QString root; ///< driver root; given explicitly where it is not null
+    std::optional<int> systemVersion;
+    QString language;
+    QString queue;
+    QString document;
+    QString jobFolder;
+    bool showsConsole = false;
+};
+
+} // namespace dialog

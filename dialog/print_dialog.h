@@ -1,0 +1,114 @@
+#pragma once
+
+#include "dialog/host/dialog_host.h"
+#include "dialog/jobs/ticket.h"
+#include "dialog/plugins/plugin_loader.h"
+#include "dialog/print_case.h"
+#include "dialog/printers/ppd_document.h"
+#include "dialog/texts.h"
+#include "dialog/window/notice_area.h"
+#include "platform/help_viewer.h"
+
+#include <QObject>
+
+#include <memory>
+#include <variant>
+#include <vector>
+
+namespace dialog {
+
+class PrintWindow;
+class QueueJob;
+
+/// A job that has been handed over.
+struct JobRecord
+{
+    QString id; ///< the job folder's name, or the number at the print server
+    JobOptions options;
+    QString ticketPath;
+};
+
+/// The print dialog as a whole: one printer, the panels of its plug-ins, the window, the job.
+///
+/// Must not be destroyed from inside a panel's call or a modal window of one: left() and jobMade()
+/// are the moments to quit the event loop, after which it may go.
+class PrintDialog : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Panel
+    {
+        std::shared_ptr<PDEPanel> panel;
+        QString title;
+        QString kind;
+    };
+    /// Whether a person is asked before a job prints with conflicts or other choices than made.
+    enum class Review { Ask, Skip };
+    using Opened = std::variant<std::unique_ptr<PrintDialog>, QString>;
+
+    /// Sets the platform values, checks the document and opens the printer; without panels so far.
+    /// The alternative is what to tell a person before the program ends.
+    [[nodiscard]] static Opened open(const PrintCase &printCase);
+    ~PrintDialog() override;
+
+    /// Loads the plug-ins that the PPD names, restores their panels from what is marked, and shows
+    /// the window with the first one in front. Does nothing the second time.
+    void showPanels();
+    [[nodiscard]] bool hasShownPanels() const { return window_ != nullptr; }
+
+    [[nodiscard]] PpdDocument &printer() const { return *printer_; }
+    [[nodiscard]] DialogHost &host() { return host_; }
+    [[nodiscard]] const std::vector<Panel> &panels() const { return panels_; }
+    [[nodiscard]] int frontIndex() const;
+    /// Null before showPanels().
+    [[nodiscard]] PrintWindow *window() const { return window_.get(); }
+
+    CommitResult commit() { return host_.commitPanels(); }
+    void setDocument(const QString &path);
+    /// Commits and prints, or shows a notice that says why not.
+    void print(Review review);
+
+Q_SIGNALS:
+    void jobMade(const dialog::JobRecord &job);
+    void jobFailed(const QString &notice);
+    void noticeShown(const QString &notice);
+    void helpOpened(const platform::HelpRequest &request);
+    void left();
+
+private:
+    PrintDialog(const PrintCase &printCase, std::unique_ptr<PpdDocument> printer);
+
+    void loadPanels();
+    void loadPanelsOf(const QString &literalBundlePath);
+    void makeWindow();
+    void restorePanels();
+    void bringForward(int index);
+    void showHelp();
+    void showOutcome(const OfferOutcome &outcome);
+    void notify(const Notice &notice);
+    void fail(const QString &notice);
+    [[nodiscard]] QString problemBeforePrinting() const;
+    void askForReview(const CommitResult &result);
+    [[nodiscard]] QString reviewText(const CommitResult &result) const;
+    [[nodiscard]] QString pairText(Text id, const Choice &one, const Choice &other) const;
+    [[nodiscard]] JobSettings jobSettings() const;
+    [[nodiscard]] Ticket makeTicket(const CommitResult &result) const;
+    void printToFolder(const Ticket &ticket);
+    void printToQueue(const Ticket &ticket);
+    void finishQueueJob(Ticket ticket, int jobId, const QString &error);
+    void leave();
+
+    // In the order of their dependence: the views go first, then the panels, at last the PPD.
+    PrintCase case_;
+    std::unique_ptr<PpdDocument> printer_;
+    DialogHost host_;
+    std::vector<PlugIn> plugIns_;
+    std::vector<Panel> panels_;
+    std::unique_ptr<PrintWindow> window_;
+    std::vector<Notice> early_; ///< shown as soon as there is a window
+    QueueJob *queueJob_ = nullptr;
+    platform::HelpOpener formerHelpOpener_;
+};
+
+} // namespace dialog

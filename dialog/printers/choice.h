@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+namespace dialog {
+
+/// An option of the printer and one of its choices, both by keyword. A null choice is none.
+struct Choice
+{
+    QString option;
+    QString choice;
+
+    bool operator==(const Choice &) const = default;
+};
+
+using Choices = std::vector<Choice>;
+
+/// Two marked choices that a constraint of the PPD forbids together.
+struct Conflict
+{
+    Choice one;
+    Choice other;
+};
+
+} // namespace dialog

@@ -1,0 +1,263 @@
+#include "dialog/printers/ppd_document.h"
+
+#include "platform/strings.h"
+
+#include <cups/cups.h>
+#include <cups/ppd.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cstring>
+#include <span>
+
+namespace dialog {
+namespace {
+
+using platform::decodedUtf8;
+
+std::span<ppd_group_t> groupsOf(const ppd_file_t *ppd)
+{
+    return {ppd->groups, static_cast<std::size_t>(ppd->num_groups)};
+}
+
+std::span<ppd_group_t> groupsOf(const ppd_group_t &group)
+{
+    return {group.subgroups, static_cast<std::size_t>(group.num_subgroups)};
+}
+
+std::span<ppd_option_t> optionsOf(const ppd_group_t &group)
+{
+    return {group.options, static_cast<std::size_t>(group.num_options)};
+}
+
+std::span<ppd_choice_t> choicesOf(const ppd_option_t &option)
+{
+    return {option.choices, static_cast<std::size_t>(option.num_choices)};
+}
+
+template <class Groups, class Visit>
+void visitOptions(Groups groups, const Visit &visit)
+{
+    for (const ppd_group_t &group : groups) {
+        for (const ppd_option_t &option : optionsOf(group))
+            visit(option);
+        visitOptions(groupsOf(group), visit);
+    }
+}
+
+const ppd_option_t *findOption(ppd_file_t *ppd, const QString &option)
+{
+    return option.isNull() ? nullptr : ppdFindOption(ppd, option.toUtf8().constData());
+}
+
+const ppd_choice_t *findChoice(ppd_file_t *ppd, const Choice &choice)
+{
+    ppd_option_t *option = const_cast<ppd_option_t *>(findOption(ppd, choice.option));
+    return option && !choice.choice.isNull()
+               ? ppdFindChoice(option, choice.choice.toUtf8().constData())
+               : nullptr;
+}
+
+QString textOr(const char *text, const QString &keyword)
+{
+    const QString decoded = decodedUtf8(text);
+    return decoded.isEmpty() ? keyword : decoded;
+}
+
+Choices markedChoices(const ppd_file_t *ppd)
+{
+    Choices marks;
+    visitOptions(groupsOf(ppd), [&](const ppd_option_t &option) {
+        for (const ppd_choice_t &choice : choicesOf(option)) {
+            if (choice.marked)
+                marks.push_back({decodedUtf8(option.keyword), decodedUtf8(choice.choice)});
+        }
+    });
+    return marks;
+}
+
+/// Only a regular file is opened: a FIFO would block the dialog.
+std::optional<PpdError> unreadable(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return PpdError{path, 0, QStringLiteral("there is no such file")};
+    if (!info.isFile())
+        return PpdError{path, 0, QStringLiteral("this is no regular file")};
+    if (!info.isReadable())
+        return PpdError{path, 0, QStringLiteral("the file may not be read")};
+    return std::nullopt;
+}
+
+PpdError lastError(const QString &path)
+{
+    int line = 0;
+    const ppd_status_t status = ppdLastError(&line);
+    return {path, line, QString::fromUtf8(ppdErrorString(status))};
+}
+
+class Options
+{
+public:
+    ~Options() { cupsFreeOptions(count, list); }
+
+    int count = 0;
+    cups_option_t *list = nullptr;
+};
+
+bool isListed(const std::vector<Conflict> &conflicts, const Choice &one, const Choice &other)
+{
+    return std::any_of(conflicts.begin(), conflicts.end(), [&](const Conflict &conflict) {
+        return (conflict.one == one && conflict.other == other) ||
+               (conflict.one == other && conflict.other == one);
+    });
+}
+
+} // namespace
+
+QString PpdError::message() const
+{
+    const QString place = line > 0 ? QStringLiteral("%1:%2").arg(file).arg(line) : file;
+    return place + QStringLiteral(": ") + reason +
+           QStringLiteral("; correct the file, or choose the PPD of another printer");
+}
+
+void PpdDocument::Closer::operator()(ppd_file_t *ppd) const
+{
+    ppdClose(ppd);
+}
+
+PpdDocument::Opened PpdDocument::open(const QString &path)
+{
+    if (const auto error = unreadable(path))
+        return *error;
+    Handle ppd(ppdOpenFile(QFile::encodeName(path).constData()));
+    if (!ppd)
+        return lastError(path);
+    return std::unique_ptr<PpdDocument>(new PpdDocument(path, std::move(ppd)));
+}
+
+PpdDocument::PpdDocument(const QString &path, Handle ppd) : path_(path), ppd_(std::move(ppd))
+{
+    // libcups has turned texts into UTF-8 and leaves the record empty where the file names none.
+    if (!ppd_->lang_encoding)
+        ppd_->lang_encoding = strdup("UTF-8");
+    ppdMarkDefaults(ppd_.get());
+    defaults_ = markedChoices(ppd_.get());
+}
+
+PpdDocument::~PpdDocument() = default;
+
+ppd_file_t *PpdDocument::handle() const
+{
+    return ppd_.get();
+}
+
+QString PpdDocument::manufacturer() const
+{
+    return decodedUtf8(ppd_->manufacturer);
+}
+
+QString PpdDocument::modelName() const
+{
+    return decodedUtf8(ppd_->modelname);
+}
+
+QString PpdDocument::nickName() const
+{
+    return textOr(ppd_->nickname, modelName().isNull() ? QFileInfo(path_).fileName() : modelName());
+}
+
+QStringList PpdDocument::attributeValues(const char *name) const
+{
+    QStringList values;
+    for (const ppd_attr_t *attribute = ppdFindAttr(ppd_.get(), name, nullptr); attribute;
+         attribute = ppdFindNextAttr(ppd_.get(), name, nullptr))
+        values.append(decodedUtf8(attribute->value));
+    return values;
+}
+
+QStringList PpdDocument::options() const
+{
+    QStringList keywords;
+    visitOptions(groupsOf(ppd_.get()),
+                 [&](const ppd_option_t &option) { keywords.append(decodedUtf8(option.keyword)); });
+    return keywords;
+}
+
+QStringList PpdDocument::choices(const QString &option) const
+{
+    QStringList keywords;
+    if (const ppd_option_t *found = findOption(ppd_.get(), option)) {
+        for (const ppd_choice_t &choice : choicesOf(*found))
+            keywords.append(decodedUtf8(choice.choice));
+    }
+    return keywords;
+}
+
+bool PpdDocument::hasOption(const QString &option) const
+{
+    return findOption(ppd_.get(), option);
+}
+
+bool PpdDocument::hasChoice(const Choice &choice) const
+{
+    return findChoice(ppd_.get(), choice);
+}
+
+QString PpdDocument::optionText(const QString &option) const
+{
+    const ppd_option_t *found = findOption(ppd_.get(), option);
+    return found ? textOr(found->text, decodedUtf8(found->keyword)) : option;
+}
+
+QString PpdDocument::choiceText(const Choice &choice) const
+{
+    const ppd_choice_t *found = findChoice(ppd_.get(), choice);
+    return found ? textOr(found->text, decodedUtf8(found->choice)) : choice.choice;
+}
+
+QString PpdDocument::marked(const QString &option) const
+{
+    const ppd_choice_t *choice = ppdFindMarkedChoice(ppd_.get(), option.toUtf8().constData());
+    return choice ? decodedUtf8(choice->choice) : QString();
+}
+
+Choices PpdDocument::marks() const
+{
+    return markedChoices(ppd_.get());
+}
+
+void PpdDocument::mark(const Choice &choice)
+{
+    if (hasChoice(choice))
+        ppdMarkOption(ppd_.get(), choice.option.toUtf8().constData(),
+                      choice.choice.toUtf8().constData());
+}
+
+Choices PpdDocument::conflictsWith(const Choice &choice) const
+{
+    Options found;
+    found.count = cupsGetConflicts(ppd_.get(), choice.option.toUtf8().constData(),
+                                   choice.choice.toUtf8().constData(), &found.list);
+    Choices conflicts;
+    for (const cups_option_t &option : std::span(found.list, static_cast<std::size_t>(found.count)))
+        conflicts.push_back({decodedUtf8(option.name), decodedUtf8(option.value)});
+    return conflicts;
+}
+
+std::vector<Conflict> PpdDocument::conflicts() const
+{
+    std::vector<Conflict> conflicts;
+    for (const Choice &mark : marks()) {
+        for (const Choice &other : conflictsWith(mark)) {
+            if (!isListed(conflicts, mark, other))
+                conflicts.push_back({mark, other});
+        }
+    }
+    return conflicts;
+}
+
+} // namespace dialog

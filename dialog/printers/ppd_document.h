@@ -1,0 +1,84 @@
+#pragma once
+
+#include "dialog/printers/choice.h"
+
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+#include <variant>
+#include <vector>
+
+typedef struct ppd_file_s ppd_file_t;
+
+namespace dialog {
+
+/// Why a PPD was refused, as "FILE:LINE: reason; remedy". Line 0 means that no line is to blame.
+struct PpdError
+{
+    QString file;
+    int line = 0;
+    QString reason;
+
+    [[nodiscard]] QString message() const;
+};
+
+/// A printer's PPD, opened by libcups with its defaults marked: what can be chosen and what is.
+///
+/// Look-ups are libcups' own, which ignore case; texts and keywords are decoded as UTF-8. Answers
+/// about an option or choice that the PPD does not have are null or empty.
+class PpdDocument
+{
+public:
+    using Opened = std::variant<std::unique_ptr<PpdDocument>, PpdError>;
+    [[nodiscard]] static Opened open(const QString &path);
+    ~PpdDocument();
+    PpdDocument(const PpdDocument &) = delete;
+    PpdDocument &operator=(const PpdDocument &) = delete;
+
+    /// Borrowed by the panels.
+    [[nodiscard]] ppd_file_t *handle() const;
+    [[nodiscard]] const QString &path() const { return path_; }
+    [[nodiscard]] QString manufacturer() const;
+    [[nodiscard]] QString modelName() const;
+    [[nodiscard]] QString nickName() const;
+    /// Values of every attribute line of that name, in the file's order.
+    [[nodiscard]] QStringList attributeValues(const char *name) const;
+
+    [[nodiscard]] QStringList options() const;
+    [[nodiscard]] QStringList choices(const QString &option) const;
+    [[nodiscard]] bool hasOption(const QString &option) const;
+    [[nodiscard]] bool hasChoice(const Choice &choice) const;
+    /// What a person reads; the keyword itself where the PPD has no text.
+    [[nodiscard]] QString optionText(const QString &option) const;
+    [[nodiscard]] QString choiceText(const Choice &choice) const;
+
+    /// Null when nothing is marked; the first one where several are.
+    [[nodiscard]] QString marked(const QString &option) const;
+    /// Every marked choice, in the order of the PPD; a pick-many option has one entry per choice.
+    [[nodiscard]] Choices marks() const;
+    /// The same for the defaults; independent of what is marked.
+    [[nodiscard]] const Choices &defaults() const { return defaults_; }
+    /// Does nothing for an unknown option or choice.
+    void mark(const Choice &choice);
+
+    /// Marked choices that would be forbidden beside this one. Marks nothing.
+    [[nodiscard]] Choices conflictsWith(const Choice &choice) const;
+    /// Every forbidden pair among what is marked, each pair once.
+    [[nodiscard]] std::vector<Conflict> conflicts() const;
+
+private:
+    struct Closer
+    {
+        void operator()(ppd_file_t *ppd) const;
+    };
+    using Handle = std::unique_ptr<ppd_file_t, Closer>;
+
+    PpdDocument(const QString &path, Handle ppd);
+
+    QString path_;
+    Handle ppd_;
+    Choices defaults_;
+};
+
+} // namespace dialog

@@ -1,0 +1,151 @@
+#include "dialog/program.h"
+
+#include "dialog/command_line.h"
+#include "dialog/replay/scenario.h"
+#include "dialog/window/print_window.h"
+#include "platform/console.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFile>
+#include <QSaveFile>
+#include <QUrl>
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace dialog {
+namespace {
+
+constexpr int kCouldNotStart = 2;
+
+void say(std::FILE *stream, const QString &line)
+{
+    std::fputs(line.toUtf8().constData(), stream);
+    std::fputc('\n', stream);
+    std::fflush(stream);
+}
+
+void complain(const QString &message)
+{
+    say(stderr, QStringLiteral("korvane-print: ") + message);
+}
+
+int refuse(const QString &message)
+{
+    complain(message);
+    return kCouldNotStart;
+}
+
+/// Console lines would only disturb a person at a terminal.
+void setUpConsole(const PrintCase &printCase)
+{
+    if (!printCase.showsConsole && isatty(STDERR_FILENO))
+        platform::setConsoleSink([](const QString &) {});
+}
+
+void openHelpBook(const platform::HelpRequest &request)
+{
+    if (!request.bookPath.isNull())
+        QDesktopServices::openUrl(QUrl::fromLocalFile(request.bookPath));
+}
+
+int runDialog(const CommandLine &line)
+{
+    PrintDialog::Opened opened = PrintDialog::open(line.printCase);
+    if (const auto *problem = std::get_if<QString>(&opened))
+        return refuse(*problem);
+    const auto dialog = std::move(std::get<std::unique_ptr<PrintDialog>>(opened));
+    QObject::connect(dialog.get(), &PrintDialog::left, qApp, &QCoreApplication::quit);
+    QObject::connect(dialog.get(), &PrintDialog::helpOpened, qApp, openHelpBook);
+    QObject::connect(dialog.get(), &PrintDialog::jobMade, qApp, [](const JobRecord &job) {
+        say(stdout, job.ticketPath.isNull() ? job.id : job.ticketPath);
+        QCoreApplication::quit();
+    });
+    dialog->showPanels();
+    return QCoreApplication::exec();
+}
+
+bool writeReport(const QString &path, const QByteArray &json)
+{
+    if (path.isNull())
+        return true;
+    if (path == QLatin1String("-"))
+        return std::fwrite(json.constData(), 1, static_cast<std::size_t>(json.size()), stdout) ==
+               static_cast<std::size_t>(json.size());
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit();
+}
+
+int runReplay(const CommandLine &line)
+{
+    replay::Parsed parsed = replay::readScenario(line.scenario);
+    if (const auto *error = std::get_if<replay::ScenarioError>(&parsed))
+        return refuse(error->message);
+    replay::Player player(line.printCase, std::move(std::get<replay::Scenario>(parsed)),
+                          line.player);
+    QObject::connect(&player, &replay::Player::noticeShown, qApp, complain);
+    QObject::connect(&player, &replay::Player::finished, qApp,
+                     [](replay::Outcome outcome, const QString &message) {
+                         if (!message.isNull())
+                             complain(message);
+                         QCoreApplication::exit(static_cast<int>(outcome));
+                     });
+    player.start();
+    const int status = QCoreApplication::exec();
+    if (!writeReport(line.report, player.report().json()))
+        return refuse(QStringLiteral("the report cannot be written to ") + line.report);
+    return status;
+}
+
+int runCommand(const CommandLine &line)
+{
+    setUpConsole(line.printCase);
+    switch (line.command) {
+    case CommandLine::Command::Replay:
+        return runReplay(line);
+    case CommandLine::Command::ShowHelp:
+        say(stdout, line.helpText);
+        return 0;
+    case CommandLine::Command::ShowVersion:
+        say(stdout, QStringLiteral("korvane-print ") + QCoreApplication::applicationVersion());
+        return 0;
+    case CommandLine::Command::OpenDialog:
+        break;
+    }
+    return runDialog(line);
+}
+
+/// Replay works where there is no display at all.
+void chooseQtPlatform(bool isReplay)
+{
+    const bool hasDisplay =
+        qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    if (isReplay && !hasDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+QStringList wordsOf(int argc, char **argv)
+{
+    QStringList words;
+    for (int i = 0; i < argc; ++i)
+        words.append(QString::fromLocal8Bit(argv[i]));
+    return words;
+}
+
+} // namespace
+
+int runProgram(int argc, char **argv)
+{
+    const auto parsed = parseCommandLine(wordsOf(argc, argv));
+    if (const auto *error = std::get_if<UsageError>(&parsed))
+        return refuse(error->message);
+    const auto &line = std::get<CommandLine>(parsed);
+    chooseQtPlatform(line.command != CommandLine::Command::OpenDialog);
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("korvane-print"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
+    return runCommand(line);
+}
+
+} // namespace dialog

@@ -1,0 +1,478 @@
+#include "dialog/replay/player.h"
+
+#include "dialog/replay/input.h"
+#include "dialog/replay/nearest_name.h"
+#include "dialog/replay/snapshot.h"
+#include "dialog/window/print_window.h"
+#include "platform/console.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/modal_session.h"
+#include "platform/controls/pop_up_button.h"
+#include "platform/controls/radio_matrix.h"
+#include "platform/controls/stepper.h"
+#include "platform/notification_center.h"
+#include "platform/strings.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QDir>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QScopedValueRollback>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace dialog::replay {
+namespace {
+
+// A window that was closed while its loop goes on for longer than this has not ended its session.
+constexpr int kMostTurnsWaited = 1000;
+
+QString notOfKind(const char *kind)
+{
+    return QStringLiteral("it is no ") + QString::fromLatin1(kind);
+}
+
+input::Turn turnOf(const QString &word)
+{
+    return word == QLatin1String("up") ? input::Turn::Up : input::Turn::Down;
+}
+
+bool isInside(const QWidget *widget, const QWidget *ancestor)
+{
+    return ancestor && (widget == ancestor || ancestor->isAncestorOf(widget));
+}
+
+QStringList namesOf(const std::vector<QWidget *> &controls)
+{
+    QStringList names;
+    for (const QWidget *control : controls)
+        names.append(control->objectName());
+    return names;
+}
+
+// What each step does to the control that it names; null when done, else what is wrong.
+
+QString chooseItem(QWidget *control, const QString &item)
+{
+    auto *popUp = qobject_cast<QComboBox *>(control);
+    if (!popUp)
+        return notOfKind("pop-up");
+    bool isNumber = false;
+    const int number = item.startsWith(u'#') ? item.mid(1).toInt(&isNumber) : -1;
+    QStringList titles;
+    for (int i = 0; i < popUp->count(); ++i)
+        titles.append(popUp->itemText(i));
+    const int index = isNumber ? number : static_cast<int>(titles.indexOf(item));
+    if (index < 0 || index >= popUp->count())
+        return noSuchName(QStringLiteral("item"), item, titles);
+    return input::choose(popUp, index);
+}
+
+QString clickTo(QWidget *control, int state)
+{
+    auto *button = qobject_cast<QAbstractButton *>(control);
+    if (!button || !button->isCheckable())
+        return notOfKind("box that can be ticked");
+    if (controls::state(button) == state)
+        return state ? QStringLiteral("it is ticked already") : QStringLiteral("it is not ticked");
+    return input::click(button);
+}
+
+QString clickRow(QWidget *control, int row)
+{
+    auto *matrix = qobject_cast<RadioMatrix *>(control);
+    if (!matrix)
+        return notOfKind("radio matrix");
+    QRadioButton *button = matrix->button(row);
+    if (!button)
+        return QStringLiteral("it has no row %1, only 0 to %2").arg(row).arg(matrix->rows() - 1);
+    return button->isEnabled() ? input::click(button) : QStringLiteral("the row is disabled");
+}
+
+QString stepBy(QWidget *control, input::Turn turn)
+{
+    auto *stepper = qobject_cast<Stepper *>(control);
+    if (!stepper)
+        return notOfKind("stepper");
+    QToolButton *button = turn == input::Turn::Up ? stepper->upButton() : stepper->downButton();
+    return button->isEnabled() ? input::click(button) : QStringLiteral("it goes no further");
+}
+
+QString enterText(QWidget *control, const QString &text,
+                  QString (*enter)(QLineEdit *, const QString &))
+{
+    auto *field = qobject_cast<QLineEdit *>(control);
+    return field ? enter(field, text) : notOfKind("text field");
+}
+
+} // namespace
+
+Player::Player(PrintCase printCase, Scenario scenario, PlayerOptions options)
+    : case_(std::move(printCase)), scenario_(std::move(scenario)), options_(std::move(options)),
+      report_(options_.naming)
+{
+    turn_.setSingleShot(true);
+    connect(&turn_, &QTimer::timeout, this, &Player::takeTurn);
+}
+
+Player::~Player()
+{
+    platform::setConsoleSink(formerSink_);
+}
+
+void Player::start()
+{
+    watchProcess();
+    QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false); // lists open at once
+    turn_.start();
+}
+
+void Player::watchProcess()
+{
+    formerSink_ = platform::setConsoleSink({});
+    platform::setConsoleSink([this](const QString &line) {
+        if (!isQuiet_)
+            report_.console(line);
+        if (formerSink_)
+            formerSink_(line);
+    });
+    platform::NotificationCenter::defaultCenter().addObserver(
+        this, QString(),
+        [this](const platform::Notification &posted) { report_.notification(posted.name); });
+    auto &sessions = platform::ModalSessions::shared();
+    connect(&sessions, &platform::ModalSessions::opened, this, [this](QDialog *window) {
+        modalWindows_.emplace_back(window);
+        report_.windowOpened(window);
+    });
+    connect(&sessions, &platform::ModalSessions::closed, this, [this](const QString &name) {
+        modalWindows_.pop_back();
+        report_.windowClosed(name);
+    });
+}
+
+void Player::watchDialog()
+{
+    connect(&dialog_->host(), &DialogHost::answered, this,
+            [this](const Choice &choice, bool accepted) { report_.offer(choice, accepted); });
+    connect(&dialog_->host(), &DialogHost::panelResized, this, [this] { report_.resize(); });
+    connect(dialog_.get(), &PrintDialog::helpOpened, this,
+            [this](const platform::HelpRequest &request) { report_.help(request.bookName); });
+    connect(dialog_.get(), &PrintDialog::jobMade, this, [this](const JobRecord &job) {
+        report_.job(job);
+        jobEnded({});
+    });
+    connect(dialog_.get(), &PrintDialog::jobFailed, this, &Player::jobEnded);
+    connect(dialog_.get(), &PrintDialog::noticeShown, this, &Player::noticeShown);
+    connect(dialog_.get(), &PrintDialog::left, this, [this] { hasLeft_ = true; });
+}
+
+void Player::takeTurn()
+{
+    if (isFinished_)
+        return;
+    if (isUnwinding()) {
+        turn_.start();
+        return;
+    }
+    if (next_ == scenario_.steps.size())
+        finish(Outcome::AllDone, {});
+    else
+        perform(scenario_.steps[next_++]);
+}
+
+/// A modal window that has been closed is on its way out of its loop; what its end sets off comes
+/// before the next step.
+bool Player::isUnwinding()
+{
+    const bool closes =
+        !modalWindows_.empty() && (!modalWindows_.back() || !modalWindows_.back()->isVisible());
+    turnsWaited_ = closes ? turnsWaited_ + 1 : 0;
+    return closes && turnsWaited_ < kMostTurnsWaited;
+}
+
+void Player::perform(const Step &step)
+{
+    if (!standsBeforePrinter(step.kind) && !dialog_ && !openPrinter())
+        return;
+    turn_.start();
+    if (needsPanels(step.kind))
+        dialog_->showPanels();
+    if (dialog_)
+        dialog_->host().deliverChanges();
+    const QString error = hasLeft_ ? QStringLiteral("the dialog has been left before") : run(step);
+    if (!error.isNull())
+        fail(step, error);
+}
+
+bool Player::openPrinter()
+{
+    PrintDialog::Opened opened = PrintDialog::open(case_);
+    if (const auto *problem = std::get_if<QString>(&opened)) {
+        finish(Outcome::NotStarted, *problem);
+        return false;
+    }
+    dialog_ = std::move(std::get<std::unique_ptr<PrintDialog>>(opened));
+    watchDialog();
+    return true;
+}
+
+void Player::fail(const Step &step, const QString &error)
+{
+    finish(Outcome::StepFailed,
+           QStringLiteral("%1:%2: ").arg(scenario_.file).arg(step.line) + error);
+}
+
+void Player::finish(Outcome outcome, const QString &message)
+{
+    if (std::exchange(isFinished_, true))
+        return;
+    turn_.stop();
+    platform::stopAllModalSessions();
+    Q_EMIT finished(outcome, message);
+}
+
+QString Player::run(const Step &step)
+{
+    const QStringList &words = step.arguments;
+    switch (step.kind) {
+    case StepKind::Printer:
+    case StepKind::Queue:
+    case StepKind::Root:
+    case StepKind::SystemVersion:
+    case StepKind::Language:
+        return setCase(step);
+    case StepKind::Mark:
+        return mark({words[0], words[1]});
+    case StepKind::Job:
+        dialog_->host().printSettings()->setValue(words[0], words[1]);
+        return {};
+    case StepKind::Paper:
+        dialog_->host().setPaperName(words[0]);
+        return {};
+    case StepKind::Refuse:
+        dialog_->host().refuseOffers(
+            words[0], words.size() > 1 ? std::optional<int>(words[1].toInt()) : std::nullopt);
+        return {};
+    case StepKind::Show:
+        return show(words[0]);
+    case StepKind::Key:
+        return pressKey(words[0]);
+    case StepKind::Close:
+        return close(words[0]);
+    case StepKind::Other:
+        dialog_->host().changeFromElsewhere({words[0], words[1]});
+        return {};
+    case StepKind::Report:
+        report_.snapshot(words[0], quietSnapshot());
+        return {};
+    case StepKind::Picture:
+        return takePicture(words[0]);
+    case StepKind::Expect:
+        return expect(words[0], words[1]);
+    case StepKind::Save:
+        static_cast<void>(dialog_->commit());
+        return {};
+    case StepKind::Print:
+        return print(words);
+    case StepKind::Cancel:
+        dialog_->window()->close();
+        return {};
+    default:
+        return runOnControl(step);
+    }
+}
+
+QString Player::setCase(const Step &step)
+{
+    const QString &word = step.arguments.first();
+    switch (step.kind) {
+    case StepKind::Printer:
+        case_.ppd = pathBesideScenario(word);
+        break;
+    case StepKind::Queue:
+        case_.queue = word;
+        break;
+    case StepKind::Root:
+        case_.root = pathBesideScenario(word);
+        break;
+    case StepKind::SystemVersion:
+        case_.systemVersion = systemVersionOf(word);
+        break;
+    default:
+        case_.language = word;
+        break;
+    }
+    return {};
+}
+
+QString Player::mark(const Choice &choice)
+{
+    PpdDocument &printer = dialog_->printer();
+    if (!printer.hasOption(choice.option))
+        return noSuchName(QStringLiteral("option"), choice.option, printer.options());
+    if (!printer.hasChoice(choice))
+        return noSuchName(QStringLiteral("choice"), choice.choice, printer.choices(choice.option));
+    printer.mark(choice);
+    dialog_->host().followPageSize();
+    return {};
+}
+
+QString Player::show(const QString &panel)
+{
+    QStringList names;
+    for (const PrintDialog::Panel &entry : dialog_->panels()) {
+        if (platform::isEqual(entry.title, panel) || platform::isEqual(entry.kind, panel)) {
+            const int index = static_cast<int>(names.size()) / 2;
+            if (index == dialog_->frontIndex())
+                return {};
+            if (frontWindow() != dialog_->window())
+                return frontWindow()->objectName() + QStringLiteral(" must be closed first");
+            return input::choose(dialog_->window()->panelPopUp(), index);
+        }
+        names << entry.title << entry.kind;
+    }
+    return noSuchName(QStringLiteral("panel"), panel, names);
+}
+
+QString Player::pressKey(const QString &name)
+{
+    input::key(frontWindow(), QKeySequence(name)[0]);
+    return {};
+}
+
+QString Player::close(const QString &window)
+{
+    QWidget *front = frontWindow();
+    if (front->objectName() != window)
+        return noSuchName(QStringLiteral("open window in front"), window, {front->objectName()});
+    front->close();
+    return {};
+}
+
+QString Player::runOnControl(const Step &step)
+{
+    const QString &name = step.arguments.first();
+    const QString &word = step.arguments.last();
+    const std::vector<QWidget *> candidates = reachableControls();
+    const auto found =
+        std::find_if(candidates.begin(), candidates.end(),
+                     [&](const QWidget *widget) { return widget->objectName() == name; });
+    if (found == candidates.end())
+        return noSuchName(QStringLiteral("control"), name, namesOf(candidates));
+    QWidget *control = *found;
+    const auto about = [&](const QString &problem) {
+        return problem.isNull() ? QString() : name + QStringLiteral(": ") + problem;
+    };
+    if (!control->isVisible())
+        return about(QStringLiteral("it is hidden"));
+    if (!control->isEnabled())
+        return about(QStringLiteral("it is disabled"));
+    switch (step.kind) {
+    case StepKind::Choose:
+        return about(chooseItem(control, word));
+    case StepKind::Tick:
+        return about(clickTo(control, 1));
+    case StepKind::Untick:
+        return about(clickTo(control, 0));
+    case StepKind::Row:
+        return about(clickRow(control, word.toInt()));
+    case StepKind::StepBy:
+        return about(stepBy(control, turnOf(word)));
+    case StepKind::Type:
+        return about(enterText(control, word, input::type));
+    case StepKind::Paste:
+        return about(enterText(control, word, input::paste));
+    case StepKind::Wheel:
+        input::wheel(control, turnOf(word));
+        return {};
+    default:
+        return about(input::click(control));
+    }
+}
+
+QString Player::takePicture(const QString &name)
+{
+    if (options_.pictures.isNull())
+        return {};
+    const QString path = options_.pictures + u'/' + name + QStringLiteral(".png");
+    const bool saved = QDir().mkpath(options_.pictures) && frontWindow()->grab().save(path);
+    return saved ? QString() : QStringLiteral("the picture cannot be written to ") + path;
+}
+
+QString Player::expect(const QString &pointer, const QString &value)
+{
+    const QJsonValue found = valueAt(quietSnapshot(), pointer);
+    const QJsonValue expected = expectedValue(value);
+    if (!found.isUndefined() && found == expected)
+        return {};
+    return pointer + QStringLiteral(": expected ") + compactJson(expected) +
+           QStringLiteral(", found ") + compactJson(found);
+}
+
+QString Player::print(const QStringList &arguments)
+{
+    if (!arguments.isEmpty())
+        dialog_->setDocument(pathBesideScenario(arguments.first()));
+    awaitsJob_ = &scenario_.steps[next_ - 1];
+    dialog_->print(PrintDialog::Review::Skip);
+    if (awaitsJob_)
+        turn_.stop();
+    return {};
+}
+
+void Player::jobEnded(const QString &error)
+{
+    const Step *step = std::exchange(awaitsJob_, nullptr);
+    if (step && !error.isNull())
+        fail(*step, error);
+    else if (step && !isFinished_)
+        turn_.start();
+}
+
+/// Panels may write console lines when they are asked; those are the snapshot's, not the
+/// scenario's.
+QJsonObject Player::quietSnapshot()
+{
+    const QScopedValueRollback quiet(isQuiet_, true);
+    return takeSnapshot(*dialog_);
+}
+
+QWidget *Player::frontWindow() const
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    return modal ? modal : dialog_->window();
+}
+
+/// Named widgets of the window in front; of the panels only the front one's, and that first.
+std::vector<QWidget *> Player::reachableControls() const
+{
+    QWidget *window = frontWindow();
+    const PrintWindow *main = dialog_->window();
+    const QWidget *front = window == main ? main->view(main->frontIndex()) : nullptr;
+    std::vector<QWidget *> controls;
+    for (QWidget *widget : window->findChildren<QWidget *>()) {
+        bool isElsewhere = widget->objectName().isEmpty() || widget->window() != window;
+        for (int i = 0; window == main && i < static_cast<int>(dialog_->panels().size()); ++i)
+            isElsewhere =
+                isElsewhere || (i != main->frontIndex() && isInside(widget, main->view(i)));
+        if (!isElsewhere)
+            controls.push_back(widget);
+    }
+    std::stable_partition(controls.begin(), controls.end(),
+                          [&](const QWidget *widget) { return isInside(widget, front); });
+    return controls;
+}
+
+/// A relative path is looked up beside the scenario first, then in the current folder.
+QString Player::pathBesideScenario(const QString &path) const
+{
+    const QString beside = QFileInfo(scenario_.file).dir().filePath(path);
+    return QFileInfo::exists(beside) ? beside : path;
+}
+
+} // namespace dialog::replay

@@ -1,0 +1,184 @@
+#include "dialog/replay/snapshot.h"
+
+#include "dialog/jobs/ticket.h"
+#include "dialog/print_dialog.h"
+#include "dialog/window/print_window.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/radio_matrix.h"
+#include "platform/controls/stepper.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace dialog::replay {
+namespace {
+
+const QString kOutletPrefix = QStringLiteral("ib");
+
+bool isOutlet(const QWidget *widget)
+{
+    return widget->objectName().startsWith(kOutletPrefix);
+}
+
+QJsonArray itemsOf(const QComboBox *popUp)
+{
+    QJsonArray items;
+    for (int i = 0; i < popUp->count(); ++i) {
+        const QVariant keyword = popUp->itemData(i);
+        items.append(QJsonArray{popUp->itemText(i), textJson(keyword.toString())});
+    }
+    return items;
+}
+
+QJsonObject contentOf(const QWidget *control)
+{
+    if (const auto *stepper = qobject_cast<const Stepper *>(control))
+        return {{QStringLiteral("value"), stepper->value()}};
+    if (const auto *matrix = qobject_cast<const RadioMatrix *>(control))
+        return {{QStringLiteral("row"), matrix->selectedRow()}};
+    if (const auto *popUp = qobject_cast<const QComboBox *>(control))
+        return {{QStringLiteral("items"), itemsOf(popUp)},
+                {QStringLiteral("index"), controls::indexOfSelectedItem(popUp)},
+                {QStringLiteral("title"), textJson(controls::titleOfSelectedItem(popUp))}};
+    if (const auto *button = qobject_cast<const QAbstractButton *>(control))
+        return {{QStringLiteral("state"), controls::state(button)},
+                {QStringLiteral("title"), textJson(controls::title(button))}};
+    if (const auto *label = qobject_cast<const QLabel *>(control))
+        return {{QStringLiteral("text"), textJson(controls::text(label))}};
+    if (const auto *field = qobject_cast<const QLineEdit *>(control))
+        return {{QStringLiteral("text"), textJson(controls::stringValue(field))}};
+    return {};
+}
+
+QJsonObject controlsOf(const QWidget *view)
+{
+    QJsonObject states;
+    if (!view)
+        return states;
+    for (const QWidget *control : view->findChildren<QWidget *>()) {
+        const QJsonObject state = isOutlet(control) ? controlState(control, view) : QJsonObject();
+        if (!state.isEmpty())
+            states.insert(control->objectName(), state);
+    }
+    return states;
+}
+
+QJsonArray summaryJson(const SummaryInfo &summary)
+{
+    QJsonArray entries;
+    for (const auto &[title, entryText] : summary)
+        entries.append(QJsonArray{textJson(title), textJson(entryText)});
+    return entries;
+}
+
+QJsonObject panelJson(const PrintDialog::Panel &entry, PDEPanel &panel, const QWidget *view)
+{
+    PDEPanelDiagnostics *diagnostics = panel.diagnostics();
+    return {
+        {QStringLiteral("kind"), textJson(entry.kind)},
+        {QStringLiteral("title"), textJson(entry.title)},
+        {QStringLiteral("supported"), QJsonArray::fromStringList(panel.supportedPPDOptionKeys())},
+        {QStringLiteral("summary"), summaryJson(panel.summaryInfo())},
+        {QStringLiteral("model"), diagnostics ? diagnostics->model() : QJsonObject()},
+        {QStringLiteral("controls"), controlsOf(view)},
+        {QStringLiteral("frames"), diagnostics ? diagnostics->frames() : QJsonObject()}};
+}
+
+QJsonArray panelsJson(PrintDialog &dialog)
+{
+    QJsonArray panels;
+    int index = 0;
+    for (const PrintDialog::Panel &entry : dialog.panels()) {
+        const QWidget *view = dialog.window()->view(index++);
+        dialog.host().callPanel(entry.panel.get(), [&](PDEPanel &panel) {
+            panels.append(panelJson(entry, panel, view));
+        });
+    }
+    return panels;
+}
+
+QJsonValue frontTitle(const PrintDialog &dialog)
+{
+    const int front = dialog.frontIndex();
+    return front < 0 ? QJsonValue(QJsonValue::Null)
+                     : textJson(dialog.panels()[static_cast<std::size_t>(front)].title);
+}
+
+QJsonValue childOf(const QJsonValue &parent, const QString &token)
+{
+    if (parent.isObject())
+        return parent.toObject().value(token);
+    bool isIndex = false;
+    const int index = token.toInt(&isIndex);
+    if (parent.isArray() && isIndex && index >= 0 && index < parent.toArray().size())
+        return parent.toArray().at(index);
+    return QJsonValue::Undefined;
+}
+
+} // namespace
+
+QJsonObject takeSnapshot(PrintDialog &dialog)
+{
+    return {{QStringLiteral("front"), frontTitle(dialog)},
+            {QStringLiteral("printSettings"), settingsJson(dialog.host().settings().all())},
+            {QStringLiteral("marked"), marksJson(dialog.printer().marks())},
+            {QStringLiteral("panels"), panelsJson(dialog)}};
+}
+
+QJsonObject controlState(const QWidget *control, const QWidget *view)
+{
+    QJsonObject state = contentOf(control);
+    if (!state.isEmpty()) {
+        state.insert(QStringLiteral("visible"), control->isVisibleTo(view));
+        state.insert(QStringLiteral("enabled"), control->isEnabled());
+    }
+    return state;
+}
+
+QJsonObject windowTexts(const QWidget *window)
+{
+    QJsonObject texts;
+    for (const QWidget *control : window->findChildren<QWidget *>()) {
+        if (!isOutlet(control) || !control->isVisibleTo(window))
+            continue;
+        const QJsonObject content = contentOf(control);
+        const QString key = content.contains(QStringLiteral("text")) ? QStringLiteral("text")
+                                                                     : QStringLiteral("title");
+        if (content.contains(key))
+            texts.insert(control->objectName(), content.value(key));
+    }
+    return texts;
+}
+
+QJsonValue valueAt(const QJsonValue &root, const QString &pointer)
+{
+    QJsonValue value = root;
+    const QStringList tokens = pointer.split(u'/').mid(1);
+    for (QString token : tokens) {
+        token.replace(QStringLiteral("~1"), QStringLiteral("/"));
+        token.replace(QStringLiteral("~0"), QStringLiteral("~"));
+        value = childOf(value, token);
+    }
+    return value;
+}
+
+QJsonValue expectedValue(const QString &word)
+{
+    const QByteArray wrapped = '[' + word.toUtf8() + ']';
+    const QJsonArray array = QJsonDocument::fromJson(wrapped).array();
+    return array.size() == 1 ? array.first() : QJsonValue(word);
+}
+
+QString compactJson(const QJsonValue &value)
+{
+    if (value.isUndefined())
+        return QStringLiteral("nothing");
+    const QByteArray wrapped = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    return QString::fromUtf8(wrapped.mid(1, wrapped.size() - 2));
+}
+
+} // namespace dialog::replay

@@ -1,0 +1,156 @@
+#include "dialog/texts.h"
+
+#include "platform/values.h"
+
+#include <array>
+#include <cstddef>
+
+namespace dialog {
+namespace {
+
+struct Entry
+{
+    Text id;
+    const char *english;
+    const char *german;
+    const char *japanese;
+};
+
+// clang-format off
+constexpr std::array<Entry, static_cast<std::size_t>(Text::Count)> kTexts{{
+    {Text::WindowTitle, "Print", "Drucken", "プリント"},
+    {Text::Printer, "Printer:", "Drucker:", "プリンタ:"},
+    {Text::Document, "Document:", "Dokument:", "書類:"},
+    {Text::NoDocument, "None", "Keines", "なし"},
+    {Text::Settings, "Settings:", "Einstellungen:", "設定:"},
+    {Text::Print, "Print", "Drucken", "プリント"},
+    {Text::Cancel, "Cancel", "Abbrechen", "キャンセル"},
+    {Text::Help, "Help", "Hilfe", "ヘルプ"},
+    {Text::Dismiss, "Dismiss this notice", "Hinweis schließen", "この通知を閉じる"},
+    {Text::PrintAnyway, "Print Anyway", "Trotzdem drucken", "このままプリント"},
+    {Text::GoBack, "Go Back", "Zurück", "戻る"},
+    {Text::PanelsMissing,
+     "The PPD of this printer names no panels. Print uses the settings that are marked in it.",
+     "Die PPD dieses Druckers nennt keine Einstellungsseiten. Gedruckt wird mit den Einstellungen, die in ihr markiert sind.",
+     "このプリンタの PPD には設定パネルが指定されていません。PPD の設定でプリントします。"},
+    {Text::PlugInRefused,
+     "The printer's panels were not loaded: %1 (%2). Install the maker's driver again as an administrator.",
+     "Die Einstellungsseiten des Druckers wurden nicht geladen: %1 (%2). Installieren Sie den Treiber des Herstellers als Administrator neu.",
+     "プリンタの設定パネルは読み込まれませんでした: %1 (%2)。管理者としてドライバを再インストールしてください。"},
+    {Text::PlugInAbsent,
+     "The printer's panels are not installed: there is no %1. Install the maker's driver.",
+     "Die Einstellungsseiten des Druckers sind nicht installiert: %1 fehlt. Installieren Sie den Treiber des Herstellers.",
+     "プリンタの設定パネルがインストールされていません: %1 がありません。ドライバをインストールしてください。"},
+    {Text::PlugInForeign,
+     "The printer's panels do not fit this dialog: %1 was made for another version. Install the maker's current driver.",
+     "Die Einstellungsseiten des Druckers passen nicht zu diesem Dialog: %1 wurde für eine andere Version gemacht. Installieren Sie den aktuellen Treiber des Herstellers.",
+     "プリンタの設定パネルはこのダイアログに対応していません: %1 は別のバージョン用です。最新のドライバをインストールしてください。"},
+    {Text::PlugInDamaged,
+     "The printer's panels could not be loaded: %1 is damaged (%2). Install the maker's driver again.",
+     "Die Einstellungsseiten des Druckers konnten nicht geladen werden: %1 ist beschädigt (%2). Installieren Sie den Treiber des Herstellers neu.",
+     "プリンタの設定パネルを読み込めませんでした: %1 が壊れています (%2)。ドライバを再インストールしてください。"},
+    {Text::NoPanelsForPrinter,
+     "The maker's driver offers no panels for this printer.",
+     "Der Treiber des Herstellers bietet keine Einstellungsseiten für diesen Drucker.",
+     "このプリンタ用の設定パネルはドライバにありません。"},
+    {Text::OfferConflicts,
+     "“%1: %2” cannot be used together with “%3: %4”.",
+     "„%1: %2“ ist nicht zusammen mit „%3: %4“ möglich.",
+     "「%1: %2」は「%3: %4」と同時には使えません。"},
+    {Text::OfferRefused,
+     "“%1: %2” cannot be chosen now.",
+     "„%1: %2“ kann jetzt nicht gewählt werden.",
+     "「%1: %2」は今は選べません。"},
+    {Text::ReviewConflict,
+     "“%1: %2” and “%3: %4” do not go together.",
+     "„%1: %2“ und „%3: %4“ passen nicht zusammen.",
+     "「%1: %2」と「%3: %4」は組み合わせられません。"},
+    {Text::ReviewDifference,
+     "%1: you chose “%2”, the job has “%3”.",
+     "%1: Sie haben „%2“ gewählt, der Auftrag hat „%3“.",
+     "%1: 選択は「%2」ですが、ジョブでは「%3」になります。"},
+    {Text::ReviewHeading,
+     "Before this prints:",
+     "Vor dem Druck:",
+     "プリントの前に:"},
+    {Text::DocumentNeeded,
+     "There is nothing to print. Start the dialog with a document.",
+     "Es gibt nichts zu drucken. Starten Sie den Dialog mit einem Dokument.",
+     "プリントする書類がありません。書類を指定してダイアログを開いてください。"},
+    {Text::DocumentMissing,
+     "There is no document %1. Nothing was sent; choose another document.",
+     "Das Dokument %1 gibt es nicht. Es wurde nichts gesendet; wählen Sie ein anderes Dokument.",
+     "書類 %1 がありません。何も送信されていません。別の書類を選んでください。"},
+    {Text::DocumentUnreadable,
+     "The document %1 cannot be read. Nothing was sent; choose another document or allow reading it.",
+     "Das Dokument %1 ist nicht lesbar. Es wurde nichts gesendet; wählen Sie ein anderes Dokument oder erlauben Sie das Lesen.",
+     "書類 %1 を読めません。何も送信されていません。別の書類を選ぶか、読み取りを許可してください。"},
+    {Text::JobFolderFailed,
+     "The job could not be written to %1: %2. Make room or allow writing there, then print again.",
+     "Der Auftrag konnte nicht nach %1 geschrieben werden: %2. Schaffen Sie Platz oder erlauben Sie das Schreiben, dann drucken Sie erneut.",
+     "ジョブを %1 に書き込めませんでした: %2。空き容量または書き込み権限を確認して、もう一度プリントしてください。"},
+    {Text::JobSent, "Sent as job %1.", "Als Auftrag %1 gesendet.", "ジョブ %1 として送信しました。"},
+    {Text::JobFailed,
+     "The print server did not take the job: %1. Your settings are kept; print again when it answers.",
+     "Der Druckserver hat den Auftrag nicht angenommen: %1. Ihre Einstellungen bleiben erhalten; drucken Sie erneut, sobald er antwortet.",
+     "プリントサーバはジョブを受け付けませんでした: %1。設定は残っています。サーバが応答したらもう一度プリントしてください。"},
+    {Text::JobUnsendable,
+     "Nothing was sent, because a setting would get lost: %1. Choose another value for it.",
+     "Es wurde nichts gesendet, weil eine Einstellung verloren ginge: %1. Wählen Sie einen anderen Wert.",
+     "設定が失われるため、何も送信されませんでした: %1。別の値を選んでください。"},
+    {Text::Sending, "Sending…", "Wird gesendet …", "送信中…"},
+    {Text::HelpPage,
+     "Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.",
+     "Wählen Sie im Einblendmenü eine Gruppe von Einstellungen, ändern Sie, was nötig ist, und drücken Sie „Drucken“. Was der Drucker nicht verbinden kann, wird abgelehnt; ein Hinweis nennt die Einstellung, die im Weg steht.",
+     "ポップアップメニューで設定の種類を選び、必要な項目を変更して「プリント」を押してください。組み合わせられない選択は受け付けられず、妨げになっている設定が表示されます。"},
+}};
+// clang-format on
+
+constexpr bool isInOrder()
+{
+    for (std::size_t i = 0; i < kTexts.size(); ++i) {
+        const Entry &entry = kTexts[i];
+        if (static_cast<std::size_t>(entry.id) != i || !entry.english || !entry.german ||
+            !entry.japanese)
+            return false;
+    }
+    return true;
+}
+static_assert(isInOrder(), "one complete line per text, in the order of the enumeration");
+
+const char *inPreferredLanguage(const Entry &entry)
+{
+    const QString language = platform::firstPreferredLanguage();
+    if (language.startsWith(QLatin1String("de")))
+        return entry.german;
+    if (language.startsWith(QLatin1String("ja")))
+        return entry.japanese;
+    return entry.english;
+}
+
+/// One pass, so that a "%1" inside an argument stays.
+QString filled(const QString &pattern, const QStringList &arguments)
+{
+    QString out;
+    for (qsizetype i = 0; i < pattern.size(); ++i) {
+        const int number =
+            pattern[i] == u'%' && i + 1 < pattern.size() ? pattern[i + 1].digitValue() : 0;
+        if (number >= 1 && number <= arguments.size()) {
+            out += arguments[number - 1];
+            ++i;
+        } else {
+            out += pattern[i];
+        }
+    }
+    return out;
+}
+
+} // namespace
+
+QString text(Text id, const QStringList &arguments)
+{
+    const Entry &entry = kTexts[static_cast<std::size_t>(id)];
+    return filled(QString::fromUtf8(inPreferredLanguage(entry)), arguments);
+}
+
+} // namespace dialog
