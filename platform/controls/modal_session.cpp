@@ -171,6 +171,7 @@ ModalEnd runModalForWindow(QDialog *window)
     const QPointer<QDialog> guard = window;
     const QString name = window->objectName();
     const Qt::WindowModality former = window->windowModality();
+    qApp->installEventFilter(&ModalSessions::shared());
     Session session(window);
     sessions().push_back(&session);
     attachToActiveWindow(window);
@@ -241,6 +242,13 @@ void discardWindow(QDialog *window)
     }
     window->hide();
     window->deleteLater();
+}
+
+bool ModalSessions::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == qApp && event->type() == QEvent::Quit)
+        stopAllModalSessions();
+    return false;
 }
 
 ModalSessions &ModalSessions::shared()

@@ -65,6 +65,11 @@ Q_SIGNALS:
     /// Its loop has ended; the window may be gone, so only its object name is given.
     void closed(const QString &objectName);
 
+protected:
+    /// A program that is asked to quit closes its windows first; their sessions are over before
+    /// that.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     friend ModalEnd runModalForWindow(QDialog *);
     ModalSessions() = default;

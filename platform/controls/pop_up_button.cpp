@@ -3,8 +3,6 @@
 #include <QAbstractItemView>
 #include <QScreen>
 #include <QScrollBar>
-#include <QStyle>
-#include <QStyleOptionComboBox>
 #include <QWheelEvent>
 
 namespace {
@@ -44,16 +42,6 @@ void PopUpButton::showPopup()
                        list->verticalScrollBar()->sizeHint().width();
     list->setMinimumWidth(qMin(needed, screen()->availableSize().width()));
     QComboBox::showPopup();
-}
-
-void PopUpButton::initStyleOption(QStyleOptionComboBox *option) const
-{
-    QComboBox::initStyleOption(option);
-    const QRect field =
-        style()->subControlRect(QStyle::CC_ComboBox, option, QStyle::SC_ComboBoxEditField, this);
-    // One pixel on either side is the style's own margin around the text.
-    option->currentText =
-        fontMetrics().elidedText(option->currentText, Qt::ElideRight, field.width() - 2);
 }
 
 void PopUpButton::wheelEvent(QWheelEvent *event)

@@ -21,6 +21,5 @@ public:
     void showPopup() override;
 
 protected:
-    void initStyleOption(QStyleOptionComboBox *option) const override;
     void wheelEvent(QWheelEvent *event) override;
 };
