@@ -31,7 +31,7 @@ PLATFORM_EXPORT void stopModal();
 /// Ends every session, innermost first, for a dialog that closes or a program that quits.
 PLATFORM_EXPORT void stopAllModalSessions();
 
-/// Sessions that are running.
+/// Sessions whose runModalForWindow() has not returned yet, stopped ones included.
 [[nodiscard]] PLATFORM_EXPORT int modalDepth();
 
 /// Puts the window in the middle of the active window, else of the screen.

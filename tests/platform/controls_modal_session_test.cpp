@@ -441,17 +441,18 @@ TEST_F(ModalSession, IsAbandonedWhenTheProgramQuitsEvenIfItBeginsAfterwards)
     EXPECT_EQ(ends, std::vector<ModalEnd>({ModalEnd::Abandoned, ModalEnd::Abandoned}));
 }
 
-TEST_F(ModalSession, StoppedByItsClosingWindowWhenTheProgramQuitsIsNoLessStopped)
+TEST_F(ModalSession, IsAbandonedWhenTheProgramQuitsThoughItsWindowClosesOnTheWay)
 {
     OkWindow window("A");
     stopWhenClosing(&window);
-    ModalEnd end = ModalEnd::Abandoned;
+    ModalEnd end = ModalEnd::Stopped;
     later([&] {
         later([] { QCoreApplication::quit(); });
         end = runModalForWindow(&window);
     });
     QApplication::exec();
-    EXPECT_EQ(end, ModalEnd::Stopped);
+    EXPECT_EQ(end, ModalEnd::Abandoned);
+    EXPECT_FALSE(window.isVisible());
 }
 
 TEST_F(ModalSession, LetsAWindowBeDiscardedFromItsOwnButton)
