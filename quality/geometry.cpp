@@ -7,15 +7,26 @@
 #include <cmath>
 
 namespace quality {
+namespace {
+
+/// A row shown or hidden reaches the layouts further out only with the next events; this is at
+/// once.
+void forgetSize(QWidget *part)
+{
+    if (part->layout())
+        part->layout()->invalidate();
+    part->updateGeometry();
+}
+
+} // namespace
 
 void projectFrames(FrameView *panel)
 {
     if (!panel || !panel->layout())
         return;
     panel->setMinimumWidth(static_cast<int>(std::ceil(panel->frameRecord().width())));
-    for (QWidget *part : panel->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
-        if (part->layout())
-            part->layout()->invalidate();
+    for (auto *part : panel->findChildren<FrameView *>(QString(), Qt::FindDirectChildrenOnly))
+        forgetSize(part);
     panel->layout()->invalidate();
     panel->layout()->activate();
     panel->updateGeometry();

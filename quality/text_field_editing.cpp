@@ -68,7 +68,7 @@ void TextFieldEditing::judge(const QString &text)
         controls::setStringValue(field_, replacement);
 }
 
-void TextFieldEditing::tell(const Callback &callback)
+void TextFieldEditing::tell(Callback callback)
 {
     if (delegate_ && callback)
         callback(field_);

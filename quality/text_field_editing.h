@@ -38,7 +38,8 @@ private:
     void edited(const QString &text);
     void begin(const QString &text);
     void judge(const QString &text);
-    void tell(const Callback &callback);
+    /// Takes a copy: a callback may replace the delegate that it belongs to.
+    void tell(Callback callback);
 
     QLineEdit *field_; ///< the parent
     QPointer<QObject> delegate_;
