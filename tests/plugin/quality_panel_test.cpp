@@ -4,6 +4,7 @@
 #include "platform/notification_center.h"
 #include "tests/plugin/life.h"
 #include "tests/plugin/panel_test_access.h"
+#include "tests/quality/quality_test_access.h"
 #include "tests/support/console_capture.h"
 #include "tests/support/debug_log_fixture.h"
 #include "tests/support/user.h"
@@ -34,6 +35,11 @@ const QStringList kAllPairs{q("InkToUse=Automatic"),
 QString mirrorSetting(const Life &life)
 {
     return life.host.settings.value(q("mirror")).toString();
+}
+
+bool isMirrorSetByIronOn(const Life &life)
+{
+    return QualityTestAccess::isMirrorSetByIronOn(PanelTestAccess::controller(life.panel()));
 }
 
 /// Model and controls at one moment.
@@ -188,6 +194,7 @@ TEST(QualityPanel, QualityPanel_09_ShowsAnIronOnPaperChosenElsewhereWithoutMirro
     EXPECT_SAME(controls::titleOfSelectedItem(life.control<QComboBox>("ibPaperType")),
                 q("Iron-On Transfer"));
     EXPECT_FALSE(life.host.settings.value(q("mirror")).isValid());
+    EXPECT_FALSE(isMirrorSetByIronOn(life));
     EXPECT_EQ(lines(life.host.offers), QStringList());
     life.externalChange("MediaType", "Plain");
     EXPECT_EQ(lines(life.host.offers), QStringList()) << "nothing was switched on by iron-on paper";
@@ -199,9 +206,11 @@ TEST(QualityPanel, QualityPanel_10_SwitchesMirrorOffAgainWhenThePaperChangesElse
     auto *paperType = life.control<QComboBox>("ibPaperType");
     user::choose(paperType, choiceIndex(paperType, "IronOn"));
     ASSERT_EQ(mirrorSetting(life), q("true"));
+    ASSERT_TRUE(isMirrorSetByIronOn(life));
     life.host.offers.clear();
     life.externalChange("MediaType", "Plain");
     EXPECT_FALSE(life.host.settings.value(q("mirror")).isValid());
+    EXPECT_FALSE(isMirrorSetByIronOn(life));
     EXPECT_EQ(lines(life.host.offers), QStringList{q("Mirror=Off")});
     life.externalChange("MediaType", "Plain");
     EXPECT_EQ(lines(life.host.offers), QStringList{q("Mirror=Off")}) << "the flag is cleared";

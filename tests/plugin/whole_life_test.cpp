@@ -43,11 +43,11 @@ void useQuality(const Life &life)
 {
     user::choose(life.control<QComboBox>("ibPaperType"), 1);
     user::click(life.control<QToolButton>("ibDisclosure"));
-    user::click(life.control<QCheckBox>("ibTonerSave"));
 }
 
-void useOther(const Life &life)
+void useBoxes(const Life &life)
 {
+    user::click(life.control<QCheckBox>("ibTonerSave"));
     user::click(life.control<QCheckBox>("ibImprovementSettings"));
     user::clickRow(life.control<RadioMatrix>("ibImprovePrintQuality"), 1);
 }
@@ -105,12 +105,12 @@ TEST(Whole, Whole_04_NestsItsTraces)
     {
         const Life toner(bothPanels());
         const Life ink({.ppd = p3()});
-        for (const Life *life : {&toner, &ink}) {
-            useQuality(*life);
-            for (const auto &panel : *life->panels)
-                callEverything(*panel);
-        }
-        useOther(toner);
+        useQuality(toner);
+        useBoxes(toner);
+        useQuality(ink);
+        for (const auto &panel : *toner.panels)
+            callEverything(*panel);
+        callEverything(ink.panel());
     }
     QStringList open;
     for (const QString &trace : log.traces()) {
