@@ -261,7 +261,10 @@ INSTANTIATE_TEST_SUITE_P(Editions, TranslatedPpd,
                                                    QStringList{QStringLiteral("US Letter"),
                                                                QStringLiteral("JIS B5"),
                                                                QStringLiteral("Normal")}},
-                                         std::pair{"Korvane-S300-ja", QStringList()}));
+                                         std::pair{"Korvane-S300-ja", QStringList()}),
+                         [](const auto &edition) {
+                             return std::string(edition.param.first).substr(8).replace(4, 1, "_");
+                         });
 
 TEST_P(TranslatedPpd, LeavesNoEnglishTextButThoseThatAreCompared)
 {
