@@ -2,6 +2,10 @@
 
 #include "model/pde_model.h"
 #include "model/pde_tools.h"
+#include "platform/strings.h"
+
+#include <algorithm>
+#include <cstddef>
 
 /// The model slots of one setting, as members to call: what the panels' tables of settings are made
 /// of, and what both controllers do with them.
@@ -19,6 +23,27 @@ struct SettingSlots
     StringGetter ticket;
     StringSetter setTicket;
 };
+
+/// The row of a table of settings whose keyword is exactly that; null for null and unknown ones.
+template <class Table>
+[[nodiscard]] auto rowOfKeyword(const Table &table, const QString &keyword) -> const
+    typename Table::value_type *
+{
+    const auto found = std::find_if(table.begin(), table.end(), [&keyword](const auto &row) {
+        return platform::isEqual(keyword, QString::fromLatin1(row.keyword));
+    });
+    return found == table.end() ? nullptr : &*found;
+}
+
+/// Whether the rows of a table of settings stand in the order of their settings.
+template <class Table>
+[[nodiscard]] constexpr bool areRowsInOrder(const Table &table)
+{
+    for (std::size_t i = 0; i < table.size(); ++i)
+        if (static_cast<std::size_t>(table[i].setting) != i)
+            return false;
+    return true;
+}
 
 /// Sets the setting's value to the text and its ticket to the keyword of that choice of the
 /// setting's own option; both become null when there is no such option or choice.

@@ -6,8 +6,6 @@
 #include "platform/notification_center.h"
 #include "platform/strings.h"
 
-#include <algorithm>
-
 using namespace other;
 using enum other::Setting;
 
@@ -30,16 +28,6 @@ int rowOfTicket(const QString &ticket)
     while (row < kLastImprovement && !platform::isEqual(ticket, improvement(row)))
         ++row;
     return row;
-}
-
-/// The setting of a keyword, compared exactly; null for null and unknown ones.
-const SettingRow *rowOfKeyword(const QString &text)
-{
-    const auto found =
-        std::find_if(kSettings.begin(), kSettings.end(), [&text](const SettingRow &row) {
-            return platform::isEqual(text, keyword(row.setting));
-        });
-    return found == kSettings.end() ? nullptr : &*found;
 }
 
 } // namespace
@@ -208,7 +196,7 @@ void KorPDEController3::updateControls()
 void KorPDEController3::updateControl(const QString &keyword)
 {
     KV_TRACE("-[KorPDEController3 updateControl:]");
-    const SettingRow *found = rowOfKeyword(keyword);
+    const SettingRow *found = rowOfKeyword(kSettings, keyword);
     if (found && found->box)
         showTicket(found->setting);
 }
@@ -305,7 +293,7 @@ void KorPDEController3::updatePDEModelwithMarkedChoices(const PDEModel2 &markedC
 void KorPDEController3::setPDEModelItemToDefault(const QString &keyword)
 {
     KV_TRACE("-[KorPDEController3 setPDEModelItemToDefault:]");
-    const SettingRow *found = rowOfKeyword(keyword);
+    const SettingRow *found = rowOfKeyword(kSettings, keyword);
     if (found && found->box)
         setToChoice(found->setting, kOff);
 }

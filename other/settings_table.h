@@ -6,7 +6,6 @@
 #include <QJsonObject>
 
 #include <array>
-#include <cstddef>
 
 /// The four settings of the panel as one table, in the order in which the printer's options are
 /// looked up.
@@ -67,14 +66,7 @@ inline constexpr std::array<ImprovementRow, 3> kImprovements{{
 }};
 // clang-format on
 
-static_assert(
-    [] {
-        for (std::size_t i = 0; i < kSettings.size(); ++i)
-            if (static_cast<std::size_t>(kSettings[i].setting) != i)
-                return false;
-        return true;
-    }(),
-    "the table's rows stand in the order of the settings");
+static_assert(areRowsInOrder(kSettings));
 
 [[nodiscard]] constexpr const SettingRow &row(Setting setting)
 {

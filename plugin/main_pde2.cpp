@@ -88,7 +88,7 @@ constexpr ExternalChange kExternalChanges[] = {
 };
 
 constexpr ExternalChange kDryTimePopUpChange = externalChange(row(Setting::DupDryTime));
-constexpr ExternalChange kDryTimeBoxChange{kDryTimePopUpChange.option, quality::kDryTimeBoxSlots};
+constexpr ExternalChange kDryTimeBoxChange{kDryTimePopUpChange.keyword, quality::kDryTimeBoxSlots};
 
 void writeLocale()
 {

@@ -235,11 +235,8 @@ template <class Controller>
 void PanelObject<Controller>::takeOver(std::span<const ExternalChange> changes,
                                        const QString &option, const QString &choice)
 {
-    const auto change =
-        std::find_if(changes.begin(), changes.end(), [&option](const ExternalChange &candidate) {
-            return platform::isEqual(option, QString::fromLatin1(candidate.option));
-        });
-    if (change == changes.end())
+    const ExternalChange *change = rowOfKeyword(changes, option);
+    if (!change)
         return;
     store(*change, *mPDEController->pdeModel(), choice);
     mPDEController->updateControl(option);

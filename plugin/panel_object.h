@@ -38,7 +38,7 @@ struct SavedPair
 /// choice's text (null for an unknown choice) its value.
 struct ExternalChange
 {
-    const char *option;
+    const char *keyword;
     SettingSlots slots;
 };
 

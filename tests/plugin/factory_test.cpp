@@ -6,8 +6,11 @@
 #include "tests/support/debug_log_fixture.h"
 #include "tests/support/stderr_capture.h"
 
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
@@ -147,6 +150,7 @@ TEST(Factory, ReadsEveryFalseValue)
                               q("x1"),
                               QByteArray("YES"),
                               QVariantList{true},
+                              QDateTime::fromSecsSinceEpoch(1),
                               QVariantMap{{q("OtherPDE Support"), true}}};
     for (const QVariant &value : values) {
         factory.root.writeList(kModelList, otherPanelSupport(value));
@@ -189,6 +193,9 @@ TEST(Factory, Factory_05_TakesADamagedListForNone)
     ASSERT_TRUE(QFile::remove(factory.root.realPath(kModelList)));
     factory.root.makeDirectory(kModelList);
     expectNone("a directory");
+    ASSERT_TRUE(QDir().rmdir(factory.root.realPath(kModelList)));
+    ASSERT_EQ(::mkfifo(factory.root.realPath(kModelList).toUtf8().constData(), 0600), 0);
+    expectNone("a pipe that nobody writes to");
     EXPECT_EQ(console.lines(), QStringList());
     EXPECT_EQ(errors.text(), QByteArray());
 }

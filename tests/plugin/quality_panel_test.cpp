@@ -403,10 +403,13 @@ TEST(QualityPanel, QualityPanel_21_NeitherRestoresNorSavesOnOlderHosts)
     EXPECT_EQ(lines(life.host.offers), QStringList());
     EXPECT_EQ(life.panel().diagnostics()->model(), before);
     PanelTestAccess::ppd(life.panel()) = nullptr;
+    life.host.session.ppd = nullptr;
+    life.panel().ppdDOnTiger();
+    EXPECT_EQ(PanelTestAccess::ppd(life.panel()), nullptr);
+    life.host.session.ppd = life.ppd.get();
     life.panel().ppdDOnTiger();
     EXPECT_EQ(PanelTestAccess::ppd(life.panel()), life.ppd.get());
-    for (const char *operation :
-         {"setPrintSettingsToUI", "setprintSettingsToTicket", "ppdDOnTiger"})
+    for (const char *operation : {"setPrintSettingsToUI", "setprintSettingsToTicket"})
         EXPECT_EQ(log.traces().count(q("{ -[MainPDE2 ") + q(operation) + q("]")), 1) << operation;
 }
 

@@ -1,10 +1,13 @@
 #include "platform/controls/radio_matrix.h"
+#include "platform/notification_center.h"
 #include "tests/plugin/life.h"
 #include "tests/support/debug_log_fixture.h"
 #include "tests/support/user.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QLocale>
 #include <QScopeGuard>
 #include <QToolButton>
@@ -156,6 +159,29 @@ TEST(Whole, TracesEveryOperationOfThePanelsUnderItsOwnClass)
     EXPECT_FALSE(log.bytes().contains("-[MainPDE3 registerObserver]"));
     for (const char *stub : {"Tiger", "removeHelpEventHandler"})
         EXPECT_FALSE(log.bytes().contains(stub)) << stub;
+}
+
+TEST(Whole, LeavesNothingBehindAfterManyLives)
+{
+    const auto liveAndEnd = [](int lives) {
+        for (int i = 0; i < lives; ++i) {
+            const Life life(bothPanels());
+            for (const auto &panel : *life.panels)
+                callEverything(*panel);
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    const auto openFiles = [] {
+        return QDir(q("/proc/self/fd")).entryList(QDir::Files | QDir::System).size();
+    };
+    liveAndEnd(2);
+    const int observers = platform::NotificationCenter::defaultCenter().observerCount();
+    const auto files = openFiles();
+    const auto widgets = QApplication::allWidgets().size();
+    liveAndEnd(20);
+    EXPECT_EQ(platform::NotificationCenter::defaultCenter().observerCount(), observers);
+    EXPECT_EQ(openFiles(), files);
+    EXPECT_EQ(QApplication::allWidgets().size(), widgets);
 }
 
 TEST(Whole, ShowsBothPanelsOfTheTonerPrinterAndOneOfTheInkPrinter)
