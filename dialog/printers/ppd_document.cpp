@@ -2,13 +2,11 @@
 
 #include "platform/strings.h"
 
-#include <cups/cups.h>
 #include <cups/ppd.h>
 
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
 #include <cstring>
 #include <span>
 
@@ -98,21 +96,24 @@ PpdError lastError(const QString &path)
     return {path, line, QString::fromUtf8(ppdErrorString(status))};
 }
 
-class Options
+QString nullIfEmpty(const char *choice)
 {
-public:
-    ~Options() { cupsFreeOptions(count, list); }
+    return *choice ? decodedUtf8(choice) : QString();
+}
 
-    int count = 0;
-    cups_option_t *list = nullptr;
-};
-
-bool isListed(const std::vector<Conflict> &conflicts, const Choice &one, const Choice &other)
+/// The general form stands above the old one, as in libcups.
+Constraints readConstraints(const QStringList &generalForm, const ppd_file_t *ppd)
 {
-    return std::any_of(conflicts.begin(), conflicts.end(), [&](const Conflict &conflict) {
-        return (conflict.one == one && conflict.other == other) ||
-               (conflict.one == other && conflict.other == one);
-    });
+    Constraints constraints;
+    for (const QString &value : generalForm)
+        constraints.push_back(parseConstraint(value));
+    if (!constraints.empty())
+        return constraints;
+    for (const ppd_const_t &pair :
+         std::span(ppd->consts, static_cast<std::size_t>(ppd->num_consts)))
+        constraints.push_back({{decodedUtf8(pair.option1), nullIfEmpty(pair.choice1)},
+                               {decodedUtf8(pair.option2), nullIfEmpty(pair.choice2)}});
+    return constraints;
 }
 
 } // namespace
@@ -146,6 +147,7 @@ PpdDocument::PpdDocument(const QString &path, Handle ppd) : path_(path), ppd_(st
         ppd_->lang_encoding = strdup("UTF-8");
     ppdMarkDefaults(ppd_.get());
     defaults_ = markedChoices(ppd_.get());
+    constraints_ = readConstraints(attributeValues("cupsUIConstraints"), ppd_.get());
 }
 
 PpdDocument::~PpdDocument() = default;
@@ -239,25 +241,12 @@ void PpdDocument::mark(const Choice &choice)
 
 Choices PpdDocument::conflictsWith(const Choice &choice) const
 {
-    Options found;
-    found.count = cupsGetConflicts(ppd_.get(), choice.option.toUtf8().constData(),
-                                   choice.choice.toUtf8().constData(), &found.list);
-    Choices conflicts;
-    for (const cups_option_t &option : std::span(found.list, static_cast<std::size_t>(found.count)))
-        conflicts.push_back({decodedUtf8(option.name), decodedUtf8(option.value)});
-    return conflicts;
+    return dialog::conflictsWith(choice, marks(), constraints_);
 }
 
 std::vector<Conflict> PpdDocument::conflicts() const
 {
-    std::vector<Conflict> conflicts;
-    for (const Choice &mark : marks()) {
-        for (const Choice &other : conflictsWith(mark)) {
-            if (!isListed(conflicts, mark, other))
-                conflicts.push_back({mark, other});
-        }
-    }
-    return conflicts;
+    return activeConflicts(marks(), constraints_);
 }
 
 } // namespace dialog

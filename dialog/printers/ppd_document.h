@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/printers/choice.h"
+#include "dialog/printers/constraints.h"
 
 #include <QStringList>
 
@@ -62,7 +62,8 @@ public:
     /// Does nothing for an unknown option or choice.
     void mark(const Choice &choice);
 
-    /// Marked choices that would be forbidden beside this one. Marks nothing.
+    /// Marked choices that would be forbidden beside this one; what is forbidden without it does
+    /// not count. Marks nothing.
     [[nodiscard]] Choices conflictsWith(const Choice &choice) const;
     /// Every forbidden pair among what is marked, each pair once.
     [[nodiscard]] std::vector<Conflict> conflicts() const;
@@ -79,6 +80,7 @@ private:
     QString path_;
     Handle ppd_;
     Choices defaults_;
+    Constraints constraints_;
 };
 
 } // namespace dialog
