@@ -61,10 +61,10 @@ private:
 struct ColorOutputSituation
 {
     Occasion occasion = Occasion::Action;
-    int index = -1;    ///< selected item: 0 is the colour mode, 1 the black mode
-    QString title;     ///< of the selected item
-    QString grayscale; ///< the host's text for "Grayscale"
-    SettingSet options;
+    int index = -1;         ///< selected item: 0 is the colour mode, 1 the black mode
+    QString title = {};     ///< of the selected item
+    QString grayscale = {}; ///< the host's text for "Grayscale"
+    SettingSet options = {};
 };
 
 /// What is to be done, in this order. Empty for every index but 0 and 1.
@@ -95,8 +95,8 @@ enum class MirrorChange { None, On, Off };
 struct MirrorSituation
 {
     MirrorPlace place = MirrorPlace::PrintSettings;
-    QString paperTypeTicket;
-    QString mirror;                       ///< the model's value
+    QString paperTypeTicket = {};
+    QString mirror = {};                  ///< the model's value
     bool isMirrorInPrintSettings = false; ///< looked at for a new paper type only
     bool isMirrorSetByIronOn = false;
     bool isMirrorManuallySet = false;
