@@ -83,11 +83,8 @@ const QTranslator *Bundle::translatorFor(const QString &table) const
     std::unique_ptr<QTranslator> &translator = translators_[fileName];
     if (!translator) {
         translator = std::make_unique<QTranslator>();
-        // QTranslator tries shorter names when a file is missing, so it is asked for existing ones
-        // only.
-        const QString path = resourcePath(fileName);
-        if (!path.isNull())
-            (void)translator->load(path);
+        // QTranslator tries shorter names when a file is missing, so it gets null then.
+        (void)translator->load(resourcePath(fileName));
     }
     return translator.get();
 }

@@ -243,6 +243,16 @@ TEST(BinaryTrailer, IsMissingWhenItsNumbersAreWrong)
     EXPECT_EQ(root, 0);
 }
 
+TEST(BinaryTrailer, IsMissingWhenTheTableIsLongerThanItSays)
+{
+    BinaryList list;
+    list.addText("one");
+    list.addText("two");
+    const auto start = static_cast<quint64>(list.nextOffset());
+    EXPECT_FALSE(isMissing(list.bytes(0, 2, start)));
+    EXPECT_TRUE(isMissing(list.bytes(0, 1, start)));
+}
+
 TEST(BinaryTrailer, IsMissingWithNumbersOfNoWidthOrTooMuch)
 {
     const QByteArray good = test::binaryList(q("text"));

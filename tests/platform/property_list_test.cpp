@@ -355,6 +355,8 @@ TEST(XmlList, IsMissingWhenALeafIsUnknownOrUnreadable)
              "<plist><date>2009-13-01T12:00:00Z</date></plist>",
              "<plist><date>2009-02-29T12:00:00Z</date></plist>",
              "<plist><date>2009-03-01T12:00:00</date></plist>",
+             "<plist><date>2009-03-01T12:00Z</date></plist>",
+             "<plist><date>2009-03-01T12:00:00.5Z</date></plist>",
              "<plist><date>2009-03-01T12:00:00+01:00</date></plist>",
              "<plist><data>!!</data></plist>",
              "<plist><data>QQ=Q</data></plist>",
