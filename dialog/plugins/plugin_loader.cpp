@@ -1,5 +1,6 @@
 #include "dialog/plugins/plugin_loader.h"
 
+#include "dialog/plugins/whole_library.h"
 #include "dialog/texts.h"
 #include "platform/values.h"
 
@@ -42,6 +43,9 @@ std::optional<PathRefusal> checkBundle(const QString &literalPath, TrustedOwner 
 
 std::variant<std::unique_ptr<PDEPlugIn>, PlugInFailure> createPrincipal(const QString &libraryPath)
 {
+    if (!isWholeLibrary(libraryPath))
+        return PlugInFailure{
+            text(Text::PlugInDamaged, {libraryPath, QStringLiteral("it is cut off")})};
     QPluginLoader loader(libraryPath);
     loader.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
     const QString interfaceId = loader.metaData().value(QLatin1String("IID")).toString();

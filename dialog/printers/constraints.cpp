@@ -14,6 +14,18 @@ bool isSame(const QString &a, const QString &b)
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
+/// Two names for the size of the sheet, of which only one is marked at a time.
+QString constrainedName(const QString &option)
+{
+    const QString size = QStringLiteral("PageSize");
+    return isSame(option, QStringLiteral("PageRegion")) ? size : option;
+}
+
+bool isSameOption(const QString &a, const QString &b)
+{
+    return isSame(constrainedName(a), constrainedName(b));
+}
+
 bool switchesOn(const QString &choice)
 {
     return !isSame(choice, QStringLiteral("None")) && !isSame(choice, QStringLiteral("Off")) &&
@@ -22,7 +34,7 @@ bool switchesOn(const QString &choice)
 
 bool matches(const Choice &part, const Choice &mark)
 {
-    return isSame(part.option, mark.option) &&
+    return isSameOption(part.option, mark.option) &&
            (part.choice.isNull() ? switchesOn(mark.choice) : isSame(part.choice, mark.choice));
 }
 
@@ -43,14 +55,14 @@ std::optional<Choices> fulfilledBy(const Constraint &constraint, const Choices &
 bool names(const Constraint &constraint, const QString &option)
 {
     return std::any_of(constraint.begin(), constraint.end(),
-                       [&](const Choice &part) { return isSame(part.option, option); });
+                       [&](const Choice &part) { return isSameOption(part.option, option); });
 }
 
 Choices withMark(const Choices &marks, const Choice &choice)
 {
     Choices changed{choice};
     std::copy_if(marks.begin(), marks.end(), std::back_inserter(changed),
-                 [&](const Choice &mark) { return !isSame(mark.option, choice.option); });
+                 [&](const Choice &mark) { return !isSameOption(mark.option, choice.option); });
     return changed;
 }
 
@@ -91,7 +103,7 @@ Choices conflictsWith(const Choice &choice, const Choices &marks, const Constrai
         if (!names(constraint, choice.option))
             continue;
         for (const Choice &mark : fulfilledBy(constraint, trial).value_or(Choices())) {
-            if (!isSame(mark.option, choice.option))
+            if (!isSameOption(mark.option, choice.option))
                 addOnce(inTheWay, mark);
         }
     }

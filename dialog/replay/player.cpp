@@ -349,7 +349,8 @@ QString Player::close(const QString &window)
 {
     QWidget *front = frontWindow();
     if (front->objectName() != window)
-        return noSuchName(QStringLiteral("open window in front"), window, {front->objectName()});
+        return window + QStringLiteral(" is not the window in front, ") + front->objectName() +
+               QStringLiteral(" is");
     front->close();
     return {};
 }

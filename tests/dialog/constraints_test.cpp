@@ -73,6 +73,14 @@ TEST(Constraints, InTheGeneralFormReplaceTheOldOnes)
     EXPECT_EQ(printer->conflictsWith({q("MediaType"), q("Envelope")}).size(), 2U);
 }
 
+QStringList marksText(const PpdDocument &printer)
+{
+    QStringList texts;
+    for (const Choice &mark : printer.marks())
+        texts.append(mark.option + u'=' + mark.choice);
+    return texts;
+}
+
 /// libcups is asked only for the number of conflicts, which must be none exactly when ours are
 /// none.
 TEST(Constraints, AgreeWithLibcupsOnRandomMarksOfTheSamplePrinters)
@@ -88,7 +96,8 @@ TEST(Constraints, AgreeWithLibcupsOnRandomMarksOfTheSamplePrinters)
             const QStringList choices = printer->choices(option);
             printer->mark({option, choices[static_cast<int>(random() % choices.size())]});
             const bool libcupsHasSome = ppdConflicts(printer->handle()) > 0;
-            ASSERT_EQ(!printer->conflicts().empty(), libcupsHasSome) << name << " step " << i;
+            ASSERT_EQ(!printer->conflicts().empty(), libcupsHasSome)
+                << name << " step " << i << ": " << testing::PrintToString(marksText(*printer));
             conflicting += libcupsHasSome ? 1 : 0;
         }
     }

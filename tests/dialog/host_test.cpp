@@ -75,7 +75,12 @@ protected:
         return host.willChangePPDOptionKeyValue(q(option), q(choice));
     }
     QString marked(const char *option) { return printer->marked(q(option)); }
-    static void runEventLoop() { QCoreApplication::processEvents(); }
+    /// Long enough for what is told in answer to what was told.
+    static void runEventLoop()
+    {
+        for (int turn = 0; turn < 3; ++turn)
+            QCoreApplication::processEvents();
+    }
 
     test::StagedDriver driver;
     std::unique_ptr<PpdDocument> printer = openPpd(driver.writePrinter());

@@ -185,10 +185,26 @@ TEST_F(PlugInLoading, SaysThatAForeignInterfaceDoesNotFit)
 TEST_F(PlugInLoading, SaysThatATruncatedLibraryIsDamagedWhereverItEnds)
 {
     const QByteArray whole = test::fileBytes(q(DIALOG_TEST_MODULE));
-    for (const qsizetype length : {qsizetype(0), qsizetype(1), qsizetype(64), whole.size() / 4,
-                                   whole.size() / 2, whole.size() * 3 / 4}) {
+    for (int part = 0; part < 64; ++part) {
+        const qsizetype length = whole.size() * part / 64;
         driver.replaceLibrary(whole.left(length));
-        EXPECT_FALSE(failureOf().isNull()) << "cut at " << length;
+        EXPECT_TRUE(failureOf().contains(q("is damaged"))) << "cut at " << length;
+    }
+    driver.replaceLibrary(whole.chopped(1));
+    EXPECT_TRUE(failureOf().contains(q("is damaged"))) << "cut by one byte";
+    driver.replaceLibrary(whole);
+    EXPECT_NULL(failureOf());
+}
+
+TEST_F(PlugInLoading, SaysThatWhatIsNoLibraryIsDamaged)
+{
+    constexpr int kOffsetOfSectionList = 0x28;
+    QByteArray beyondTheEnd = test::fileBytes(q(DIALOG_TEST_MODULE));
+    beyondTheEnd.replace(kOffsetOfSectionList, 8, QByteArray(8, '\xff'));
+    for (const QByteArray &bytes :
+         {QByteArray("#!/bin/sh\n"), QByteArray(5000, '\0'), beyondTheEnd}) {
+        driver.replaceLibrary(bytes);
+        EXPECT_TRUE(failureOf().contains(q("is damaged"))) << bytes.size();
     }
 }
 

@@ -82,9 +82,8 @@ TEST_F(Program, WithoutAPrinterCannotStart)
 
 TEST_F(Program, TellsFileLineAndReasonOfARefusedPpd)
 {
-    const QString path = driver.write(
-        q("bad.ppd"),
-        test::p1().bytes() + "*OpenUI *Broken/Broken: PickOne\n*OpenUI *Again/Again: PickOne\n");
+    const QByteArray longLine = "*Comment: \"" + QByteArray(300, 'x') + "\"\n";
+    const QString path = driver.write(q("bad.ppd"), test::p1().bytes() + longLine);
     const ProgramRun run = runPrint({q("--ppd"), path});
     EXPECT_EQ(run.status, 2);
     const QByteArray place = path.toUtf8() + ":";
@@ -260,7 +259,7 @@ TEST_F(Program, ErrorsNameFileLineAndNearestName)
     EXPECT_EQ(failureOf("mark PrintQuality Bast\n"),
               "case.txt:4: no choice Bast; did you mean Best?");
     EXPECT_EQ(failureOf("close ibOuterWindow\n"),
-              "case.txt:4: no open window in front ibOuterWindow; did you mean printWindow?");
+              "case.txt:4: ibOuterWindow is not the window in front, printWindow is");
     EXPECT_EQ(failureOf("cancel\nsave\n"), "case.txt:5: the dialog has been left before");
 }
 
