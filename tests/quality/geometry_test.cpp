@@ -83,6 +83,9 @@ void expectInsideAndApart(const QWidget *panel)
         EXPECT_TRUE(panel->rect().contains(frame)) << name;
         EXPECT_GE(frame.height(), controls[i]->minimumSizeHint().height()) << name;
         EXPECT_GE(frame.width(), controls[i]->minimumSizeHint().width()) << name;
+        if (qobject_cast<QComboBox *>(controls[i])) {
+            EXPECT_GE(frame.width(), controls[i]->sizeHint().width()) << name;
+        }
         for (qsizetype j = 0; j < i; ++j)
             EXPECT_FALSE(frame.intersects(inPanel(panel, controls[j])))
                 << name << " and " << controls[j]->objectName().toStdString();
@@ -143,6 +146,36 @@ TEST(Geometry, ClosingGivesTheHeightBack)
     QualityPanel closed(p1());
     bring(closed, State::ClosedAgain);
     EXPECT_EQ(start.controls().ibPDEView->size(), closed.controls().ibPDEView->size());
+}
+
+TEST(Geometry, OpeningChangesTheHeightAlone)
+{
+    QualityPanel start(p1());
+    bring(start, State::Start);
+    QualityPanel open(p1());
+    bring(open, State::Open);
+    EXPECT_EQ(start.controls().ibPDEView->width(), open.controls().ibPDEView->width());
+    EXPECT_LT(start.controls().ibPDEView->height(), open.controls().ibPDEView->height());
+}
+
+TEST(Geometry, TheRowsOfTheTwoColumnsStandSideBySide)
+{
+    QualityPanel ink(p1());
+    QualityPanel toner(p3());
+    for (QualityPanel *panel : {&ink, &toner})
+        bring(*panel, State::Open);
+    const std::pair<QWidget *, QWidget *> neighbours[] = {
+        {ink.controls().ibColorOutput, ink.controls().ibColorPreferences},
+        {ink.controls().ibInkToUse, ink.controls().ibUseICCTestChart},
+        {ink.controls().ibSharpen, ink.controls().ibDryTimePopUp},
+        {toner.controls().ibColorOutput, toner.controls().ibThresholdTextFeild},
+        {toner.controls().ibTonerSave, toner.controls().ibHalftone},
+        {toner.controls().ibSharpen, toner.controls().ibDryTimePopUp},
+    };
+    for (const auto &[left, right] : neighbours)
+        EXPECT_NEAR(inPanel(left->window(), left).center().y(),
+                    inPanel(right->window(), right).center().y(), 1)
+            << left->objectName().toStdString();
 }
 
 TEST(Geometry, AMissingTrayTakesItsRowAway)
