@@ -16,8 +16,10 @@ namespace {
 /// once.
 void forgetSize(QWidget *part)
 {
-    if (part->layout())
+    if (part->layout()) {
         part->layout()->invalidate();
+        part->layout()->activate();
+    }
     part->updateGeometry();
 }
 

@@ -3,7 +3,6 @@
 #include "platform/values.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QFont>
 
 #include <gtest/gtest.h>
@@ -17,7 +16,6 @@ enum class State { Start, Open, ClosedAgain };
 /// One look of the panel.
 struct Look
 {
-    const char *name;
     bool isToner;
     bool hasTray2;
     State state;
@@ -115,7 +113,7 @@ std::vector<Look> everyLook()
             for (const State state : {State::Start, State::Open, State::ClosedAgain})
                 for (const char *language : {"en", "de", "ja"})
                     for (const double scale : {1.0, 1.5})
-                        looks.push_back({"", isToner, hasTray2, state, language, scale});
+                        looks.push_back({isToner, hasTray2, state, language, scale});
     return looks;
 }
 
@@ -235,23 +233,4 @@ TEST(Geometry, ShipsAsTheInterfaceFileSays)
     EXPECT_EQ(c.ibThresholdStepper->value(), 3);
     EXPECT_TEXT(c.ibThresholdTextFeild->text(), "3");
     EXPECT_TRUE(c.ibBlackAndWhite->isHidden());
-}
-
-/// Pictures for a person's eyes; the test's folder is given by the environment.
-TEST(Geometry, DISABLED_Pictures)
-{
-    const QDir folder(qEnvironmentVariable("KORVANE_PICTURES", QDir::tempPath()));
-    for (const Look &look : everyLook()) {
-        const LargerFont font(look.fontScale);
-        platform::setPreferredLanguages({q(look.language)});
-        QualityPanel panel(printerOf(look), {.version = 0x105F});
-        bring(panel, look.state);
-        const QString name = QStringLiteral("%1_%2_%3_%4_%5.png")
-                                 .arg(look.isToner ? q("toner") : q("ink"))
-                                 .arg(look.hasTray2)
-                                 .arg(int(look.state))
-                                 .arg(q(look.language))
-                                 .arg(look.fontScale);
-        EXPECT_TRUE(panel.controls().ibPDEView->grab().save(folder.filePath(name)));
-    }
 }
