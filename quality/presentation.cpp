@@ -245,7 +245,8 @@ void KorPDEController2::connectDisclosure()
 
 bool KorPDEController2::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == ibDisclosureLabel && event->type() == QEvent::MouseButtonRelease &&
+    // The type first: a widget that is being destroyed sends events, too, and is no label any more.
+    if (event->type() == QEvent::MouseButtonRelease && watched == ibDisclosureLabel &&
         ibDisclosure && static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
         ibDisclosure->click();
     return QObject::eventFilter(watched, event);
