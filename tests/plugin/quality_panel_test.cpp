@@ -316,7 +316,7 @@ TEST(QualityPanel, FollowsEachOfItsOptionsWhenTheyChangeElsewhere)
          &PDEModel2::ICCTestChartTicket},
         {"TonerSave", "On", "On", &PDEModel2::tonerSave, &PDEModel2::tonerSaveTicket},
         {"HalftoneLevel", "Smooth", "Smooth", &PDEModel2::halftone, &PDEModel2::halftoneTicket},
-        {"Sharpen", "Off", "None", &PDEModel2::imageSharpening, &PDEModel2::imageSharpeningTicket},
+        {"Sharpen", "High", "High", &PDEModel2::imageSharpening, &PDEModel2::imageSharpeningTicket},
         {"InkToUse", "ColorOnly", "Color Only", &PDEModel2::inkToUse, &PDEModel2::inkToUseTicket},
     };
     for (const Change &change : changes) {
