@@ -3,6 +3,7 @@
 #include "dialog/jobs/document.h"
 #include "dialog/jobs/job_folder.h"
 #include "dialog/printers/queue_job.h"
+#include "dialog/window/help_window.h"
 #include "dialog/window/print_window.h"
 #include "platform/controls/modal_session.h"
 #include "platform/values.h"
@@ -78,7 +79,7 @@ PrintDialog::PrintDialog(const PrintCase &printCase, std::unique_ptr<PpdDocument
 {
     host_.followPageSize();
     formerHelpOpener_ = platform::setHelpOpener(
-        [this](const platform::HelpRequest &request) { Q_EMIT helpOpened(request); });
+        [this](const platform::HelpRequest &request) { showBook(request); });
     connect(&host_, &DialogHost::judged, this, &PrintDialog::showOutcome);
 }
 
@@ -200,6 +201,22 @@ void PrintDialog::showHelp()
     }
     if (showsOwn)
         notify({kHelpKey, Severity::Information, text(Text::HelpPage), {}});
+}
+
+/// A book that cannot be found leaves the dialog's own page.
+void PrintDialog::showBook(const platform::HelpRequest &request)
+{
+    Q_EMIT helpOpened(request);
+    if (!window_)
+        return;
+    const QString page = helpPagePath(request.bookPath, request.page);
+    if (page.isNull()) {
+        notify({kHelpKey, Severity::Information, text(Text::HelpPage), {}});
+        return;
+    }
+    if (!helpWindow_)
+        helpWindow_ = new HelpWindow(window_.get());
+    helpWindow_->showPage(request.bookName, page, request.anchor);
 }
 
 void PrintDialog::showOutcome(const OfferOutcome &outcome)
@@ -376,6 +393,8 @@ void PrintDialog::leave()
 {
     platform::stopAllModalSessions();
     window_->hide();
+    if (helpWindow_)
+        helpWindow_->hide();
     Q_EMIT left();
 }
 

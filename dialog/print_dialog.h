@@ -17,6 +17,7 @@
 
 namespace dialog {
 
+class HelpWindow;
 class PrintWindow;
 class QueueJob;
 
@@ -85,6 +86,7 @@ private:
     void restorePanels();
     void bringForward(int index);
     void showHelp();
+    void showBook(const platform::HelpRequest &request);
     void showOutcome(const OfferOutcome &outcome);
     void notify(const Notice &notice);
     void fail(const QString &notice);
@@ -106,7 +108,8 @@ private:
     std::vector<PlugIn> plugIns_;
     std::vector<Panel> panels_;
     std::unique_ptr<PrintWindow> window_;
-    std::vector<Notice> early_; ///< shown as soon as there is a window
+    std::vector<Notice> early_;        ///< shown as soon as there is a window
+    HelpWindow *helpWindow_ = nullptr; ///< belongs to the window
     QueueJob *queueJob_ = nullptr;
     platform::HelpOpener formerHelpOpener_;
 };

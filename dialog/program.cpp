@@ -6,10 +6,8 @@
 #include "platform/console.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QFile>
 #include <QSaveFile>
-#include <QUrl>
 
 #include <cstdio>
 #include <unistd.h>
@@ -44,10 +42,18 @@ void setUpConsole(const PrintCase &printCase)
         platform::setConsoleSink([](const QString &) {});
 }
 
-void openHelpBook(const platform::HelpRequest &request)
+QtMessageHandler &formerMessageHandler()
 {
-    if (!request.bookPath.isNull())
-        QDesktopServices::openUrl(QUrl::fromLocalFile(request.bookPath));
+    static QtMessageHandler handler = nullptr;
+    return handler;
+}
+
+/// The platform without a display says of each window that it has no window system.
+void dropRemarksOnMissingDisplay(QtMsgType type, const QMessageLogContext &context,
+                                 const QString &message)
+{
+    if (!message.startsWith(QLatin1String("This plugin does not support ")))
+        formerMessageHandler()(type, context, message);
 }
 
 int runDialog(const CommandLine &line)
@@ -57,7 +63,6 @@ int runDialog(const CommandLine &line)
         return refuse(*problem);
     const auto dialog = std::move(std::get<std::unique_ptr<PrintDialog>>(opened));
     QObject::connect(dialog.get(), &PrintDialog::left, qApp, &QCoreApplication::quit);
-    QObject::connect(dialog.get(), &PrintDialog::helpOpened, qApp, openHelpBook);
     QObject::connect(dialog.get(), &PrintDialog::jobMade, qApp, [](const JobRecord &job) {
         say(stdout, job.ticketPath.isNull() ? job.id : job.ticketPath);
         QCoreApplication::quit();
@@ -143,6 +148,8 @@ int runProgram(int argc, char **argv)
     const auto &line = std::get<CommandLine>(parsed);
     chooseQtPlatform(line.command != CommandLine::Command::OpenDialog);
     QApplication application(argc, argv);
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        formerMessageHandler() = qInstallMessageHandler(dropRemarksOnMissingDisplay);
     QCoreApplication::setApplicationName(QStringLiteral("korvane-print"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
     return runCommand(line);

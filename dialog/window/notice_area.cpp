@@ -44,7 +44,7 @@ QLabel *textLabel(const QString &text, QWidget *parent)
     label->setWordWrap(true);
     label->setText(text);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::MinimumExpanding);
+    label->setAlignment(Qt::AlignTop | Qt::AlignLeading);
     return label;
 }
 

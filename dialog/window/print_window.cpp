@@ -5,6 +5,7 @@
 #include "platform/controls/pop_up_button.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QFrame>
@@ -138,7 +139,8 @@ void PrintWindow::fitContents()
 {
     const bool updates = updatesEnabled();
     setUpdatesEnabled(false);
-    panelLayout_->activate();
+    // What has changed inside tells its parents by events, which must have arrived.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     layout()->activate();
     const QSize hint = sizeHint().expandedTo(minimumSize());
     resize(hint.width(), layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(hint.width())

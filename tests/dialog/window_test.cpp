@@ -1,0 +1,172 @@
+#include "dialog/texts.h"
+#include "dialog/window/help_window.h"
+#include "dialog/window/notice_area.h"
+#include "dialog/window/print_window.h"
+#include "platform/controls/pop_up_button.h"
+#include "platform/values.h"
+#include "tests/dialog/staged_driver.h"
+#include "tests/support/print_to.h"
+
+#include <QDir>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+using namespace dialog;
+using test::q;
+
+namespace {
+
+Notice notice(const char *key, const char *words)
+{
+    return {q(key), Severity::Warning, q(words), {}};
+}
+
+class Window : public testing::Test
+{
+protected:
+    Window()
+    {
+        for (const char *title : {"One & Two", "Three"}) {
+            auto *view = new QLabel(q(title));
+            view->setMinimumSize(460, 100);
+            window.addPanel(q(title), view);
+        }
+        window.bringForward(0);
+        window.show();
+    }
+    template <class Button>
+    Button *button(const char *name)
+    {
+        return window.findChild<Button *>(q(name));
+    }
+
+    PrintWindow window{q("A & B"), {}};
+};
+
+TEST_F(Window, ShowsOnePanelAtATimeAndPrinterNamesLiterally)
+{
+    EXPECT_TRUE(window.view(0)->isVisible());
+    EXPECT_FALSE(window.view(1)->isVisible());
+    window.bringForward(1);
+    EXPECT_FALSE(window.view(0)->isVisible());
+    EXPECT_TRUE(window.view(1)->isVisible());
+    EXPECT_EQ(window.panelPopUp()->currentIndex(), 1);
+    QStringList labels;
+    for (const QLabel *label : window.findChildren<QLabel *>())
+        labels.append(label->text());
+    EXPECT_TRUE(labels.contains(q("A & B")));
+    EXPECT_TRUE(labels.contains(q("None")));
+}
+
+TEST_F(Window, GrowsAndShrinksWithThePanel)
+{
+    const int before = window.height();
+    window.view(0)->setMinimumHeight(300);
+    window.fitContents();
+    EXPECT_EQ(window.height(), before + 200);
+    window.view(0)->setMinimumHeight(100);
+    window.fitContents();
+    EXPECT_EQ(window.height(), before);
+}
+
+TEST_F(Window, MakesRoomForNoticesAndTakesItBack)
+{
+    const int before = window.height();
+    window.notices().show(notice("a", "Something"));
+    EXPECT_GT(window.height(), before);
+    QTest::mouseClick(button<QToolButton>("dismissNotice"), Qt::LeftButton);
+    EXPECT_EQ(window.height(), before);
+    EXPECT_TRUE(window.notices().texts().isEmpty());
+}
+
+TEST_F(Window, ReplacesANoticeOfTheSameKeyAndDismissesGroups)
+{
+    window.notices().show(notice("offer:A", "first"));
+    window.notices().show(notice("offer:A", "second"));
+    window.notices().show(notice("offer:B", "third"));
+    window.notices().show(notice("other", "fourth"));
+    EXPECT_EQ(window.notices().texts(), QStringList({q("second"), q("third"), q("fourth")}));
+    window.notices().dismissGroup(q("offer:"));
+    EXPECT_EQ(window.notices().texts(), QStringList({q("fourth")}));
+}
+
+TEST_F(Window, SurvivesAPanelsViewThatDies)
+{
+    delete window.view(0);
+    window.bringForward(1);
+    window.bringForward(0);
+    EXPECT_EQ(window.view(0), nullptr);
+    EXPECT_EQ(window.frontIndex(), 0);
+}
+
+TEST_F(Window, IsLeftOnceByCancelEscapeOrItsCloseButton)
+{
+    QSignalSpy left(&window, &PrintWindow::left);
+    window.close();
+    QTest::keyClick(&window, Qt::Key_Escape);
+    QTest::mouseClick(button<QPushButton>("cancelButton"), Qt::LeftButton);
+    EXPECT_EQ(left.count(), 1);
+}
+
+TEST_F(Window, PrintsByReturnButNotTwiceWhileSending)
+{
+    QSignalSpy printed(&window, &PrintWindow::printRequested);
+    QTest::keyClick(&window, Qt::Key_Return);
+    EXPECT_EQ(printed.count(), 1);
+    window.setSending(true);
+    QTest::keyClick(&window, Qt::Key_Return);
+    QTest::mouseClick(button<QPushButton>("printButton"), Qt::LeftButton);
+    EXPECT_EQ(printed.count(), 1);
+    window.setSending(false);
+    QTest::keyClick(&window, Qt::Key_Return);
+    EXPECT_EQ(printed.count(), 2);
+}
+
+TEST(Texts, ComeInThreeLanguagesAndEnglishForTheRest)
+{
+    EXPECT_TEXT(text(Text::Cancel), "Cancel");
+    platform::setPreferredLanguages({q("de_AT")});
+    EXPECT_TEXT(text(Text::Cancel), "Abbrechen");
+    platform::setPreferredLanguages({q("ja")});
+    EXPECT_TEXT(text(Text::Cancel), "キャンセル");
+    platform::setPreferredLanguages({q("sv")});
+    EXPECT_TEXT(text(Text::Cancel), "Cancel");
+    platform::setPreferredLanguages({});
+    EXPECT_TEXT(text(Text::Cancel), "Cancel");
+}
+
+TEST(Texts, TakeArgumentsLiterally)
+{
+    EXPECT_TEXT(text(Text::OfferRefused, {q("%2"), q("100% %1")}),
+                "“%2: 100% %1” cannot be chosen now.");
+}
+
+TEST(HelpPage, ComesInThePreferredLanguageElseInTheBooksOwn)
+{
+    test::StagedDriver driver;
+    for (const char *language : {"en", "de"})
+        ASSERT_TRUE(QDir().mkpath(driver.bundle() + q("/Contents/Resources/help/") + q(language)));
+    const auto write = [&](const char *name, const QByteArray &bytes) {
+        QFile file(driver.bundle() + q("/Contents/") + q(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    };
+    write("Info.plist", "<plist version=\"1.0\"><dict><key>CFBundleHelpBookFolder</key>"
+                        "<string>help</string><key>CFBundleDevelopmentRegion</key>"
+                        "<string>en</string></dict></plist>");
+    write("Resources/help/en/index.html", "<p>Help</p>");
+    write("Resources/help/de/index.html", "<p>Hilfe</p>");
+    write("Resources/help/en/more.html", "<p>More</p>");
+    platform::setPreferredLanguages({q("de-AT")});
+    EXPECT_TRUE(helpPagePath(driver.bundle(), {}).endsWith(q("/help/de/index.html")));
+    EXPECT_TRUE(helpPagePath(driver.bundle(), q("more.html")).endsWith(q("/help/en/more.html")));
+    EXPECT_NULL(helpPagePath(driver.bundle(), q("none.html")));
+    EXPECT_NULL(helpPagePath(driver.path(q("nowhere")), {}));
+}
+
+} // namespace
