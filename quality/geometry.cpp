@@ -4,7 +4,8 @@
 #include "platform/controls/pop_up_button.h"
 
 #include <QCheckBox>
-#include <QLayout>
+#include <QGridLayout>
+#include <QLabel>
 
 #include <algorithm>
 #include <cmath>
@@ -42,6 +43,28 @@ void evenOutRows(FrameView *panel)
         box->setMinimumHeight(popUp->sizeHint().height());
 }
 
+int widestLabel(const QGridLayout *rows)
+{
+    int widest = 0;
+    for (int row = 0; row < rows->rowCount(); ++row)
+        if (const QLayoutItem *item = rows->itemAtPosition(row, 0))
+            if (const auto *label = qobject_cast<QLabel *>(item->widget()))
+                widest = std::max(widest, label->isHidden() ? 0 : label->sizeHint().width());
+    return widest;
+}
+
+/// The header's controls and those below them, in the left column, stand in one line.
+void lineUpControls(const FrameView *panel)
+{
+    auto *header = panel->findChild<QGridLayout *>(QStringLiteral("headerLayout"));
+    auto *below = panel->findChild<QGridLayout *>(QStringLiteral("leftColumn"));
+    if (!header || !below)
+        return;
+    const int width = std::max(widestLabel(header), widestLabel(below));
+    header->setColumnMinimumWidth(0, width);
+    below->setColumnMinimumWidth(0, width);
+}
+
 } // namespace
 
 void projectFrames(FrameView *panel)
@@ -50,6 +73,7 @@ void projectFrames(FrameView *panel)
         return;
     const auto parts = panel->findChildren<FrameView *>(QString(), Qt::FindDirectChildrenOnly);
     evenOutRows(panel);
+    lineUpControls(panel);
     for (FrameView *part : parts)
         forgetSize(part);
     panel->setMinimumWidth(widthOf(panel, parts));

@@ -87,8 +87,7 @@ QJsonArray numbers(const QRectF &frame)
 
 } // namespace
 
-// View
-// ---------------------------------------------------------------------------------------------
+// View ----------------------------------------------------------------------------------
 
 QWidget *KorPDEController2::mainView()
 {
@@ -180,8 +179,7 @@ QJsonObject KorPDEController2::frames() const
     };
 }
 
-// Connections
-// --------------------------------------------------------------------------------------
+// Connections ---------------------------------------------------------------------------
 
 /// A person's input only: none of these signals comes from a change by the program.
 void KorPDEController2::connectControls()
@@ -229,16 +227,12 @@ void KorPDEController2::connectControls()
     connectDisclosure();
 }
 
-/// The triangle points down while the advanced part is open; a click on its label counts as one on
-/// it.
+/// A click on the triangle's label counts as one on it.
 void KorPDEController2::connectDisclosure()
 {
     if (!ibDisclosure)
         return;
     connect(ibDisclosure, &QToolButton::clicked, this, [this] { disclosureAction(ibDisclosure); });
-    connect(ibDisclosure, &QToolButton::toggled, ibDisclosure, [this](bool isOpen) {
-        ibDisclosure->setArrowType(isOpen ? Qt::DownArrow : Qt::RightArrow);
-    });
     if (ibDisclosureLabel)
         ibDisclosureLabel->installEventFilter(this);
 }
@@ -252,8 +246,7 @@ bool KorPDEController2::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-// Labels
-// -------------------------------------------------------------------------------------------
+// Labels --------------------------------------------------------------------------------
 
 void KorPDEController2::localizeLabels()
 {
@@ -321,8 +314,7 @@ void KorPDEController2::localizeDisclosureLabel()
     }
 }
 
-// Summary
-// ------------------------------------------------------------------------------------------
+// Summary -------------------------------------------------------------------------------
 
 SummaryInfo KorPDEController2::infoForSummaryPanel()
 {
@@ -352,8 +344,7 @@ void KorPDEController2::addDryTime(SummaryInfo &info) const
     addEntry(info, ppd::optionText(pdeModel_->dryTimeCheckBoxOption()), pdeModel_->dryTime());
 }
 
-// Help
-// ---------------------------------------------------------------------------------------------
+// Help ----------------------------------------------------------------------------------
 
 bool KorPDEController2::shouldShowDefaultHelp(const QString &helpPath)
 {

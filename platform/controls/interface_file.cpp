@@ -1,5 +1,6 @@
 #include "platform/controls/interface_file.h"
 
+#include "platform/controls/disclosure_button.h"
 #include "platform/controls/frame_view.h"
 #include "platform/controls/pop_up_button.h"
 #include "platform/controls/radio_matrix.h"
@@ -41,6 +42,7 @@ const CustomClass customClasses[] = {
     {&Stepper::staticMetaObject, make<Stepper>},
     {&RadioMatrix::staticMetaObject, make<RadioMatrix>},
     {&FrameView::staticMetaObject, make<FrameView>},
+    {&DisclosureButton::staticMetaObject, make<DisclosureButton>},
 };
 
 WidgetMaker makerOf(const QString &className)

@@ -46,7 +46,8 @@ private:
 ///
 /// An outlet whose widget is missing or of another class stays null, and an unknown custom class
 /// makes the whole load fail; each is reported by qCritical, which fails every test, and reads as
-/// missing in production. Known custom classes: PopUpButton, Stepper, RadioMatrix, FrameView.
+/// missing in production. Known custom classes: PopUpButton, Stepper, RadioMatrix, FrameView,
+/// DisclosureButton.
 ///
 /// Texts marked as translatable in the file are looked up in the bundle's default string table by
 /// the text itself.
