@@ -33,8 +33,7 @@ QString wordOf(BoxWords words, int state)
 
 } // namespace
 
-// Regular actions, by the table's kind
-// --------------------------------------------------------------
+// Regular actions, by the table's kind --------------------------------------------------
 
 void KorPDEController2::printQualityAction(QWidget *)
 {
@@ -157,8 +156,7 @@ bool KorPDEController2::offerTicket(Setting setting)
     return changePPDOptionKeyValue(keyword(setting), ticketOf(setting));
 }
 
-// Ink
-// ----------------------------------------------------------------------------------------------
+// Ink -----------------------------------------------------------------------------------
 
 void KorPDEController2::inkToUseAction(QWidget *)
 {
@@ -198,8 +196,7 @@ std::optional<KorPDEController2::PickedChoice> KorPDEController2::inkAt(int mapp
     return std::nullopt;
 }
 
-// Colour output
-// ------------------------------------------------------------------------------------
+// Colour output -------------------------------------------------------------------------
 
 void KorPDEController2::colorOutputAction(QWidget *)
 {
@@ -243,8 +240,7 @@ void KorPDEController2::takeColorOutput()
     offerTicket(Setting::ColorOutput);
 }
 
-// Paper type and mirror
-// ----------------------------------------------------------------------------
+// Paper type and mirror -----------------------------------------------------------------
 
 void KorPDEController2::paperTypeAction(QWidget *)
 {
@@ -298,8 +294,7 @@ void KorPDEController2::mirrorAction(QWidget *)
     customConstraintOSControl();
 }
 
-// Threshold
-// ----------------------------------------------------------------------------------------
+// Threshold -----------------------------------------------------------------------------
 
 void KorPDEController2::thresholdStepperAction(QWidget *)
 {
@@ -345,8 +340,7 @@ void KorPDEController2::beDelegateOfThresholdField()
             [this](QLineEdit *field) { controlTextDidChange(field); });
 }
 
-// Advanced options
-// ---------------------------------------------------------------------------------
+// Advanced options ----------------------------------------------------------------------
 
 void KorPDEController2::disclosureAction(QWidget *)
 {

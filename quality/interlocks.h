@@ -12,8 +12,7 @@
 /// a control, a PPD or the model; the controller gathers the situation and carries the plan out.
 namespace quality {
 
-// What colour output does to the controls that depend on it
-// ----------------------------------------
+// What colour output does to the controls that depend on it -----------------------------
 
 /// Colour output works on the others when a person changes it, and when the whole panel is
 /// synchronised with the model; the two do not do the same.
@@ -70,8 +69,7 @@ struct ColorOutputSituation
 /// What is to be done, in this order. Empty for every index but 0 and 1.
 [[nodiscard]] std::vector<Interlock> colorOutputPlan(const ColorOutputSituation &situation);
 
-// Ink
-// ----------------------------------------------------------------------------------------------
+// Ink -----------------------------------------------------------------------------------
 
 /// Keywords that the ink pop-up leaves out in each mode.
 inline const QString kBlackModeInks = QStringLiteral("BlackOnly, BlackColor");
@@ -82,8 +80,7 @@ inline const QString kColorModeInks = QStringLiteral("ColorOnly, ColorBlack");
 /// BlackColor.
 [[nodiscard]] int mappedInkIndex(int popUpIndex, const QString &colorOutputTicket);
 
-// Mirror
-// -------------------------------------------------------------------------------------------
+// Mirror --------------------------------------------------------------------------------
 
 /// Up to 10.5 mirror is a choice of the PPD, held by model and check box; from 10.6 on iron-on
 /// paper mirrors through the job's print settings.
@@ -117,8 +114,7 @@ struct MirrorSituation
 /// State that the mirror box is to take when it disagrees with the ticket, nothing when it agrees.
 [[nodiscard]] std::optional<int> mirrorStateToShow(int state, const QString &ticket);
 
-// Rows
-// ---------------------------------------------------------------------------------------------
+// Rows ----------------------------------------------------------------------------------
 
 /// What becomes of a row when the labels are made. A row once hidden is never shown again.
 enum class RowFate { Titled, Hidden };
@@ -138,8 +134,7 @@ struct RowPlan
 /// The rows without which a panel makes no sense: hidden where the printer lacks the option.
 [[nodiscard]] std::vector<RowPlan> requiredRowsPlan(const SettingSet &options);
 
-// Printers that differ from what the rules assume
-// --------------------------------------------------
+// Printers that differ from what the rules assume ---------------------------------------
 
 /// One choice on whose order, keyword or label a rule stands and which is something else. A null
 /// choice stands for one that is missing.

@@ -51,8 +51,7 @@ std::vector<QWidget *> KorPDEController2::controlsOf(Setting setting) const
     return {popUpOf(setting), boxOf(setting)};
 }
 
-// Filling
-// ------------------------------------------------------------------------------------------
+// Filling -------------------------------------------------------------------------------
 
 void KorPDEController2::initializeControls()
 {
@@ -143,8 +142,7 @@ void KorPDEController2::initializeSharpen()
                                   pdeTools->getOptionsDefault(keyword(Setting::Sharpen), mLOcPPD));
 }
 
-// The whole panel
-// ----------------------------------------------------------------------------------
+// The whole panel -----------------------------------------------------------------------
 
 void KorPDEController2::updateControls()
 {
@@ -195,8 +193,7 @@ void KorPDEController2::synchronizeMirrorBox(int stateBefore)
     controls::setState(ibMIrror, *state);
 }
 
-// Colour output's hold over the others
-// -------------------------------------------------------------
+// Colour output's hold over the others --------------------------------------------------
 
 void KorPDEController2::applyColorOutputPlan(Occasion occasion)
 {
@@ -253,8 +250,7 @@ void KorPDEController2::showNeutralThreshold()
     controls::setStringValue(ibThresholdTextFeild, QString::number(kNeutralThreshold));
 }
 
-// Mirror
-// -------------------------------------------------------------------------------------------
+// Mirror --------------------------------------------------------------------------------
 
 MirrorSituation KorPDEController2::mirrorSituation() const
 {
@@ -300,8 +296,7 @@ void KorPDEController2::storeMirrorWord(const QString &word)
     storeStrings(Setting::Mirror, word, word);
 }
 
-// One option
-// ---------------------------------------------------------------------------------------
+// One option ----------------------------------------------------------------------------
 
 void KorPDEController2::updateControl(const QString &name)
 {

@@ -60,8 +60,7 @@ bool &ironOnFlag(QualityPanel &panel)
 
 } // namespace
 
-// Pop-ups and boxes
-// --------------------------------------------------------------------------------
+// Pop-ups and boxes ---------------------------------------------------------------------
 
 TEST(Actions, Actions_01_TakesAnAcceptedPrintQuality)
 {
@@ -140,8 +139,7 @@ TEST(Actions, PickingTheSelectedItemOffersItToo)
     EXPECT_THAT(panel.host.offers, ElementsAre(offer("PrintQuality", "Automatic")));
 }
 
-// Colour output and ink
-// ----------------------------------------------------------------------------
+// Colour output and ink -----------------------------------------------------------------
 
 TEST(Actions, Actions_05_OffersWhatColorOutputChanges)
 {
@@ -381,8 +379,7 @@ TEST(Actions, ATonerSaveBoxSaysOnAndOff)
     EXPECT_EQ(texts(panel.host.offers), QStringList({q("TonerSave=On"), q("TonerSave=Off")}));
 }
 
-// Paper type and mirror
-// ----------------------------------------------------------------------------
+// Paper type and mirror -----------------------------------------------------------------
 
 TEST(Actions, Actions_17_IronOnMirrorsThroughThePrintSettings)
 {
@@ -592,8 +589,7 @@ TEST(Actions, Actions_46_StraightAfterLifeMirrorIsTheWordOff)
     EXPECT_TRUE(ironOnFlag(panel));
 }
 
-// Synchronisation
-// ----------------------------------------------------------------------------------
+// Synchronisation -----------------------------------------------------------------------
 
 TEST(Actions, Actions_31_SynchronisesAGrayscalePrinterWithInk)
 {
@@ -649,8 +645,7 @@ TEST(Actions, Actions_34_KeepsTheInkOverARefill)
     EXPECT_FALSE(log.traces().contains(q("{ -[KorPDEController2 inkToUseAction:]")));
 }
 
-// Threshold
-// ----------------------------------------------------------------------------------------
+// Threshold -----------------------------------------------------------------------------
 
 TEST(Actions, Actions_35_TheStepperWritesFieldModelAndOffer)
 {
@@ -774,8 +769,7 @@ TEST(Actions, Actions_39_AnExternalThresholdAlwaysShows3)
     EXPECT_EQ(panel.console.lines(), QStringList({q("[pdeModel thresoldTicket ] is 5")}));
 }
 
-// One option
-// ---------------------------------------------------------------------------------------
+// One option ----------------------------------------------------------------------------
 
 TEST(Actions, Actions_40_UnknownKeywordsUpdateNothing)
 {
@@ -852,8 +846,7 @@ TEST(Actions, AnExternalPaperTypeUndoesTheIronOnMirror)
     EXPECT_THAT(older.host.offers, ElementsAre(offer("Mirror", "Off")));
 }
 
-// Disclosure
-// ---------------------------------------------------------------------------------------
+// Disclosure ----------------------------------------------------------------------------
 
 TEST(Actions, Actions_41_TheRecordsFollowTheTriangle)
 {
@@ -917,8 +910,7 @@ TEST(Actions, Actions_42_ThePanelHasItsNewHeightWhenTheHostHears)
     EXPECT_EQ(records, QList<double>({283, 160}));
 }
 
-// What counts as an action
-// -------------------------------------------------------------------------
+// What counts as an action --------------------------------------------------------------
 
 TEST(Actions, Actions_43_WithoutTheOptionNothingHappens)
 {

@@ -68,8 +68,7 @@ const QString kHelpPath = QStringLiteral("/Library/Printers/Korvane/PDEs/Quality
 
 } // namespace
 
-// Labels
-// -------------------------------------------------------------------------------------------
+// Labels --------------------------------------------------------------------------------
 
 TEST(Presentation, Presentation_01_NamesTheDisclosureInTheUsersLanguage)
 {
@@ -260,8 +259,7 @@ TEST(Presentation, EveryControlHasANameAndSaysWhatItDoes)
     }
 }
 
-// Summary
-// ------------------------------------------------------------------------------------------
+// Summary -------------------------------------------------------------------------------
 
 TEST(Presentation, Presentation_06_SummarisesAnInkPrinter)
 {
@@ -304,8 +302,7 @@ TEST(Presentation, Presentation_09_LeavesAnUnknownMirrorOut)
     EXPECT_EQ(lines(panel.controller().infoForSummaryPanel()).filter(q("Mirror")), QStringList());
 }
 
-// Help
-// ---------------------------------------------------------------------------------------------
+// Help ----------------------------------------------------------------------------------
 
 TEST(Presentation, Presentation_10_OpensTheDriversBook)
 {
@@ -366,8 +363,7 @@ TEST(Presentation, Presentation_13_LeavesNoHandleOpenBehindTheController)
     EXPECT_EQ(openHandles(), before);
 }
 
-// Diagnostics
-// --------------------------------------------------------------------------------------
+// Diagnostics ---------------------------------------------------------------------------
 
 TEST(Presentation, DescribesItsFramesAndItsModel)
 {

@@ -355,8 +355,7 @@ TEST(SetUp, SetUp_27_PassesNoNullSessionOn)
                                          q("} -[KorPDEController2 setPrintSession:]")}));
 }
 
-// Printers that lack something
-// ---------------------------------------------------------------------
+// Printers that lack something ----------------------------------------------------------
 
 TEST(SetUp, LivesWithoutAPpd)
 {
