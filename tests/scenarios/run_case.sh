@@ -1,0 +1,51 @@
+#!/usr/bin/env bash
+# run_case.sh BUILD_FOLDER CASE_FOLDER: plays a case on the offscreen platform and compares report, exit
+# status and messages with those expected. UPDATE_EXPECTED=1 rewrites them instead.
+set -euo pipefail
+
+build=$(cd "$1" && pwd)
+case=$(cd "$2" && pwd)
+
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+mkdir "$scratch/run" "$scratch/tmp"
+chmod 700 "$scratch/run"
+
+# The same surroundings on every machine and for every user.
+play() {
+    env -i PATH="$PATH" HOME="$scratch" LC_ALL=C.UTF-8 TMPDIR="$scratch/tmp" \
+        XDG_RUNTIME_DIR="$scratch/run" XDG_DATA_HOME="$scratch/data" QT_QPA_PLATFORM=offscreen \
+        CUPS_SERVER=127.0.0.1:1 \
+        ${ASAN_OPTIONS:+ASAN_OPTIONS="$ASAN_OPTIONS"} \
+        "$build/bin/korvane-print" replay "$case/case.scenario" --root "$build/root" --stable \
+        --report "$scratch/report.json"
+}
+
+# Paths of this run, and what Qt and the debug log say of themselves, are no part of the case.
+messages() {
+    sed -e "s#$case/##g; s#$scratch#SCRATCH#g; s#$build#BUILD#g" -e '/^This plugin does not support/d' \
+        -e '/^tmp at /d' "$1"
+}
+
+# compare ACTUAL EXPECTED: shows the difference, or makes the expected file the actual one.
+compare() {
+    local actual=$1 expected=$2
+    if [[ -n ${UPDATE_EXPECTED:-} ]]; then
+        if [[ -s $actual ]]; then cp "$actual" "$expected"; else rm -f "$expected"; fi
+        return 0
+    fi
+    [[ -e $expected ]] || expected=/dev/null
+    diff -u --label "expected ${2##*/}" --label "actual ${2##*/}" "$expected" "$actual"
+}
+
+status=0
+play 2>"$scratch/stderr" || status=$?
+messages "$scratch/stderr" >"$scratch/message"
+[[ -e $scratch/report.json ]] || : >"$scratch/report.json"
+((status == 0)) && : >"$scratch/status" || echo "$status" >"$scratch/status"
+
+outcome=0
+compare "$scratch/status" "$case/status" || outcome=1
+compare "$scratch/message" "$case/message" || outcome=1
+compare "$scratch/report.json" "$case/expected.json" || outcome=1
+exit "$outcome"
