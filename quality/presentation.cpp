@@ -1,8 +1,7 @@
-// KorPDEController2: the view, its labels, the summary and help.
+// KorPDEController2: labels, the summary and help.
 
 #include "diag/debug_log.h"
 #include "diag/trace.h"
-#include "model/pop_up_filling.h"
 #include "model/ppd_records.h"
 #include "platform/console.h"
 #include "platform/controls/controls.h"
@@ -13,10 +12,7 @@
 #include "quality/kor_pde_controller.h"
 #include "quality/settings_table.h"
 
-#include <QEvent>
 #include <QFile>
-#include <QJsonArray>
-#include <QMouseEvent>
 
 #include <algorithm>
 
@@ -80,171 +76,7 @@ QString bookName(const QVariantMap &information)
     return name.typeId() == QMetaType::QString ? name.toString() : QString();
 }
 
-QJsonArray numbers(const QRectF &frame)
-{
-    return {frame.x(), frame.y(), frame.width(), frame.height()};
-}
-
 } // namespace
-
-// View ----------------------------------------------------------------------------------
-
-QWidget *KorPDEController2::mainView()
-{
-    KV_TRACE("-[KorPDEController2 mainView]");
-    if (ibPDEView)
-        return ibPDEView;
-    loadInterface();
-    headerViewRect = controls::frameRecord(ibHeaderView);
-    advancedViewRect = controls::frameRecord(ibAdvancedView);
-    if (!hasTray2Support)
-        removePaperSourceRow();
-    advancedViewRect.setHeight(advancedViewRect.height() + headerViewRect.height());
-    if (!isRunning1050OrLater) {
-        displayAdvancedOptions(true);
-        controls::setState(ibDisclosure, 1);
-        controls::setEnabled(ibDisclosure, false);
-    } else {
-        displayAdvancedOptions(false);
-    }
-    return ibPDEView;
-}
-
-void KorPDEController2::loadInterface()
-{
-    const std::vector<QWidget *> windows =
-        platform::loadInterfaceFile(bundle_, QStringLiteral("QualityAndMedia"), table());
-    for (QWidget *window : windows)
-        if (window != ibPDEView)
-            delete window;
-    showDryTime();
-    connectControls();
-}
-
-void KorPDEController2::removePaperSourceRow()
-{
-    controls::setHidden(ibPaperSourceLabel, true);
-    controls::setHidden(ibPaperSource, true);
-    headerViewRect.translate(0, -kHeaderDropWithoutTray2);
-    advancedViewRect.setHeight(advancedViewRect.height() - kPanelLossWithoutTray2);
-    controls::setFrameRecord(ibHeaderView, headerViewRect);
-}
-
-/// Part of loading the interface file, as the rest of the panel knows nothing of dry time's
-/// controls: shows the one that the printer has, with its choices in the PPD's order and the marked
-/// one selected.
-void KorPDEController2::showDryTime()
-{
-    if (const ppd_option_t *option = pdeModel_->dryTimePopUpOption()) {
-        fillPopUp(Setting::DupDryTime);
-        controls::selectItemWithTitle(ibDryTimePopUp, markedDryTime(ChoiceString::Text));
-        controls::setText(ibDryTimeLabel, ppd::optionText(option) + u':');
-        controls::setHidden(ibDryTimePopUp, false);
-        controls::setHidden(ibDryTimeLabel, false);
-    } else if (const ppd_option_t *box = pdeModel_->dryTimeCheckBoxOption()) {
-        controls::setTitle(ibDryTimeCheckBox, ppd::optionText(box));
-        const bool isOn =
-            platform::isEqual(markedDryTime(ChoiceString::Keyword), QLatin1String(kTrueFalse.on));
-        controls::setState(ibDryTimeCheckBox, isOn ? 1 : 0);
-        controls::setHidden(ibDryTimeCheckBox, false);
-    }
-}
-
-QString KorPDEController2::markedDryTime(ChoiceString flag) const
-{
-    return pdeTools->getPPDMarkedChoice(keyword(Setting::DupDryTime), mLOcPPD, flag);
-}
-
-void KorPDEController2::displayAdvancedOptions(bool show)
-{
-    KV_TRACE("-[KorPDEController2 displayAdvancedOptions:]");
-    if (show)
-        headerViewRect.moveTop(kOpenHeaderY);
-    controls::setHidden(ibAdvancedView, !show);
-    controls::setFrameSize(ibPDEView, show ? advancedViewRect.size() : headerViewRect.size());
-    // Hiding deliberately leaves the header where it is.
-    if (show)
-        controls::setFrameOrigin(ibHeaderView, headerViewRect.topLeft());
-    projectFrames(ibPDEView);
-    if (ibPDEView)
-        ibPDEView->update();
-}
-
-QJsonObject KorPDEController2::frames() const
-{
-    return {
-        {QStringLiteral("ibPDEView"), numbers(controls::frameRecord(ibPDEView))},
-        {QStringLiteral("ibHeaderView"), numbers(controls::frameRecord(ibHeaderView))},
-        {QStringLiteral("ibAdvancedView"), numbers(controls::frameRecord(ibAdvancedView))},
-    };
-}
-
-// Connections ---------------------------------------------------------------------------
-
-/// A person's input only: none of these signals comes from a change by the program.
-void KorPDEController2::connectControls()
-{
-    using Self = KorPDEController2;
-    using Action = void (Self::*)(QWidget *);
-    static constexpr struct
-    {
-        QPointer<PopUpButton> QualityOutlets::*popUp;
-        Action action;
-    } kPopUps[] = {
-        {&Self::ibPrintQuality, &Self::printQualityAction},
-        {&Self::ibPaperType, &Self::paperTypeAction},
-        {&Self::ibPaperSource, &Self::paperSourceAction},
-        {&Self::ibColorOutput, &Self::colorOutputAction},
-        {&Self::ibColorPreferences, &Self::colorPreferencesAction},
-        {&Self::ibInkToUse, &Self::inkToUseAction},
-        {&Self::ibHalftone, &Self::halftoneAction},
-        {&Self::ibSharpen, &Self::sharpenAction},
-        {&Self::ibDryTimePopUp, &Self::dryTimePopUpAction},
-    };
-    static constexpr struct
-    {
-        QPointer<QCheckBox> QualityOutlets::*box;
-        Action action;
-    } kBoxes[] = {
-        {&Self::ibMIrror, &Self::mirrorAction},
-        {&Self::ibTonerSave, &Self::tonerSaveAction},
-        {&Self::ibUseICCTestChart, &Self::ICCTestChartAction},
-        {&Self::ibDryTimeCheckBox, &Self::dryTimeCheckBoxAction},
-    };
-    const auto act = [this](QWidget *sender, Action action) {
-        return [this, sender, action] { (this->*action)(sender); };
-    };
-    for (const auto &[popUp, action] : kPopUps)
-        if (PopUpButton *control = this->*popUp)
-            connect(control, &PopUpButton::activated, this, act(control, action));
-    for (const auto &[box, action] : kBoxes)
-        if (QCheckBox *control = this->*box)
-            connect(control, &QCheckBox::clicked, this, act(control, action));
-    if (ibThresholdStepper)
-        connect(ibThresholdStepper, &Stepper::stepped, this,
-                act(ibThresholdStepper, &Self::thresholdStepperAction));
-    beDelegateOfThresholdField();
-    connectDisclosure();
-}
-
-/// A click on the triangle's label counts as one on it.
-void KorPDEController2::connectDisclosure()
-{
-    if (!ibDisclosure)
-        return;
-    connect(ibDisclosure, &QToolButton::clicked, this, [this] { disclosureAction(ibDisclosure); });
-    if (ibDisclosureLabel)
-        ibDisclosureLabel->installEventFilter(this);
-}
-
-bool KorPDEController2::eventFilter(QObject *watched, QEvent *event)
-{
-    // The type first: a widget that is being destroyed sends events, too, and is no label any more.
-    if (event->type() == QEvent::MouseButtonRelease && watched == ibDisclosureLabel &&
-        ibDisclosure && static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
-        ibDisclosure->click();
-    return QObject::eventFilter(watched, event);
-}
 
 // Labels --------------------------------------------------------------------------------
 
