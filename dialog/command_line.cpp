@@ -1,22 +1,12 @@
 #include "dialog/command_line.h"
 
 #include "dialog/replay/scenario.h"
+#include "dialog/usage.h"
 
 #include <QCommandLineParser>
 
 namespace dialog {
 namespace {
-
-QCommandLineOption valueOption(const char *name, const char *description, const char *value)
-{
-    return {QString::fromLatin1(name), QString::fromLatin1(description),
-            QString::fromLatin1(value)};
-}
-
-QCommandLineOption flagOption(const char *name, const char *description)
-{
-    return {QString::fromLatin1(name), QString::fromLatin1(description)};
-}
 
 void addCaseOptions(QCommandLineParser &parser)
 {
@@ -28,8 +18,7 @@ void addCaseOptions(QCommandLineParser &parser)
         valueOption("queue", "Print queue to send the job to.", "NAME"),
         valueOption("job-folder", "Folder for jobs that go to no queue.", "DIR"),
         flagOption("console", "Show the console lines of the panels."),
-        QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")},
-                           QStringLiteral("Show this text and leave.")),
+        helpOption(),
         flagOption("version", "Show the version and leave."),
     });
 }
@@ -41,13 +30,6 @@ void addReplayOptions(QCommandLineParser &parser)
         valueOption("pictures", "Folder for the pictures that the scenario takes.", "DIR"),
         flagOption("stable", "Write the same report for the same scenario: no job ids, no times."),
     });
-}
-
-/// Null where the option was not given.
-QString given(const QCommandLineParser &parser, const char *option)
-{
-    const QString name = QString::fromLatin1(option);
-    return parser.isSet(name) ? parser.value(name) : QString();
 }
 
 PrintCase caseOf(const QCommandLineParser &parser)
@@ -96,14 +78,16 @@ CommandLine helpLine(QCommandLineParser &parser, bool isReplay)
         parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("The scenario."));
     } else {
         parser.setApplicationDescription(QStringLiteral(
-            "Opens the print dialog. \"korvane-print replay FILE\" plays a scenario instead."));
+            "Opens the print dialog. Instead, \"korvane-print replay\" plays a scenario, "
+            "\"korvane-print log\" reads a debug log and \"korvane-print check-ppd\" tells what the "
+            "panels make of a PPD; each has a --help of its own."));
     }
     parser.addPositionalArgument(QStringLiteral("DOCUMENT"),
                                  QStringLiteral("The document to print."),
                                  QStringLiteral("[DOCUMENT]"));
     CommandLine line;
     line.command = CommandLine::Command::ShowHelp;
-    line.helpText = parser.helpText();
+    line.helpText = helpText(parser);
     return line;
 }
 

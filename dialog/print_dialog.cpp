@@ -96,6 +96,7 @@ void PrintDialog::showPanels()
 {
     if (window_)
         return;
+    host_.takeMarksAsChosen();
     loadPanels();
     makeWindow();
     restorePanels();

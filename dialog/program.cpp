@@ -1,7 +1,9 @@
 #include "dialog/program.h"
 
 #include "dialog/command_line.h"
+#include "dialog/log/log_command.h"
 #include "dialog/replay/scenario.h"
+#include "dialog/usage.h"
 #include "dialog/window/print_window.h"
 #include "platform/console.h"
 
@@ -9,31 +11,11 @@
 #include <QFile>
 #include <QSaveFile>
 
-#include <cstdio>
+#include <algorithm>
 #include <unistd.h>
 
 namespace dialog {
 namespace {
-
-constexpr int kCouldNotStart = 2;
-
-void say(std::FILE *stream, const QString &line)
-{
-    std::fputs(line.toUtf8().constData(), stream);
-    std::fputc('\n', stream);
-    std::fflush(stream);
-}
-
-void complain(const QString &message)
-{
-    say(stderr, QStringLiteral("korvane-print: ") + message);
-}
-
-int refuse(const QString &message)
-{
-    complain(message);
-    return kCouldNotStart;
-}
 
 /// Console lines would only disturb a person at a terminal.
 void setUpConsole(const PrintCase &printCase)
@@ -64,7 +46,7 @@ int runDialog(const CommandLine &line)
     const auto dialog = std::move(std::get<std::unique_ptr<PrintDialog>>(opened));
     QObject::connect(dialog.get(), &PrintDialog::left, qApp, &QCoreApplication::quit);
     QObject::connect(dialog.get(), &PrintDialog::jobMade, qApp, [](const JobRecord &job) {
-        say(stdout, job.ticketPath.isNull() ? job.id : job.ticketPath);
+        say(job.ticketPath.isNull() ? job.id : job.ticketPath);
         QCoreApplication::quit();
     });
     dialog->showPanels();
@@ -76,8 +58,7 @@ bool writeReport(const QString &path, const QByteArray &json)
     if (path.isNull())
         return true;
     if (path == QLatin1String("-"))
-        return std::fwrite(json.constData(), 1, static_cast<std::size_t>(json.size()), stdout) ==
-               static_cast<std::size_t>(json.size());
+        return writeOut(json);
     QSaveFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit();
 }
@@ -110,10 +91,10 @@ int runCommand(const CommandLine &line)
     case CommandLine::Command::Replay:
         return runReplay(line);
     case CommandLine::Command::ShowHelp:
-        say(stdout, line.helpText);
+        say(line.helpText);
         return 0;
     case CommandLine::Command::ShowVersion:
-        say(stdout, QStringLiteral("korvane-print ") + QCoreApplication::applicationVersion());
+        say(QStringLiteral("korvane-print ") + QCoreApplication::applicationVersion());
         return 0;
     case CommandLine::Command::OpenDialog:
         break;
@@ -138,11 +119,34 @@ QStringList wordsOf(int argc, char **argv)
     return words;
 }
 
+/// The commands that open no printer; each reads its own words.
+struct Command
+{
+    const char *name;
+    int (*run)(const QStringList &words);
+};
+constexpr Command kCommands[] = {
+    {"log", debuglog::runLogCommand},
+};
+
+const Command *commandOf(const QString &word)
+{
+    const auto found =
+        std::find_if(std::begin(kCommands), std::end(kCommands),
+                     [&](const Command &command) { return word == QLatin1String(command.name); });
+    return found == std::end(kCommands) ? nullptr : found;
+}
+
 } // namespace
 
 int runProgram(int argc, char **argv)
 {
-    const auto parsed = parseCommandLine(wordsOf(argc, argv));
+    QStringList words = wordsOf(argc, argv);
+    if (const Command *command = commandOf(words.value(1))) {
+        words.removeAt(1);
+        return command->run(words);
+    }
+    const auto parsed = parseCommandLine(words);
     if (const auto *error = std::get_if<UsageError>(&parsed))
         return refuse(error->message);
     const auto &line = std::get<CommandLine>(parsed);

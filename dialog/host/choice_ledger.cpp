@@ -19,7 +19,7 @@ QString markedChoice(const Choices &marks, const QString &option)
 void ChoiceLedger::recordOffer(const Choice &choice)
 {
     if (std::exchange(isFirst_, false))
-        chosen_[choice.option] = choice.choice;
+        recordChosen(choice);
 }
 
 std::vector<Difference> ChoiceLedger::differences(const Choices &marks) const

@@ -25,6 +25,8 @@ class ChoiceLedger
 public:
     void beginAction() { isFirst_ = true; }
     void recordOffer(const Choice &choice);
+    /// A choice made elsewhere: by a preset, by a job that is printed again, in another panel.
+    void recordChosen(const Choice &choice) { chosen_[choice.option] = choice.choice; }
 
     /// What a person chose last for each option.
     [[nodiscard]] const std::map<QString, QString> &chosen() const { return chosen_; }

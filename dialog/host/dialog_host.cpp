@@ -4,6 +4,7 @@
 
 #include <QScopedValueRollback>
 
+#include <algorithm>
 #include <utility>
 
 namespace dialog {
@@ -135,8 +136,19 @@ CommitResult DialogHost::commitPanels()
     return {printer_.conflicts(), ledger_.differences(printer_.marks())};
 }
 
+void DialogHost::takeMarksAsChosen()
+{
+    const Choices &defaults = printer_.defaults();
+    for (const Choice &mark : printer_.marks()) {
+        if (std::find(defaults.begin(), defaults.end(), mark) == defaults.end())
+            ledger_.recordChosen(mark);
+    }
+}
+
 void DialogHost::changeFromElsewhere(const Choice &choice)
 {
+    if (printer_.hasChoice(choice))
+        ledger_.recordChosen(choice);
     printer_.mark(choice);
     followPageSize();
     tellPanels({choice, nullptr});

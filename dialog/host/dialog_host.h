@@ -59,6 +59,9 @@ public:
 
     /// Saves every panel: marks each pair that the PPD knows, then looks at the whole once.
     CommitResult commitPanels();
+    /// Counts what is marked beside the defaults as chosen: a preset's marks, before the panels
+    /// look.
+    void takeMarksAsChosen();
     /// Marks a choice as another panel's and tells every panel the word as it stands.
     void changeFromElsewhere(const Choice &choice);
     /// Tells the panels what has been accepted since, without waiting for the event loop.

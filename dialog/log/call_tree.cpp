@@ -53,8 +53,10 @@ void CallTreeBuilder::openCall(Process &process, const Record &record)
 {
     if (process.openCalls.empty())
         process.action = {.number = ++lastNumber_, .process = record.process, .entries = {}};
-    if (process.openCalls.size() >= limits_.depth)
+    if (process.openCalls.size() >= limits_.depth) {
+        ++process.tooDeep;
         return add(process, record, Entry::Kind::Message);
+    }
     add(process, record, Entry::Kind::Call);
     process.openCalls.push_back(process.action.entries.size() - 1);
 }
@@ -64,10 +66,15 @@ void CallTreeBuilder::openCall(Process &process, const Record &record)
 void CallTreeBuilder::closeCall(Processes::iterator place, const Record &record)
 {
     Process &process = place->second;
+    if (process.tooDeep > 0) {
+        --process.tooDeep;
+        return;
+    }
     std::vector<Entry> &entries = process.action.entries;
-    const auto found = std::find_if(
-        process.openCalls.rbegin(), process.openCalls.rend(),
-        [&](std::size_t index) { return entries[index].record.operation == record.operation; });
+    const auto found =
+        std::find_if(process.openCalls.rbegin(), process.openCalls.rend(), [&](std::size_t index) {
+            return entries[index].record.operation == record.operation;
+        });
     if (found == process.openCalls.rend())
         return reportUnbalanced(&Unbalanced::endsWithoutCall, record);
     entries[*found].duration = durationBetween(entries[*found].record, record);
@@ -100,8 +107,7 @@ void CallTreeBuilder::endProcess(Processes::iterator place)
 {
     const Process process = std::move(place->second);
     processes_.erase(place);
-    for (const std::size_t index : process.openCalls)
-        reportUnbalanced(&Unbalanced::callsWithoutEnd, process.action.entries[index].record);
+    reportOpenCalls(process);
     for (const Entry &entry : process.action.entries)
         heldBytes_ -= bytesOf(entry.record);
     heldEntries_ -= process.action.entries.size();
@@ -119,16 +125,30 @@ void CallTreeBuilder::handOverParts()
     for (auto &[id, process] : held) {
         process.action.goesOn = goesOn;
         sink_(process.action);
-        if (!goesOn)
-            continue;
-        Process &next = processes_[id];
-        next.action = {.number = process.action.number, .process = id, .entries = {}};
-        for (const std::size_t index : process.openCalls) {
-            add(next, process.action.entries[index].record, Entry::Kind::Call);
-            next.action.entries.back().isContinued = true;
-            next.openCalls.push_back(next.action.entries.size() - 1);
-        }
+        if (goesOn)
+            continueWith(processes_[id], process);
+        else
+            reportOpenCalls(process);
     }
+}
+
+/// The next part of an action repeats the calls that are open.
+void CallTreeBuilder::continueWith(Process &next, const Process &process)
+{
+    next.action = {
+        .number = process.action.number, .process = process.action.process, .entries = {}};
+    next.tooDeep = process.tooDeep;
+    for (const std::size_t index : process.openCalls) {
+        add(next, process.action.entries[index].record, Entry::Kind::Call);
+        next.action.entries.back().isContinued = true;
+        next.openCalls.push_back(next.action.entries.size() - 1);
+    }
+}
+
+void CallTreeBuilder::reportOpenCalls(const Process &process)
+{
+    for (const std::size_t index : process.openCalls)
+        reportUnbalanced(&Unbalanced::callsWithoutEnd, process.action.entries[index].record);
 }
 
 void CallTreeBuilder::reportUnbalanced(qint64 Unbalanced::*count, const Record &record)

@@ -17,8 +17,9 @@ struct Entry
     Record record; ///< of a call: the one that begins it
     int depth = 0; ///< number of calls around it
     Kind kind = Kind::Message;
-    bool isContinued = false;          ///< a call that an earlier part of the action began
-    std::optional<int> duration = {};  ///< of a call, in milliseconds; nothing when its end is missing
+    bool isContinued = false; ///< a call that an earlier part of the action began
+    std::optional<int> duration =
+        {}; ///< of a call, in milliseconds; nothing when its end is missing
 };
 
 /// What belongs together: an outermost call of one process with everything in it, or a record
@@ -52,7 +53,7 @@ public:
         std::size_t entries = 50'000;
         std::size_t bytes = 32 * 1024 * 1024;
         std::size_t depth = 1'000; ///< deeper calls stand as records
-        std::size_t processes = 256;
+        std::size_t processes = 32;
     };
 
     explicit CallTreeBuilder(Sink sink) : CallTreeBuilder(std::move(sink), Limits()) {}
@@ -68,6 +69,7 @@ private:
     struct Process
     {
         std::vector<std::size_t> openCalls; ///< indices of the action's entries, outermost first
+        std::size_t tooDeep = 0;            ///< open calls beyond the limit of depth
         Action action;
     };
     using Processes = std::map<qint64, Process>;
@@ -78,6 +80,8 @@ private:
     void handOverAlone(const Record &record);
     void endProcess(Processes::iterator place);
     void handOverParts();
+    void continueWith(Process &next, const Process &process);
+    void reportOpenCalls(const Process &process);
     void reportUnbalanced(qint64 Unbalanced::*count, const Record &record);
 
     Sink sink_;

@@ -8,6 +8,7 @@ namespace {
 
 constexpr qsizetype kFewestProcessDigits = 6;
 constexpr qsizetype kMostDigits = 10;
+constexpr qsizetype kLongestOperation = 512;
 
 bool isDigit(char c)
 {
@@ -115,7 +116,9 @@ std::optional<Record> parseFirstLine(QByteArrayView line)
     if (!time || !scanner.skip("]\t"))
         return std::nullopt;
     const auto operation = scanner.upTo("\tL");
-    const auto sourceLine = operation ? readSourceLine(scanner) : std::nullopt;
+    if (!operation || operation->size() > kLongestOperation)
+        return std::nullopt;
+    const auto sourceLine = readSourceLine(scanner);
     if (!sourceLine || !scanner.skip("\t"))
         return std::nullopt;
     record.process = *process;
@@ -175,8 +178,8 @@ void RecordReader::takeLine(QByteArrayView line, LineEnd end)
     const QByteArrayView text = withoutLeadingNuls(line);
     auto record = parseFirstLine(text);
     const bool isDamaged = line.contains('\0') || end == LineEnd::Cut;
-    const bool fits = record || (hasOpen_ && mayContinue(open_) && !line.contains('\0') &&
-                                 !isTornRecord(text));
+    const bool fits =
+        record || (hasOpen_ && mayContinue(open_) && !line.contains('\0') && !isTornRecord(text));
     if (isDamaged || !fits)
         damage_.add(fileLine_);
     if (!fits)

@@ -44,8 +44,7 @@ std::optional<PathRefusal> checkBundle(const QString &literalPath, TrustedOwner 
 std::variant<std::unique_ptr<PDEPlugIn>, PlugInFailure> createPrincipal(const QString &libraryPath)
 {
     if (!isWholeLibrary(libraryPath))
-        return PlugInFailure{
-            text(Text::PlugInDamaged, {libraryPath, QStringLiteral("it is cut off")})};
+        return PlugInFailure{text(Text::PlugInDamaged, {libraryPath, text(Text::LibraryCutOff)})};
     QPluginLoader loader(libraryPath);
     loader.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
     const QString interfaceId = loader.metaData().value(QLatin1String("IID")).toString();

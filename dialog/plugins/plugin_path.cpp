@@ -1,5 +1,6 @@
 #include "dialog/plugins/plugin_path.h"
 
+#include "dialog/texts.h"
 #include "platform/values.h"
 
 #include <QFile>
@@ -57,21 +58,21 @@ QString PathRefusal::reasonText() const
 {
     switch (reason) {
     case Reason::Outside:
-        return QStringLiteral("it lies outside /Library/Printers");
+        return text(Text::RefusedOutside);
     case Reason::DotDot:
-        return QStringLiteral("the path goes through \"..\"");
+        return text(Text::RefusedDotDot);
     case Reason::Missing:
-        return QStringLiteral("it is not there");
+        return text(Text::RefusedMissing);
     case Reason::Link:
-        return QStringLiteral("it is a link");
+        return text(Text::RefusedLink);
     case Reason::Owner:
-        return QStringLiteral("it belongs to somebody else");
+        return text(Text::RefusedOwner);
     case Reason::WritableByOthers:
-        return QStringLiteral("others may write it");
+        return text(Text::RefusedWritable);
     case Reason::NotRegular:
         break;
     }
-    return QStringLiteral("it is no ordinary file or folder");
+    return text(Text::RefusedKind);
 }
 
 std::optional<PathRefusal> checkDriverPath(const QString &literalPath, PathKind kind,

@@ -225,6 +225,18 @@ TEST_F(Host, CommitSaysWhereTheJobDiffersFromWhatAPersonChose)
     EXPECT_FALSE(result.isClean());
 }
 
+TEST_F(Host, CommitSaysWhichChoicesOfAPresetOrAnotherPanelWereDropped)
+{
+    printer->mark({q("Sharpen"), q("High")});
+    host.takeMarksAsChosen();
+    host.changeFromElsewhere({q("PrintQuality"), q("Best")});
+    host.changeFromElsewhere({q("PrintQuality"), q("NoSuchChoice")});
+    front->saved = {{q("PrintQuality"), q("Normal")}, {q("Sharpen"), q("Off")}};
+    const std::vector<Difference> expected{{q("PrintQuality"), q("Best"), q("Normal")},
+                                           {q("Sharpen"), q("High"), q("Off")}};
+    EXPECT_EQ(host.commitPanels().differences, expected);
+}
+
 TEST_F(Host, CommitFindsARefusedChoiceThatThePanelDropped)
 {
     ASSERT_TRUE(offer("PrintQuality", "Draft"));

@@ -1,0 +1,129 @@
+#include "dialog/print_dialog.h"
+#include "dialog/replay/input.h"
+#include "dialog/window/print_window.h"
+#include "platform/controls/pop_up_button.h"
+#include "tests/dialog/staged_driver.h"
+#include "tests/support/print_to.h"
+
+#include <QApplication>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+using namespace dialog;
+using test::q;
+
+namespace {
+
+/// The dialog in this process, on the staged printer.
+class OpenDialog : public testing::Test
+{
+protected:
+    OpenDialog() { open({}); }
+
+    void open(const QString &document)
+    {
+        PrintCase printCase;
+        printCase.ppd = driver.writePrinter();
+        printCase.root = driver.root();
+        printCase.document = document;
+        printCase.jobFolder = driver.path(q("jobs"));
+        auto opened = PrintDialog::open(printCase);
+        ASSERT_TRUE(std::holds_alternative<std::unique_ptr<PrintDialog>>(opened));
+        dialog = std::move(std::get<std::unique_ptr<PrintDialog>>(opened));
+        dialog->showPanels();
+    }
+    void choose(const char *control, int index)
+    {
+        auto *popUp = dialog->window()->findChild<PopUpButton *>(q(control));
+        ASSERT_TRUE(popUp);
+        EXPECT_NULL(replay::input::choose(popUp, index));
+        QCoreApplication::processEvents();
+    }
+    QStringList notices() { return dialog->window()->notices().texts(); }
+
+    test::StagedDriver driver;
+    std::unique_ptr<PrintDialog> dialog;
+};
+
+TEST_F(OpenDialog, ListsThePanelsInTheirOrder)
+{
+    ASSERT_EQ(dialog->panels().size(), 2U);
+    EXPECT_TEXT(dialog->panels()[0].title, "Basics");
+    EXPECT_TEXT(dialog->panels()[1].kind, "com.example.extras");
+    EXPECT_EQ(dialog->window()->panelPopUp()->count(), 2);
+    EXPECT_EQ(dialog->frontIndex(), 0);
+    EXPECT_TRUE(notices().isEmpty());
+}
+
+TEST_F(OpenDialog, ARefusalStandsUntilAPersonTriesSomethingElse)
+{
+    choose("ibQuality", 0);
+    choose("ibMedia", 1);
+    ASSERT_EQ(notices().size(), 1);
+    EXPECT_TEXT(notices().first(), "“Paper Type: Iron-On Transfer” cannot be used together with "
+                                   "“Print Quality: Quick”.");
+    choose("ibQuality", 2);
+    EXPECT_TRUE(notices().isEmpty());
+}
+
+TEST_F(OpenDialog, TheReviewNamesConflictsAndDroppedChoices)
+{
+    choose("ibQuality", 0);
+    choose("ibMedia", 1);
+    dialog->host().changeFromElsewhere({q("DupDryTime"), q("Long")});
+    dialog->printer().mark({q("DupDryTime"), q("Automatic")});
+    QSignalSpy made(dialog.get(), &PrintDialog::jobMade);
+    dialog->print(PrintDialog::Review::Ask);
+    EXPECT_EQ(made.count(), 0);
+    const QString review = notices().last();
+    EXPECT_TRUE(review.contains(q("“Paper Type: Iron-On Transfer” and “Print Quality: Quick”")))
+        << review.toStdString();
+    EXPECT_TRUE(review.contains(q("Dry Time: you chose “Long Time”, the job has “Auto Time”")))
+        << review.toStdString();
+    dialog->print(PrintDialog::Review::Skip);
+    EXPECT_EQ(made.count(), 1);
+}
+
+TEST_F(OpenDialog, ADocumentThatVanishedIsToldAndNothingIsWritten)
+{
+    const QString document = driver.write(q("a.pdf"), "%PDF");
+    open(document);
+    ASSERT_TRUE(QFile::remove(document));
+    QSignalSpy failed(dialog.get(), &PrintDialog::jobFailed);
+    dialog->print(PrintDialog::Review::Ask);
+    EXPECT_EQ(failed.count(), 1);
+    EXPECT_TRUE(notices().last().contains(q("There is no document")));
+    EXPECT_FALSE(QFileInfo::exists(driver.path(q("jobs"))));
+}
+
+TEST_F(OpenDialog, AFolderThatCannotBeWrittenIsToldAndPrintCanBePressedAgain)
+{
+    const QString inTheWay = driver.write(q("jobs"), "a file");
+    dialog->print(PrintDialog::Review::Ask);
+    ASSERT_EQ(notices().size(), 1);
+    EXPECT_TRUE(notices().first().contains(inTheWay)) << notices().first().toStdString();
+    ASSERT_TRUE(QFile::remove(inTheWay));
+    QSignalSpy made(dialog.get(), &PrintDialog::jobMade);
+    dialog->print(PrintDialog::Review::Ask);
+    EXPECT_EQ(made.count(), 1);
+}
+
+TEST_F(OpenDialog, PanelsOutliveAViewThatTheWindowDestroyed)
+{
+    delete dialog->window()->view(0);
+    choose("panelPopUp", 1);
+    choose("panelPopUp", 0);
+    EXPECT_TRUE(dialog->commit().conflicts.empty());
+}
+
+TEST_F(OpenDialog, CanBeOpenedAgainAfterItIsGone)
+{
+    const std::weak_ptr<PDEPanel> panel = dialog->panels()[0].panel;
+    dialog.reset();
+    EXPECT_TRUE(panel.expired()) << "the panels die with the dialog, before its PPD";
+    open({});
+    EXPECT_EQ(dialog->panels().size(), 2U);
+}
+
+} // namespace
