@@ -151,7 +151,6 @@ private:
 
     // Set-up.
     void reportUnusualPPD() const;
-    void reportUnusualLabels() const;
     void setDryTimeOption(ppd_file_t *ppd);
     void resetDryTime();
     [[nodiscard]] QStringList supportedDryTime() const;

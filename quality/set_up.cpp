@@ -2,6 +2,7 @@
 
 #include "diag/trace.h"
 #include "model/ppd_records.h"
+#include "platform/controls/modal_session.h"
 #include "platform/notification_center.h"
 #include "platform/strings.h"
 #include "quality/kor_pde_controller.h"
@@ -11,6 +12,22 @@ namespace {
 /// First system version whose host asks about choices and checks the PPD's constraints itself.
 constexpr int kFirstVersionThatAsks = 0x1050;
 constexpr quint16 kUnknownYear = 65535;
+
+/// Destroys the view. While a modal window runs, one of the view's own events may be under way
+/// further out, as where a pick opened a conflict window: then after the last session.
+void discard(QWidget *view)
+{
+    if (!view || platform::modalDepth() == 0) {
+        delete view;
+        return;
+    }
+    using platform::ModalSessions;
+    view->hide();
+    QObject::connect(&ModalSessions::shared(), &ModalSessions::closed, view, [view] {
+        if (platform::modalDepth() == 0)
+            view->deleteLater();
+    });
+}
 
 } // namespace
 
@@ -44,7 +61,7 @@ KorPDEController2::~KorPDEController2()
     pdeTools.reset();
     conflictController.reset();
     platform::NotificationCenter::defaultCenter().removeObserver(this);
-    delete ibPDEView.data();
+    discard(ibPDEView);
 }
 
 // The host ------------------------------------------------------------------------------

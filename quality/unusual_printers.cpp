@@ -30,6 +30,28 @@ void report(const std::optional<UnusualChoice> &unusual)
                      qUtf8Printable(platform::described(unusual->choice)));
 }
 
+/// The first choice of a setting that its rules do not expect. Mirror's and toner save's "Off" and
+/// halftone's "Dither" are compared as labels, too.
+std::optional<UnusualChoice> unusualChoice(Setting setting, const ChoiceList &choices,
+                                           const QString &grayscale)
+{
+    const QString option = keyword(setting);
+    const QString label = defaultChoice(setting);
+    switch (setting) {
+    case Setting::InkToUse:
+        return unusualInk(choices);
+    case Setting::ColorOutput:
+        return unusualColorOutput(choices, grayscale);
+    case Setting::HalftoneLevel:
+        return unusualLabel(option, label, label, choices);
+    case Setting::ICCTestChartProcess:
+        return unusualSwitch(option, choices);
+    default:
+        const auto unusual = unusualSwitch(option, choices);
+        return unusual ? unusual : unusualLabel(option, label, label, choices);
+    }
+}
+
 } // namespace
 
 /// One error record for each option whose absence or choices the rules do not expect. The rules
@@ -39,23 +61,8 @@ void KorPDEController2::reportUnusualPPD() const
     for (const RowPlan &plan : requiredRowsPlan(optionsOfPrinter()))
         if (plan.fate == RowFate::Hidden)
             reportMissing(plan.row);
-    for (const Setting setting :
-         {Setting::Mirror, Setting::TonerSave, Setting::ICCTestChartProcess})
+    for (const Setting setting : {Setting::Mirror, Setting::TonerSave, Setting::ICCTestChartProcess,
+                                  Setting::InkToUse, Setting::ColorOutput, Setting::HalftoneLevel})
         if (hasOption(setting))
-            report(unusualSwitch(keyword(setting), choicesOf(optionOf(setting))));
-    if (hasOption(Setting::InkToUse))
-        report(unusualInk(choicesOf(optionOf(Setting::InkToUse))));
-    if (hasOption(Setting::ColorOutput))
-        report(unusualColorOutput(choicesOf(optionOf(Setting::ColorOutput)), hostGrayscale()));
-    reportUnusualLabels();
-}
-
-/// Labels that are compared with a fixed word: mirror's and toner save's "Off", halftone's
-/// "Dither".
-void KorPDEController2::reportUnusualLabels() const
-{
-    for (const Setting setting : {Setting::Mirror, Setting::TonerSave, Setting::HalftoneLevel})
-        if (hasOption(setting))
-            report(unusualLabel(keyword(setting), defaultChoice(setting), defaultChoice(setting),
-                                choicesOf(optionOf(setting))));
+            report(unusualChoice(setting, choicesOf(optionOf(setting)), hostGrayscale()));
 }

@@ -1,6 +1,7 @@
 #include "tests/quality/panel.h"
 
 #include "platform/controls/controls.h"
+#include "platform/controls/modal_session.h"
 #include "platform/notification_center.h"
 #include "quality/settings_table.h"
 #include "quality/text_field_editing.h"
@@ -8,6 +9,7 @@
 #include "tests/support/user.h"
 
 #include <QTest>
+#include <QTimer>
 #include <QWheelEvent>
 
 #include <gmock/gmock.h>
@@ -1005,4 +1007,28 @@ TEST(Actions, ActionsLiveOnAfterTheHostDestroyedTheView)
     panel.controller().printQualityAction(nullptr);
     EXPECT_PAIR(panel, PrintQuality, "∅/∅");
     EXPECT_EQ(texts(panel.host.offers), QStringList({q("PrintQuality=∅")}));
+}
+
+TEST(Actions, APanelMayGoWhileAConflictWindowIsOpen)
+{
+    QualityPanel panel(p1(), {.version = 0x1049});
+    panel.life();
+    const QPointer<QWidget> view = panel.controls().ibPDEView.data();
+    const QPointer<QComboBox> popUp = panel.controls().ibPaperType.data();
+    panel.model().setPrintQualityTicket(q("Draft"));
+    int windows = 0;
+    QObject watcher;
+    QObject::connect(&platform::ModalSessions::shared(), &platform::ModalSessions::opened, &watcher,
+                     [&] {
+                         ++windows;
+                         QTimer::singleShot(0, &watcher, [&] {
+                             panel.destroy();
+                             platform::stopAllModalSessions();
+                         });
+                     });
+    panel.choose(popUp, kIronOn);
+    EXPECT_EQ(windows, 1);
+    ASSERT_TRUE(view) << "the pick's own event was still under way";
+    QCoreApplication::sendPostedEvents(view, QEvent::DeferredDelete);
+    EXPECT_FALSE(view);
 }

@@ -29,6 +29,7 @@ public:
 
     /// Makes the controller; done by the first use of it, so that the PPD can be marked before.
     void create();
+    void destroy() { controller_.reset(); }
     [[nodiscard]] KorPDEController2 &controller();
     [[nodiscard]] QualityOutlets &controls();
     [[nodiscard]] PDEModel2 &model();
