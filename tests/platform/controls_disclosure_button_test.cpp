@@ -17,6 +17,7 @@ protected:
         button->resize(button->sizeHint());
         window.show();
         window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
         window.setFocus();
     }
 
@@ -59,7 +60,7 @@ TEST_F(Disclosure, ATriangleHasNoFrameInEitherState)
 TEST_F(Disclosure, ATriangleIsWorkedByKeysAndShowsThatItHasTheFocus)
 {
     const QImage before = picture();
-    button->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&window, Qt::Key_Tab);
     ASSERT_TRUE(button->hasFocus());
     EXPECT_NE(picture(), before);
     QTest::keyClick(button, Qt::Key_Space);
