@@ -17,11 +17,21 @@
 namespace dialog {
 namespace {
 
+/// A line feed at the end of a console line belongs to it.
+void writeConsoleLine(const QString &line)
+{
+    const QString text = line.endsWith(u'\n') ? line.chopped(1) : line;
+    std::fprintf(stderr, "%s\n", text.toUtf8().constData());
+}
+
 /// Console lines would only disturb a person at a terminal.
 void setUpConsole(const PrintCase &printCase)
 {
-    if (!printCase.showsConsole && isatty(STDERR_FILENO))
+    const bool isSilent = !printCase.showsConsole && isatty(STDERR_FILENO);
+    if (isSilent)
         platform::setConsoleSink([](const QString &) {});
+    else
+        platform::setConsoleSink(writeConsoleLine);
 }
 
 QtMessageHandler &formerMessageHandler()

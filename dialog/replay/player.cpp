@@ -103,11 +103,46 @@ QString stepBy(QWidget *control, input::Turn turn)
     return button->isEnabled() ? input::click(button) : QStringLiteral("it goes no further");
 }
 
+QString turnWheel(QWidget *control, input::Turn turn)
+{
+    input::wheel(control, turn);
+    return {};
+}
+
 QString enterText(QWidget *control, const QString &text,
                   QString (*enter)(QLineEdit *, const QString &))
 {
     auto *field = qobject_cast<QLineEdit *>(control);
     return field ? enter(field, text) : notOfKind("text field");
+}
+
+QString actOn(QWidget *control, const Step &step)
+{
+    const QString &word = step.arguments.last();
+    if (!control->isVisible())
+        return QStringLiteral("it is hidden");
+    if (!control->isEnabled())
+        return QStringLiteral("it is disabled");
+    switch (step.kind) {
+    case StepKind::Choose:
+        return chooseItem(control, word);
+    case StepKind::Tick:
+        return clickTo(control, 1);
+    case StepKind::Untick:
+        return clickTo(control, 0);
+    case StepKind::Row:
+        return clickRow(control, word.toInt());
+    case StepKind::StepBy:
+        return stepBy(control, turnOf(word));
+    case StepKind::Type:
+        return enterText(control, word, input::type);
+    case StepKind::Paste:
+        return enterText(control, word, input::paste);
+    case StepKind::Wheel:
+        return turnWheel(control, turnOf(word));
+    default:
+        return input::click(control);
+    }
 }
 
 } // namespace
@@ -358,42 +393,14 @@ QString Player::close(const QString &window)
 QString Player::runOnControl(const Step &step)
 {
     const QString &name = step.arguments.first();
-    const QString &word = step.arguments.last();
-    const std::vector<QWidget *> candidates = reachableControls();
-    const auto found =
-        std::find_if(candidates.begin(), candidates.end(),
-                     [&](const QWidget *widget) { return widget->objectName() == name; });
-    if (found == candidates.end())
-        return noSuchName(QStringLiteral("control"), name, namesOf(candidates));
-    QWidget *control = *found;
-    const auto about = [&](const QString &problem) {
-        return problem.isNull() ? QString() : name + QStringLiteral(": ") + problem;
-    };
-    if (!control->isVisible())
-        return about(QStringLiteral("it is hidden"));
-    if (!control->isEnabled())
-        return about(QStringLiteral("it is disabled"));
-    switch (step.kind) {
-    case StepKind::Choose:
-        return about(chooseItem(control, word));
-    case StepKind::Tick:
-        return about(clickTo(control, 1));
-    case StepKind::Untick:
-        return about(clickTo(control, 0));
-    case StepKind::Row:
-        return about(clickRow(control, word.toInt()));
-    case StepKind::StepBy:
-        return about(stepBy(control, turnOf(word)));
-    case StepKind::Type:
-        return about(enterText(control, word, input::type));
-    case StepKind::Paste:
-        return about(enterText(control, word, input::paste));
-    case StepKind::Wheel:
-        input::wheel(control, turnOf(word));
-        return {};
-    default:
-        return about(input::click(control));
-    }
+    const std::vector<QWidget *> reachable = reachableControls();
+    const auto found = std::find_if(reachable.begin(), reachable.end(), [&](const QWidget *widget) {
+        return widget->objectName() == name;
+    });
+    if (found == reachable.end())
+        return noSuchName(QStringLiteral("control"), name, namesOf(reachable));
+    const QString problem = actOn(*found, step);
+    return problem.isNull() ? QString() : name + QStringLiteral(": ") + problem;
 }
 
 QString Player::takePicture(const QString &name)

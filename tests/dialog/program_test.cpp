@@ -474,6 +474,13 @@ TEST_F(Program, AJobForAServerThatIsNotThereKeepsTheDialogOpen)
         << run.errors.constData();
 }
 
+TEST_F(Program, ShowsConsoleLinesWhereNoTerminalIsDisturbed)
+{
+    const QStringList flag{q("--console")};
+    for (const QStringList &more : {QStringList(), flag})
+        EXPECT_TRUE(replay("show Extras\n", more).errors.contains("\nExtras will show\n"));
+}
+
 TEST_F(Program, SpeaksTheFirstPreferredLanguage)
 {
     driver.write(q("sheet.pdf"), "%PDF-1.4");
