@@ -47,6 +47,11 @@ struct BadLine
     const char *error;
 };
 
+void PrintTo(const BadLine &bad, std::ostream *out)
+{
+    *out << bad.error;
+}
+
 class ScenarioErrors : public testing::TestWithParam<BadLine>
 {
 };

@@ -17,6 +17,11 @@ struct LineCase
     QStringList words;
 };
 
+void PrintTo(const LineCase &lineCase, std::ostream *out)
+{
+    *out << '"' << lineCase.line << '"';
+}
+
 class Words : public testing::TestWithParam<LineCase>
 {
 };
