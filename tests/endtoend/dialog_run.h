@@ -1,0 +1,70 @@
+#pragma once
+
+#include "dialog/print_dialog.h"
+
+#include <QJsonObject>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <memory>
+#include <optional>
+
+class QComboBox;
+
+namespace test {
+
+/// A sample printer of the staged driver root.
+[[nodiscard]] QString samplePpd(const char *fileName);
+[[nodiscard]] QString sampleDocument();
+[[nodiscard]] QByteArray bytesOf(const QString &path);
+
+/// What the dialog said of a job that it made.
+struct PrintedJob
+{
+    int id = 0; ///< at the print server; 0 for a job folder
+    dialog::JobOptions options;
+    QJsonObject ticket;
+};
+
+/// What the panels offered, in order, with the dialog's answers.
+struct AnsweredOffer
+{
+    dialog::Choice offered;
+    bool accepted = false;
+
+    bool operator==(const AnsweredOffer &) const = default;
+};
+
+/// The print dialog with the real panels of the staged driver root, used as a person uses it: the
+/// controls of the Quality & Media panel get events as from the window system.
+class DialogRun
+{
+public:
+    /// The case's root, document and job folder are filled in. Fails the test when the dialog does
+    /// not open.
+    explicit DialogRun(dialog::PrintCase printCase);
+    ~DialogRun();
+
+    [[nodiscard]] dialog::PrintDialog &dialog() const { return *dialog_; }
+    /// Marks choices as a preset does, before the panels restore their values.
+    void preset(const dialog::Choices &choices);
+    void showPanels();
+    /// The options that choose() knows.
+    [[nodiscard]] static QStringList options();
+    /// Picks the choice's item in the option's pop-up.
+    void choose(const dialog::Choice &choice);
+    [[nodiscard]] QComboBox *popUp(const QString &option) const;
+    /// Keyword of the item that the option's pop-up shows.
+    [[nodiscard]] QString shown(const QString &option) const;
+    [[nodiscard]] const std::vector<AnsweredOffer> &offers() const { return offers_; }
+
+    /// Saves the panels' values and prints; nothing, with a failure, when no job comes of it.
+    [[nodiscard]] std::optional<PrintedJob> print();
+
+private:
+    QTemporaryDir jobs_;
+    std::unique_ptr<dialog::PrintDialog> dialog_;
+    std::vector<AnsweredOffer> offers_;
+};
+
+} // namespace test
