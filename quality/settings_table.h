@@ -8,6 +8,7 @@
 
 #include <array>
 #include <optional>
+#include <string_view>
 
 /// The thirteen settings of the panel as one table: everything that is regular about them stands
 /// here, and every irregularity is either a cell or a function that its column names.
@@ -123,6 +124,15 @@ static_assert(
         return true;
     }(),
     "the table's rows stand in the order of the settings");
+static_assert(
+    [] {
+        for (const SettingRow &a : kSettings)
+            for (const SettingRow &b : kSettings)
+                if (a.setting != b.setting && std::string_view(a.keyword) == b.keyword)
+                    return false;
+        return true;
+    }(),
+    "no two settings share a keyword");
 
 [[nodiscard]] constexpr const SettingRow &row(Setting setting)
 {
