@@ -80,7 +80,9 @@ void projectFrames(FrameView *panel)
     panel->layout()->invalidate();
     panel->layout()->activate();
     panel->updateGeometry();
-    panel->resize(panel->sizeHint().expandedTo(panel->minimumSize()));
+    // Never narrower: the host's layout would widen it again.
+    const QSize needed = panel->sizeHint().expandedTo(panel->minimumSize());
+    panel->resize(std::max(needed.width(), panel->width()), needed.height());
 }
 
 } // namespace quality
