@@ -6,12 +6,6 @@ using diag::formatted;
 
 namespace {
 
-bool isDumpOn()
-{
-    setupDebug();
-    return (logDebugLevel & diag::kDumpLevel) != 0;
-}
-
 std::string hexDigits(const unsigned char *bytes, std::size_t count)
 {
     constexpr char digits[] = "0123456789ABCDEF";
@@ -29,7 +23,7 @@ std::string hexDigits(const unsigned char *bytes, std::size_t count)
 void dumpBytesBody(const char *operation, int line, const char *label, const void *bytes,
                    std::size_t count)
 {
-    if (!isDumpOn())
+    if (!diag::isLevelOn(diag::kDumpLevel))
         return;
     if (!bytes && count > 0)
         LogErrorBody("dumpBytesBody", 216, "ERR cstr ERR");
@@ -41,13 +35,13 @@ void dumpBytesBody(const char *operation, int line, const char *label, const voi
 
 void dumpDataBody(const char *operation, int line, const char *label, const QByteArray &data)
 {
-    if (isDumpOn())
+    if (diag::isLevelOn(diag::kDumpLevel))
         dumpBytesBody(operation, line, label, data.constData(), std::size_t(data.size()));
 }
 
 void dumpDictBody(const char *operation, int line, const char *label, const QVariant &list)
 {
-    if (!isDumpOn())
+    if (!diag::isLevelOn(diag::kDumpLevel))
         return;
     const QByteArray xml = platform::propertyListXml(list);
     if (xml.isNull())

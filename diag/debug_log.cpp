@@ -2,6 +2,8 @@
 
 #include "diag/formatted.h"
 
+#include <string>
+#include <string_view>
 #include <utility>
 
 #include <unistd.h>
@@ -19,12 +21,6 @@ using diag::formatted;
 using diag::formattedList;
 
 namespace {
-
-bool isLevelOn(diag::LogLevel level)
-{
-    setupDebug();
-    return (logDebugLevel & level) != 0;
-}
 
 std::string plainRecord(const char *operation, int line, char kind, const char *message)
 {
@@ -78,7 +74,7 @@ void closeLogFile()
 
 void LogInfoBody(const char *operation, int line, const char *format, ...)
 {
-    if (!isLevelOn(diag::kInfoLevel))
+    if (!diag::isLevelOn(diag::kInfoLevel))
         return;
     std::va_list arguments;
     va_start(arguments, format);
@@ -88,7 +84,7 @@ void LogInfoBody(const char *operation, int line, const char *format, ...)
 
 void LogErrorBody(const char *operation, int line, const char *format, ...)
 {
-    if (!isLevelOn(diag::kErrorLevel))
+    if (!diag::isLevelOn(diag::kErrorLevel))
         return;
     std::va_list arguments;
     va_start(arguments, format);
@@ -99,7 +95,7 @@ void LogErrorBody(const char *operation, int line, const char *format, ...)
 void LogFileAccessBody(const char *, int, const char *path)
 {
     constexpr const char *operation = "LogFileAccessBody";
-    if (!isLevelOn(diag::kInfoLevel))
+    if (!diag::isLevelOn(diag::kInfoLevel))
         return;
     if (::access(path, F_OK) != 0)
         LogErrorBody(operation, 165, "%s\n\t!exist", path);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QVariant>
 
 #include <chrono>
@@ -33,13 +34,25 @@ extern std::uint32_t logSocketFileSize;
 extern std::FILE *gFileStream;
 #pragma GCC visibility pop
 
+/// Reads the debug list and opens the log; runs once per process.
+void setupDebug();
+
 namespace diag {
 
 enum LogLevel : std::int32_t { kInfoLevel = 1, kErrorLevel = 2, kDumpLevel = 4 };
 
-/// True when info records are written; sets the log up at the first call of the process. Two tests
-/// when the log is off.
-[[nodiscard]] inline bool isInfoEnabled();
+/// True when records of that level are written; sets the log up at the first call of the process.
+/// Two tests when the level is off.
+[[nodiscard]] inline bool isLevelOn(LogLevel level)
+{
+    if (!logDoneSetup) [[unlikely]]
+        setupDebug();
+    return (logDebugLevel & level) != 0;
+}
+[[nodiscard]] inline bool isInfoEnabled()
+{
+    return isLevelOn(kInfoLevel);
+}
 /// True when records go to a debug viewer's socket instead of the file.
 [[nodiscard]] bool isSocketMode();
 
@@ -55,16 +68,6 @@ void closeTraceStream();
 void resetDebugLog();
 
 } // namespace diag
-
-/// Reads the debug list and opens the log; runs once per process.
-void setupDebug();
-
-inline bool diag::isInfoEnabled()
-{
-    if (!logDoneSetup) [[unlikely]]
-        setupDebug();
-    return (logDebugLevel & kInfoLevel) != 0;
-}
 
 // A record of kind I, E or D, when its level is on. The format is printf's; messages have any
 // length.
@@ -86,8 +89,9 @@ void logNote(const char *format, ...) __attribute__((format(printf, 1, 2)));
 /// Writes the end records and closes socket and file. Level and once-flag stay as they are.
 void closeDebugSession();
 
-/// Builds a record and sends it.
+/// Builds a record and sends it, whatever the level.
 void LogFormatAndSend(const char *operation, int line, char kind, const char *message);
+/// Writes to the socket; without one, up to the first NUL to the file, if it is open.
 void sendToDebugApp(const char *buffer, std::size_t length);
 
 /// Opens the separate trace writer's stream for appending; standard error without a path or when it

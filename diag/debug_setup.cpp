@@ -1,5 +1,4 @@
 #include "diag/debug_log.h"
-#include "diag/formatted.h"
 #include "diag/guarded_file.h"
 #include "platform/property_list.h"
 #include "platform/strings.h"
@@ -11,7 +10,10 @@
 #include <cerrno>
 #include <cstring>
 #include <limits>
+#include <optional>
+#include <string>
 #include <thread>
+#include <utility>
 
 #include <unistd.h>
 

@@ -11,6 +11,7 @@
 
 #include <cstring>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -411,6 +412,26 @@ TEST(DebugLog, ALogFileThatIsAFifoDoesNotBlock)
     EXPECT_EQ(logDebugLevel, 0);
 }
 
+TEST(DebugLog, ALogFileThatIsAFifoIsRefusedAlsoWhenSomebodyReadsIt)
+{
+    const DebugLog log;
+    const QByteArray path = QFile::encodeName(log.logPath());
+    ASSERT_EQ(::mkfifo(path.constData(), 0600), 0);
+    const int reader = ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    log.writeEntry(entry(1, 1));
+    EXPECT_EQ(stderrOfOneRecord(), tmpLine(log) + pathLine(log, "x.log") + errorLine(EACCES));
+    ::close(reader);
+    EXPECT_EQ(permissionsOf(log.logPath()), 0600u);
+}
+
+TEST(DebugLog, ALogFileThatIsAFolderIsRefused)
+{
+    const DebugLog log;
+    ASSERT_TRUE(QDir().mkpath(log.logPath()));
+    log.writeEntry(entry(1, 1));
+    EXPECT_EQ(stderrOfOneRecord(), tmpLine(log) + pathLine(log, "x.log") + errorLine(EISDIR));
+}
+
 TEST(DebugLog, ALogFileOfAnotherUserIsRefused)
 {
     if (::geteuid() != 0)
@@ -426,13 +447,16 @@ TEST(DebugLog, ALogFileOfAnotherUserIsRefused)
     EXPECT_EQ(permissionsOf(log.logPath()), 0644u);
 }
 
+/// A way of that length to stay in a folder.
+QString detour(qsizetype length)
+{
+    return q("./").repeated(length / 2) + (length % 2 == 1 ? q("/") : QString());
+}
+
 /// A log file name that makes the whole path that long.
 QString nameForPathOfLength(const DebugLog &log, qsizetype length)
 {
-    QString name;
-    for (qsizetype rest = length - log.directory().size() - 1; rest > 0; rest -= 2)
-        name += rest == 1 ? q("x") : rest == 2 ? q("xx") : q("./");
-    return name;
+    return detour(length - log.logPath().size()) + q("x.log");
 }
 
 TEST(DebugLog, APathOf511BytesIsOpened)
@@ -452,6 +476,53 @@ TEST(DebugLog, APathThatDoesNotFit512BytesIsShownCutAndNotOpened)
     expectOff(log, stderrOfOneRecord(),
               tmpLine(log) + pathLine(log, name.chopped(1).toLatin1()) + errorLine(ENAMETOOLONG));
 }
+
+class LongTemporaryDirectory : public testing::TestWithParam<qsizetype>
+{
+protected:
+    /// Set-up with a temporary directory that makes the path of the debug list that long.
+    void setUp()
+    {
+        log.writeEntry(entry(1, 1));
+        const QString suffix = q("//Debug/.DebugPlist/kvDebug.plist");
+        const QString start = log.directory() + q("/");
+        folder = start + detour(GetParam() - start.size() - suffix.size());
+        qputenv("TMPDIR", folder.toUtf8());
+        text = stderrOfOneRecord();
+        listPath = (folder + suffix).toUtf8();
+    }
+
+    const DebugLog log;
+    QString folder;
+    QByteArray listPath;
+    QByteArray text;
+};
+
+class TemporaryDirectoryThatFits : public LongTemporaryDirectory
+{
+};
+class TemporaryDirectoryThatDoesNotFit : public LongTemporaryDirectory
+{
+};
+
+TEST_P(TemporaryDirectoryThatFits, LeavesTheListReadable)
+{
+    setUp();
+    ASSERT_EQ(listPath.size(), GetParam());
+    EXPECT_TRUE(text.startsWith("tmp at " + listPath + " \ndebugFilePath ")) << text.toStdString();
+    EXPECT_EQ(logDebugLevel, 1);
+}
+INSTANTIATE_TEST_SUITE_P(Lengths, TemporaryDirectoryThatFits, testing::Values(510, 511));
+
+TEST_P(TemporaryDirectoryThatDoesNotFit, IsShownCutAndTheListNotRead)
+{
+    setUp();
+    ASSERT_EQ(listPath.size(), GetParam());
+    EXPECT_EQ(text, "tmp at " + listPath.left(511) + " \n");
+    EXPECT_EQ(logDebugLevel, 0);
+}
+INSTANTIATE_TEST_SUITE_P(Lengths, TemporaryDirectoryThatDoesNotFit,
+                         testing::Values(512, 513, 2000));
 
 TEST(DebugLog, TheListIsReadOnceInAProcess)
 {
