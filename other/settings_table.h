@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/settings.h"
+#include "model/setting_slots.h"
 #include "other/outlets.h"
 
 #include <QJsonObject>
@@ -30,26 +30,18 @@ struct SettingRow
     const char *defaultChoice; ///< fixed, whatever the PPD's own default is
 };
 
-#define KV_SLOTS(value, Value)                                                                     \
-    SettingSlots                                                                                   \
-    {                                                                                              \
-        &PDEModel2::value##Option, &PDEModel2::set##Value##Option, &PDEModel2::value,              \
-            &PDEModel2::set##Value, &PDEModel2::value##Ticket, &PDEModel2::set##Value##Ticket      \
-    }
-
 // clang-format off
 inline constexpr std::array<SettingRow, 4> kSettings{{
-    {Setting::ReduceGhosting, "ReduceGhosting", KV_SLOTS(reduceGhosting, ReduceGhosting),
+    {Setting::ReduceGhosting, "ReduceGhosting", settings::reduceGhosting,
      &OtherOutlets::ibReduceGhosting, Start::OnWhenOff, "Off"},
-    {Setting::PrintDensity, "PrintDensity", KV_SLOTS(printDensity, PrintDensity),
+    {Setting::PrintDensity, "PrintDensity", settings::printDensity,
      &OtherOutlets::ibImprovePrintDensity, Start::OnUnlessOff, "Off"},
-    {Setting::ImprovementSettings, "ImprovementSettings", KV_SLOTS(improvementSettings, ImprovementSettings),
+    {Setting::ImprovementSettings, "ImprovementSettings", settings::improvementSettings,
      &OtherOutlets::ibImprovementSettings, Start::OnUnlessOff, "Off"},
-    {Setting::ImprovePrintQuality, "ImprovePrintQuality", KV_SLOTS(improvePrintQuality, ImprovePrintQuality),
+    {Setting::ImprovePrintQuality, "ImprovePrintQuality", settings::improvePrintQuality,
      nullptr, Start::Matrix, "ReducePaperCurl"},
 }};
 // clang-format on
-#undef KV_SLOTS
 
 /// The rows of the matrix: the choice of each and the name under which the log mentions it.
 struct ImprovementRow

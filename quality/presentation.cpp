@@ -57,19 +57,6 @@ constexpr Setting kSummary[] = {
 };
 // clang-format on
 
-/// Entries with a null part are left out; a title that is there already gets the later value.
-void addEntry(SummaryInfo &info, const QString &title, const QString &value)
-{
-    if (title.isNull() || value.isNull())
-        return;
-    const auto same = std::find_if(info.begin(), info.end(),
-                                   [&](const auto &entry) { return entry.first == title; });
-    if (same != info.end())
-        same->second = value;
-    else
-        info.emplace_back(title, value);
-}
-
 QString bookName(const QVariantMap &information)
 {
     const QVariant name = information.value(QStringLiteral("CFBundleHelpBookName"));
@@ -156,8 +143,8 @@ SummaryInfo KorPDEController2::infoForSummaryPanel()
         if (setting == Setting::DupDryTime)
             addDryTime(info);
         else
-            addEntry(info, ppd::optionText(optionOf(setting)),
-                     setting == Setting::Mirror ? textOfMirrorTicket() : valueOf(setting));
+            setSummaryEntry(info, ppd::optionText(optionOf(setting)),
+                            setting == Setting::Mirror ? textOfMirrorTicket() : valueOf(setting));
     }
     return info;
 }
@@ -172,8 +159,9 @@ void KorPDEController2::addDryTime(SummaryInfo &info) const
 {
     if (mProductYear >= kFirstYearWithoutDryTime)
         return;
-    addEntry(info, ppd::optionText(pdeModel_->dryTimePopUpOption()), pdeModel_->dryTime());
-    addEntry(info, ppd::optionText(pdeModel_->dryTimeCheckBoxOption()), pdeModel_->dryTime());
+    setSummaryEntry(info, ppd::optionText(pdeModel_->dryTimePopUpOption()), pdeModel_->dryTime());
+    setSummaryEntry(info, ppd::optionText(pdeModel_->dryTimeCheckBoxOption()),
+                    pdeModel_->dryTime());
 }
 
 // Help ----------------------------------------------------------------------------------

@@ -1,6 +1,6 @@
 #include "quality/settings_table.h"
 
-#include "platform/strings.h"
+#include "model/setting_json.h"
 
 namespace quality {
 namespace {
@@ -13,39 +13,31 @@ constexpr const char *kValueNames[] = {
 };
 static_assert(std::size(kValueNames) == kSettingCount);
 
-QJsonValue jsonText(const QString &text)
+/// Dry time has two options instead of one.
+QJsonObject dryTimeJson(const PDEModel2 &model)
 {
-    return text.isNull() ? QJsonValue() : QJsonValue(text);
-}
-
-QJsonObject describeOption(const PDEModel2 &model, const SettingRow &row)
-{
-    const bool hasOption = (model.*row.slots.option)() != nullptr;
-    if (row.setting != Setting::DupDryTime)
-        return {{QStringLiteral("option"), hasOption}};
-    return {{QStringLiteral("popUpOption"), hasOption},
-            {QStringLiteral("checkBoxOption"), model.dryTimeCheckBoxOption() != nullptr}};
+    QJsonObject entry = settingJson(model, settings::dryTimePopUp);
+    entry.insert(QStringLiteral("popUpOption"), entry.take(QStringLiteral("option")));
+    entry.insert(QStringLiteral("checkBoxOption"), model.dryTimeCheckBoxOption() != nullptr);
+    return entry;
 }
 
 } // namespace
 
 std::optional<Setting> settingOf(const QString &keyword)
 {
-    for (const SettingRow &row : kSettings)
-        if (platform::isEqual(keyword, QString::fromLatin1(row.keyword)))
-            return row.setting;
-    return std::nullopt;
+    const SettingRow *row = rowOfKeyword(kSettings, keyword);
+    return row ? std::optional(row->setting) : std::nullopt;
 }
 
 QJsonObject describeModel(const PDEModel2 &model)
 {
     QJsonObject description;
     for (const SettingRow &row : kSettings) {
-        QJsonObject entry = describeOption(model, row);
-        entry.insert(QStringLiteral("value"), jsonText((model.*row.slots.value)()));
-        entry.insert(QStringLiteral("ticket"), jsonText((model.*row.slots.ticket)()));
-        description.insert(QString::fromLatin1(kValueNames[static_cast<std::size_t>(row.setting)]),
-                           entry);
+        const char *name = kValueNames[static_cast<std::size_t>(row.setting)];
+        description.insert(QString::fromLatin1(name), row.setting == Setting::DupDryTime
+                                                          ? dryTimeJson(model)
+                                                          : settingJson(model, row.slots));
     }
     return description;
 }

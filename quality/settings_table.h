@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/settings.h"
+#include "model/setting_slots.h"
 #include "quality/outlets.h"
 #include "quality/setting.h"
 
@@ -45,85 +45,56 @@ struct SettingRow
     const char *defaultChoice;
 };
 
-#define KV_SLOTS(option, setOption, value, setValue, ticket, setTicket)                            \
-    SettingSlots                                                                                   \
-    {                                                                                              \
-        &PDEModel2::option, &PDEModel2::setOption, &PDEModel2::value, &PDEModel2::setValue,        \
-            &PDEModel2::ticket, &PDEModel2::setTicket                                              \
-    }
-
 // clang-format off
 inline constexpr std::array<SettingRow, kSettingCount> kSettings{{
-    {Setting::PrintQuality, "PrintQuality",
-     KV_SLOTS(printQualityOption, setPrintQualityOption, printQuality, setPrintQuality, printQualityTicket, setPrintQualityTicket),
+    {Setting::PrintQuality, "PrintQuality", settings::printQuality,
      &QualityOutlets::ibPrintQuality, nullptr, &QualityOutlets::ibPrintQualityLabel,
      ActionKind::AskFirst, {}, "Automatic"},
-    {Setting::MediaType, "MediaType",
-     KV_SLOTS(paperTypeOption, setPaperTypeOption, paperType, setPaperType, paperTypeTicket, setPaperTypeTicket),
+    {Setting::MediaType, "MediaType", settings::paperType,
      &QualityOutlets::ibPaperType, nullptr, &QualityOutlets::ibPaperTypeLabel,
      ActionKind::OwnAction, {}, "Automatic"},
-    {Setting::PaperSource, "PaperSource",
-     KV_SLOTS(paperSourceOption, setPaperSourceOption, paperSource, setPaperSource, paperSourceTicket, setPaperSourceTicket),
+    {Setting::PaperSource, "PaperSource", settings::paperSource,
      &QualityOutlets::ibPaperSource, nullptr, &QualityOutlets::ibPaperSourceLabel,
      ActionKind::TakeThenOffer, {}, "Tray1"},
-    {Setting::Sharpen, "Sharpen",
-     KV_SLOTS(imageSharpeningOption, setImageSharpeningOption, imageSharpening, setImageSharpening, imageSharpeningTicket, setImageSharpeningTicket),
+    {Setting::Sharpen, "Sharpen", settings::imageSharpening,
      &QualityOutlets::ibSharpen, nullptr, &QualityOutlets::ibSharpenlabel,
      ActionKind::TakeThenOffer, {}, "Off"},
-    {Setting::Mirror, "Mirror",
-     KV_SLOTS(mirrorOption, setMirrorOption, mirror, setMirror, mirrorTicket, setMIrrorTicket),
+    {Setting::Mirror, "Mirror", settings::mirror,
      nullptr, &QualityOutlets::ibMIrror, nullptr,
      ActionKind::OwnAction, kOnOff, "Off"},
-    {Setting::TonerSave, "TonerSave",
-     KV_SLOTS(tonerSaveOption, setTonerSaveOption, tonerSave, setTonerSave, tonerSaveTicket, setTonerSaveTicket),
+    {Setting::TonerSave, "TonerSave", settings::tonerSave,
      nullptr, &QualityOutlets::ibTonerSave, nullptr,
      ActionKind::Box, kOnOff, "Off"},
     // Its control is the field ibThresholdTextFeild with the stepper ibThresholdStepper.
-    {Setting::Threshold, "Threshold",
-     KV_SLOTS(thresholdOption, setThresholdOption, Threshold, setThreshold, thresoldTicket, setThresholdTicket),
+    {Setting::Threshold, "Threshold", settings::threshold,
      nullptr, nullptr, &QualityOutlets::ibThresholdLabel,
      ActionKind::OwnAction, {}, "3"},
-    {Setting::HalftoneLevel, "HalftoneLevel",
-     KV_SLOTS(halftoneOption, setHalftoneOption, halftone, setHalftone, halftoneTicket, setHalftoneTicket),
+    {Setting::HalftoneLevel, "HalftoneLevel", settings::halftone,
      &QualityOutlets::ibHalftone, nullptr, &QualityOutlets::ibHalftoneLabel,
      ActionKind::AskFirst, {}, "Dither"},
-    {Setting::ColorPreferences, "ColorPreferences",
-     KV_SLOTS(colorPreferencesOption, setColorPreferencesOption, colorPreferences, setColorPreferences, colorPreferencesTicket, setColorPreferencesTicket),
+    {Setting::ColorPreferences, "ColorPreferences", settings::colorPreferences,
      &QualityOutlets::ibColorPreferences, nullptr, &QualityOutlets::ibColorPreferencesLabel,
      ActionKind::OfferThenTake, {}, "Automatic"},
-    {Setting::InkToUse, "InkToUse",
-     KV_SLOTS(inkToUseOption, setInkToUseOption, inkToUse, setInkToUse, inkToUseTicket, setInkToUseTicket),
+    {Setting::InkToUse, "InkToUse", settings::inkToUse,
      &QualityOutlets::ibInkToUse, nullptr, &QualityOutlets::ibInkToUseLabel,
      ActionKind::OwnAction, {}, "Automatic"},
-    {Setting::ICCTestChartProcess, "ICCTestChartProcess",
-     KV_SLOTS(ICCTestChartOption, setICCTestChartOption, ICCTestChart, setICCTestChart, ICCTestChartTicket, setICCTestChartTicket),
+    {Setting::ICCTestChartProcess, "ICCTestChartProcess", settings::ICCTestChart,
      nullptr, &QualityOutlets::ibUseICCTestChart, nullptr,
      ActionKind::Box, kOnOff, "Off"},
-    {Setting::ColorOutput, "ColorOutput",
-     KV_SLOTS(colorOutputOption, setColorOutputOption, colorOutput, setColorOutput, colorOutputTicket, setColorOutputTicket),
+    {Setting::ColorOutput, "ColorOutput", settings::colorOutput,
      &QualityOutlets::ibColorOutput, nullptr, &QualityOutlets::ibColorOutputLabel,
      ActionKind::OwnAction, {}, "Color"},
     // As a pop-up; with a check box it is kDryTimeBoxSlots. Products before 2010 only.
-    {Setting::DupDryTime, "DupDryTime",
-     KV_SLOTS(dryTimePopUpOption, setDryTimePopUpOption, dryTime, setDryTime, dryTimeTicket, setDryTimeTicket),
+    {Setting::DupDryTime, "DupDryTime", settings::dryTimePopUp,
      &QualityOutlets::ibDryTimePopUp, &QualityOutlets::ibDryTimeCheckBox, &QualityOutlets::ibDryTimeLabel,
      ActionKind::TakeThenOffer, kTrueFalse, "Automatic"},
 }};
 
 /// Dry time on printers that offer it as a check box; value and ticket are the pop-up's.
-inline constexpr SettingSlots kDryTimeBoxSlots =
-    KV_SLOTS(dryTimeCheckBoxOption, setDryTimeCheckBoxOption, dryTime, setDryTime, dryTimeTicket, setDryTimeTicket);
+inline constexpr SettingSlots kDryTimeBoxSlots = settings::dryTimeCheckBox;
 // clang-format on
-#undef KV_SLOTS
 
-static_assert(
-    [] {
-        for (int i = 0; i < kSettingCount; ++i)
-            if (static_cast<int>(kSettings[static_cast<std::size_t>(i)].setting) != i)
-                return false;
-        return true;
-    }(),
-    "the table's rows stand in the order of the settings");
+static_assert(areRowsInOrder(kSettings));
 static_assert(
     [] {
         for (const SettingRow &a : kSettings)
