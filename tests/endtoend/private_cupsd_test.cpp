@@ -51,6 +51,23 @@ TEST_P(PrivateServer, KeepsOptionsCopiesAndDocumentOfAJob)
     EXPECT_EQ(server.document(1), bytesOf(sampleDocument()));
 }
 
+TEST_P(PrivateServer, ComesBackAtTheSameAddressWithItsQueuesAndJobs)
+{
+    PrivateCupsd server(GetParam());
+    server.addQueue(kQueue, bytesOf(samplePpd("Korvane-S300.ppd")));
+    server.run(q("cupsdisable"), {kQueue});
+    const int job = server.printPlainly(kQueue, sampleDocument());
+    const QString address = server.address();
+    server.stop();
+    EXPECT_FALSE(server.isRunning());
+    server.restart();
+    EXPECT_SAME(server.address(), address);
+    EXPECT_FALSE(server.hasArrived(job));
+    server.run(q("cupsenable"), {kQueue});
+    ASSERT_TRUE(server.waitForJob(job));
+    EXPECT_EQ(server.document(job), bytesOf(sampleDocument()));
+}
+
 TEST_P(PrivateServer, RunsAsThatUserAndLeavesNothingBehind)
 {
     QString folder;
@@ -83,7 +100,8 @@ TEST(PrivateServer, AddsNothingOfItsOwnThatIsASettingOfThePanels)
     const FilterOptions options = server.options(job);
     EXPECT_FALSE(options.empty());
     for (const auto &[name, value] : options) {
-        const bool isSetting = name == name.left(1).toUpper() + name.mid(1) || name == q("mirror");
+        const bool isSetting =
+            name.at(0).isUpper() || name == q("mirror"); // as keywords are written
         EXPECT_FALSE(isSetting) << name.toStdString();
     }
 }

@@ -286,6 +286,12 @@ void PrivateCupsd::stop()
     server_.reset();
 }
 
+void PrivateCupsd::restart()
+{
+    stop();
+    ASSERT_TRUE(comesUp()) << "the print server does not come back";
+}
+
 bool PrivateCupsd::isRunning() const
 {
     return server_ && server_->state() == QProcess::Running;
@@ -332,11 +338,16 @@ int PrivateCupsd::printPlainly(const QString &queue, const QString &file)
     return number.match(output).captured(1).toInt();
 }
 
+bool PrivateCupsd::hasArrived(int id) const
+{
+    return QFileInfo::exists(kept(id, "done"));
+}
+
 bool PrivateCupsd::waitForJob(int id) const
 {
     QElapsedTimer timer;
     timer.start();
-    while (!QFileInfo::exists(kept(id, "done"))) {
+    while (!hasArrived(id)) {
         if (timer.elapsed() > kPatienceMilliseconds) {
             ADD_FAILURE() << "job " << id << " has not reached the printer";
             return false;

@@ -47,6 +47,12 @@ public:
     [[nodiscard]] QString address() const; ///< "127.0.0.1:PORT"
     [[nodiscard]] QString folder() const { return folder_.path(); }
 
+    /// Ends the server; nobody answers at its address then.
+    void stop();
+    /// Starts it at the same address, with the queues and jobs that it had; fails the test if it
+    /// cannot.
+    void restart();
+
     /// A queue that takes PDF files, idle and accepting. The PPD's filters give way to the one that
     /// keeps the options.
     void addQueue(const QString &name, const QByteArray &ppd);
@@ -56,6 +62,8 @@ public:
     /// Prints without any option, to learn what the server adds by itself; 0 on failure.
     int printPlainly(const QString &queue, const QString &file);
 
+    /// Whether the printer has the job's whole document.
+    [[nodiscard]] bool hasArrived(int id) const;
     /// False, with a failure, when the job's document has not reached the printer in time.
     [[nodiscard]] bool waitForJob(int id) const;
     // Of a job that has been waited for.
@@ -68,7 +76,6 @@ private:
     void writeFiles() const;
     void start();
     [[nodiscard]] bool comesUp();
-    void stop();
     [[nodiscard]] QString kept(int id, const char *what) const;
 
     bool gaveUpRights_;
