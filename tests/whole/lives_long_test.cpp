@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+TEST(Lives, AThousandKeepNoMemory)
+{
+    test::expectNoMemoryKeptAfter(1000);
+}
+
 TEST(Lives, AThousandLeaveNothingBehind)
 {
     test::expectNothingLeftAfter(1000);

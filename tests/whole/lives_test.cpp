@@ -128,6 +128,11 @@ TEST(Lives, TheWheelOverAnyControlWithoutTheFocusChangesNothing)
     EXPECT_GT(turned, 20);
 }
 
+TEST(Lives, AHundredKeepNoMemory)
+{
+    expectNoMemoryKeptAfter(100);
+}
+
 TEST(Lives, AHundredLeaveNothingBehind)
 {
     expectNothingLeftAfter(100);

@@ -55,6 +55,9 @@ SystemRun::SystemRun()
 {
     log_.switchOn();
     clearProcessFlags();
+    platform::NotificationCenter::defaultCenter().addObserver(
+        &observer_, QString(),
+        [this](const platform::Notification &posted) { note(Channel::Notification, posted.name); });
 }
 
 SystemRun::~SystemRun()
@@ -162,7 +165,7 @@ void SystemRun::playLives()
         life.host.refuseAll();
         useEveryPanel(life);
         for (const auto &panel : *life.panels) {
-            (void)panel->panelKind();
+            note(Channel::Kind, panel->panelKind());
             (void)panel->supportedPPDOptionKeys();
             (void)panel->summaryInfo();
             panel->willShow();

@@ -6,6 +6,7 @@
 
 #include <QDialog>
 #include <QMap>
+#include <QObject>
 #include <QSet>
 #include <QStringList>
 
@@ -18,7 +19,7 @@ namespace test {
 
 /// What the run saw, by where it appeared. Texts of windows are those of a conflict window or its
 /// instructions; titles those of panels and windows.
-enum class Channel { Console, Info, Error, Window, Title, Label };
+enum class Channel { Console, Info, Error, Window, Title, Label, Kind, Notification };
 
 /// Every operation of the system, used in one process with the log on, in scenes: lives of all the
 /// fixture printers with a person's hands, changes made elsewhere, conflict windows, old hosts, and
@@ -66,6 +67,7 @@ private:
     void playFormatter();
     void playLog();
 
+    QObject observer_;
     DebugLog log_;
     ConsoleCapture console_;
     qsizetype recordsTaken_ = 0;
