@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QPointer>
 #include <QScreen>
 #include <QWindow>
@@ -158,6 +159,29 @@ private:
     bool reported_ = false;
 };
 
+/// As large as its wrapped texts need, and no smaller from then on; without such texts, as large as
+/// its contents, unless somebody has given it a size.
+void fitTexts(QDialog *window)
+{
+    QLayout *layout = window->layout();
+    if (layout && layout->hasHeightForWidth()) {
+        // New texts inside a frame do not reach the layout of a hidden window by themselves.
+        for (QWidget *part : window->findChildren<QWidget *>()) {
+            part->ensurePolished();
+            if (part->layout())
+                part->layout()->invalidate();
+            part->updateGeometry();
+        }
+        layout->invalidate();
+        layout->activate();
+        const int width = std::max(window->minimumWidth(), layout->totalSizeHint().width());
+        window->setMinimumSize(width, layout->totalHeightForWidth(width));
+        window->resize(window->minimumSize());
+    } else if (!window->testAttribute(Qt::WA_Resized)) {
+        window->adjustSize();
+    }
+}
+
 } // namespace
 
 ModalEnd runModalForWindow(QDialog *window)
@@ -206,8 +230,7 @@ void centerWindow(QDialog *window)
 {
     if (!window)
         return;
-    if (!window->testAttribute(Qt::WA_Resized))
-        window->adjustSize();
+    fitTexts(window);
     const QWidget *active = QApplication::activeWindow();
     const QRect middle = active && active != window ? active->frameGeometry()
                                                     : window->screen()->availableGeometry();

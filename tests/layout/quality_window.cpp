@@ -66,8 +66,13 @@ QualityWindow::QualityWindow(const Printer &printer, int systemVersion)
     controller_->setPDEPluginCallbackObject(&host_);
     platform::NotificationCenter::defaultCenter().addObserver(
         &observer_, PDEControllerDisclosureButtonChangedNotification,
-        [this](const platform::Notification &) { fitContents(); });
-    (new QVBoxLayout(&window_))->addWidget(controller_->mainView());
+        [this](const platform::Notification &) {
+            heightWhenTold_ = view().height();
+            fitContents();
+        });
+    auto *column = new QVBoxLayout(&window_);
+    column->addWidget(controller_->mainView());
+    column->addStretch(1);
     controller_->processMarkedPPDChoices();
     controller_->initializeControls();
     controller_->localizeLabels();
@@ -106,10 +111,16 @@ void QualityWindow::clickDisclosure()
     user::click(controls().ibDisclosure);
 }
 
+void QualityWindow::widen(int width)
+{
+    window_.setMinimumWidth(width);
+    fitContents();
+}
+
 void QualityWindow::fitContents()
 {
     window_.layout()->activate();
-    window_.resize(window_.sizeHint());
+    window_.resize(window_.sizeHint().expandedTo(window_.minimumSize()));
 }
 
 } // namespace test

@@ -44,6 +44,10 @@ public:
 
     /// A click on the disclosure triangle.
     void clickDisclosure();
+    /// The view's height when the panel last said that its size has changed.
+    [[nodiscard]] int heightWhenTold() const { return heightWhenTold_; }
+    /// From now on the window is at least as wide.
+    void widen(int width);
     /// What the window does when the panel says that its size has changed.
     void fitContents();
 
@@ -56,6 +60,7 @@ private:
     FakeHost host_;
     QWidget window_;
     QObject observer_;
+    int heightWhenTold_ = 0;
     std::unique_ptr<KorPDEController2> controller_;
 };
 
