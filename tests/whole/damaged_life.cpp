@@ -91,6 +91,7 @@ public:
         expectKeywords();
         for (const auto &panel : *life_->panels)
             useEveryControl(panel->panelView(), [this](QWidget *used) { expectAfter(used); });
+        EXPECT_GE(used_, printer_.ppd.options().size() / 2) << "of the controls";
         changeEverythingElsewhere();
         expectSaved();
         EXPECT_EQ(log_.errorMessages().size(), errorRecordsDue(printer_.ppd))
@@ -131,6 +132,7 @@ private:
 
     void expectAfter(const QWidget *used)
     {
+        ++used_;
         const QStringList allowed = optionsOfferedBy(used);
         for (const Offer &made : std::exchange(life_->host.offers, {}))
             EXPECT_TRUE(allowed.contains(made.first))
@@ -172,6 +174,7 @@ private:
     const DamagedPrinter &printer_;
     DebugLog log_;
     std::unique_ptr<Life> life_;
+    std::size_t used_ = 0;
 };
 
 } // namespace
