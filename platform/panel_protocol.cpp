@@ -10,6 +10,7 @@ PDEPanelDiagnostics::~PDEPanelDiagnostics() = default;
 PDEPanel::~PDEPanel() = default;
 PDEPlugIn::~PDEPlugIn() = default;
 PDEPlugInModule::~PDEPlugInModule() = default;
+PDEPlugInDiagnostics::~PDEPlugInDiagnostics() = default;
 
 void setSummaryEntry(SummaryInfo &info, const QString &title, const QString &text)
 {

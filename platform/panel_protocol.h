@@ -113,5 +113,35 @@ public:
     [[nodiscard]] virtual std::unique_ptr<PDEPlugIn> createPlugIn() = 0;
 };
 
+/// Something in a printer's PPD that the panels' rules do not expect, for whoever writes the PPD.
+struct PDEFinding
+{
+    enum class Severity {
+        Error,   ///< a control is missing, or works on the wrong choice
+        Warning, ///< something that a person cannot reach or would not understand
+    };
+
+    Severity severity = Severity::Warning;
+    QString option = {}; ///< keyword of the option that is to blame, or that is missing
+    QString choice = {}; ///< keyword of the choice that is to blame; null: the option as a whole
+    QString what = {};   ///< the fact, as a clause without full stop
+    QString remedy = {}; ///< what to do about it, likewise
+};
+
+/// What a module tells about a PPD without making a panel. An interface of its own beside
+/// PDEPlugInModule on the module's root object; a module may do without it.
+class PLATFORM_EXPORT PDEPlugInDiagnostics
+{
+public:
+    virtual ~PDEPlugInDiagnostics();
+
+    /// In an order of their own; none when the panels can work with the PPD as it is. Marks
+    /// nothing. Not asked with a null PPD.
+    [[nodiscard]] virtual std::vector<PDEFinding> findings(ppd_file_t *ppd) = 0;
+};
+
 #define PDEPlugInModule_iid "com.korvane.print.PDEPlugInModule/1"
 Q_DECLARE_INTERFACE(PDEPlugInModule, PDEPlugInModule_iid)
+
+#define PDEPlugInDiagnostics_iid "com.korvane.print.PDEPlugInDiagnostics/1"
+Q_DECLARE_INTERFACE(PDEPlugInDiagnostics, PDEPlugInDiagnostics_iid)

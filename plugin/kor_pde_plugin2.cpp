@@ -11,16 +11,6 @@ namespace {
 
 constexpr std::size_t kRoomForPanels = 3;
 
-/// Literal path of the driver's list for a model. The PPD's texts stand in it as they are.
-QString modelListPath(const ppd_file_t *ppd)
-{
-    const QString manufacturer = platform::described(platform::decodedUtf8(ppd->manufacturer));
-    const QString model = platform::described(platform::decodedUtf8(ppd->modelname));
-    return QStringLiteral("/Library/Printers/") + manufacturer +
-           QStringLiteral("/Drivers/.Config/") + model + QStringLiteral(".bundle") +
-           QStringLiteral("/Contents/Resources/") + model + QStringLiteral(".plist");
-}
-
 template <class Panel>
 void appendPanel(PDEPanelList &panels, PDEPlugInCallback *host, Bundle *bundle)
 {
@@ -29,6 +19,15 @@ void appendPanel(PDEPanelList &panels, PDEPlugInCallback *host, Bundle *bundle)
 }
 
 } // namespace
+
+QString modelListPath(const ppd_file_t *ppd)
+{
+    const QString manufacturer = platform::described(platform::decodedUtf8(ppd->manufacturer));
+    const QString model = platform::described(platform::decodedUtf8(ppd->modelname));
+    return QStringLiteral("/Library/Printers/") + manufacturer +
+           QStringLiteral("/Drivers/.Config/") + model + QStringLiteral(".bundle") +
+           QStringLiteral("/Contents/Resources/") + model + QStringLiteral(".plist");
+}
 
 bool KorPDEPlugin2::initWithBundle(Bundle *pluginBundle)
 {

@@ -2,6 +2,9 @@
 
 #include "platform/panel_protocol.h"
 
+/// Literal path of the driver's list for a model. The PPD's texts stand in it as they are.
+[[nodiscard]] QString modelListPath(const ppd_file_t *ppd);
+
 /// The principal object of the plug-in: decides which panels exist for a printer.
 class KorPDEPlugin2 final : public PDEPlugIn
 {

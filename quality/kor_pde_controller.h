@@ -121,6 +121,9 @@ public:
     /// frame records; zeros for a missing view.
     [[nodiscard]] QJsonObject frames() const;
 
+    /// The host's text for "Grayscale", with which labels of the PPD are compared.
+    [[nodiscard]] static QString hostGrayscale();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -176,7 +179,6 @@ private:
     void takeThresholdFromStepper();
 
     // Synchronisation.
-    [[nodiscard]] static QString hostGrayscale();
     [[nodiscard]] PopUpButton *popUpOf(quality::Setting setting) const;
     [[nodiscard]] QCheckBox *boxOf(quality::Setting setting) const;
     [[nodiscard]] QLabel *labelOf(quality::Setting setting) const;

@@ -1,5 +1,6 @@
 // KorPDEController2: what it reports about a printer that differs from what its rules assume.
 
+#include "quality/unusual_printers.h"
 #include "diag/debug_log.h"
 #include "model/ppd_records.h"
 #include "platform/strings.h"
@@ -30,10 +31,10 @@ void report(const std::optional<UnusualChoice> &unusual)
                      qUtf8Printable(platform::described(unusual->choice)));
 }
 
-/// The first choice of a setting that its rules do not expect. Mirror's and toner save's "Off" and
-/// halftone's "Dither" are compared as labels, too.
-std::optional<UnusualChoice> unusualChoice(Setting setting, const ChoiceList &choices,
-                                           const QString &grayscale)
+} // namespace
+
+std::optional<UnusualChoice> quality::unusualChoice(Setting setting, const ChoiceList &choices,
+                                                    const QString &grayscale)
 {
     const QString option = keyword(setting);
     const QString label = defaultChoice(setting);
@@ -52,8 +53,6 @@ std::optional<UnusualChoice> unusualChoice(Setting setting, const ChoiceList &ch
     }
 }
 
-} // namespace
-
 /// One error record for each option whose absence or choices the rules do not expect. The rules
 /// stay as they are.
 void KorPDEController2::reportUnusualPPD() const
@@ -61,8 +60,7 @@ void KorPDEController2::reportUnusualPPD() const
     for (const RowPlan &plan : requiredRowsPlan(optionsOfPrinter()))
         if (plan.fate == RowFate::Hidden)
             reportMissing(plan.row);
-    for (const Setting setting : {Setting::Mirror, Setting::TonerSave, Setting::ICCTestChartProcess,
-                                  Setting::InkToUse, Setting::ColorOutput, Setting::HalftoneLevel})
+    for (const Setting setting : kWatchedSettings)
         if (hasOption(setting))
             report(unusualChoice(setting, choicesOf(optionOf(setting)), hostGrayscale()));
 }
