@@ -10,10 +10,11 @@ namespace dialog::debuglog {
 /// Which records a person wants to see. Empty parts admit everything.
 struct Filter
 {
-    QByteArray className; ///< "NSPopUpButton" admits its categories too
-    QByteArray operation; ///< "willShow", "updateControl:" or its first piece, or a whole selector
-    QByteArray kinds;     ///< letters of kKinds
-    QByteArray text;      ///< part of a message; a traced call has none
+    QByteArray className = {}; ///< "NSPopUpButton" admits its categories too
+    QByteArray operation =
+        {};                ///< "willShow", "updateControl:" or its first piece, or a whole selector
+    QByteArray kinds = {}; ///< letters of kKinds
+    QByteArray text = {};  ///< part of a message; a traced call has none
 
     [[nodiscard]] bool admits(const Entry &entry) const;
     [[nodiscard]] bool admitsAny(const Action &action) const;

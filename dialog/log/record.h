@@ -37,7 +37,7 @@ struct Damage
     static constexpr std::size_t kMostPlaces = 5;
 
     qint64 lines = 0;
-    std::vector<qint64> firstPlaces; ///< file lines, kMostPlaces at most
+    std::vector<qint64> firstPlaces = {}; ///< file lines, kMostPlaces at most
 
     void add(qint64 fileLine);
 };

@@ -41,7 +41,8 @@ std::optional<PathRefusal> checkBundle(const QString &literalPath, TrustedOwner 
     return isMissing ? std::nullopt : refusal;
 }
 
-std::variant<std::unique_ptr<PDEPlugIn>, PlugInFailure> createPrincipal(const QString &libraryPath)
+/// The library's root object, which stays.
+std::variant<QObject *, PlugInFailure> loadRoot(const QString &libraryPath)
 {
     if (!isWholeLibrary(libraryPath))
         return PlugInFailure{text(Text::PlugInDamaged, {libraryPath, text(Text::LibraryCutOff)})};
@@ -52,10 +53,9 @@ std::variant<std::unique_ptr<PDEPlugIn>, PlugInFailure> createPrincipal(const QS
         return PlugInFailure{text(Text::PlugInDamaged, {libraryPath, loader.errorString()})};
     if (interfaceId != QLatin1String(PDEPlugInModule_iid))
         return PlugInFailure{text(Text::PlugInForeign, {libraryPath})};
-    auto *module = qobject_cast<PDEPlugInModule *>(loader.instance());
-    if (!module)
+    if (!qobject_cast<PDEPlugInModule *>(loader.instance()))
         return PlugInFailure{text(Text::PlugInDamaged, {libraryPath, loader.errorString()})};
-    return module->createPlugIn();
+    return loader.instance();
 }
 
 } // namespace
@@ -64,14 +64,16 @@ std::variant<PlugIn, PlugInFailure> loadPlugIn(const QString &literalBundlePath,
 {
     if (const auto refusal = checkBundle(literalBundlePath, owner))
         return failure(*refusal);
-    PlugIn plugIn{Bundle::bundleWithPath(platform::resolved(literalBundlePath)), nullptr};
+    PlugIn plugIn{Bundle::bundleWithPath(platform::resolved(literalBundlePath)), nullptr, nullptr};
     const QString library = literalBundlePath + kLibraryFolder + libraryName(*plugIn.bundle);
     if (const auto refusal = checkDriverPath(library, PathKind::File, owner))
         return failure(*refusal);
-    auto created = createPrincipal(platform::resolved(library));
-    if (const auto *failed = std::get_if<PlugInFailure>(&created))
+    const auto loaded = loadRoot(platform::resolved(library));
+    if (const auto *failed = std::get_if<PlugInFailure>(&loaded))
         return *failed;
-    plugIn.principal = std::move(std::get<std::unique_ptr<PDEPlugIn>>(created));
+    QObject *root = std::get<QObject *>(loaded);
+    plugIn.principal = qobject_cast<PDEPlugInModule *>(root)->createPlugIn();
+    plugIn.diagnostics = qobject_cast<PDEPlugInDiagnostics *>(root);
     if (!plugIn.principal || !plugIn.principal->initWithBundle(plugIn.bundle.get()))
         return PlugInFailure{text(Text::NoPanelsForPrinter)};
     return plugIn;

@@ -16,6 +16,7 @@ struct PlugIn
 {
     std::unique_ptr<Bundle> bundle; ///< outlives the principal object
     std::unique_ptr<PDEPlugIn> principal;
+    PDEPlugInDiagnostics *diagnostics = nullptr; ///< the library's; null where it offers none
 };
 
 /// Why there is no plug-in, as the text of a notice.

@@ -32,11 +32,15 @@ bool switchesOn(const QString &choice)
            !isSame(choice, QStringLiteral("False"));
 }
 
+} // namespace
+
 bool matches(const Choice &part, const Choice &mark)
 {
     return isSameOption(part.option, mark.option) &&
            (part.choice.isNull() ? switchesOn(mark.choice) : isSame(part.choice, mark.choice));
 }
+
+namespace {
 
 /// The marks that fulfil the constraint, one per part; nothing unless every part is fulfilled.
 std::optional<Choices> fulfilledBy(const Constraint &constraint, const Choices &marks)

@@ -17,6 +17,9 @@ using Constraints = std::vector<Constraint>;
 /// The value of a cupsUIConstraints line: "*Option Choice *Option ...".
 [[nodiscard]] Constraint parseConstraint(const QString &value);
 
+/// Whether a marked choice fulfils a part of a constraint.
+[[nodiscard]] bool matches(const Choice &part, const Choice &mark);
+
 /// Marked choices that would be forbidden beside @p choice, were it marked. Names are compared
 /// without regard to case. What is forbidden already without it does not count.
 [[nodiscard]] Choices conflictsWith(const Choice &choice, const Choices &marks,

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <cstdio>
 #include <cstring>
 #include <span>
 
@@ -14,6 +15,9 @@ namespace dialog {
 namespace {
 
 using platform::decodedUtf8;
+
+// A longer value would make libcups refuse the line.
+constexpr qsizetype kLongestNickName = 200;
 
 std::span<ppd_group_t> groupsOf(const ppd_file_t *ppd)
 {
@@ -140,6 +144,19 @@ PpdDocument::Opened PpdDocument::open(const QString &path)
     return std::unique_ptr<PpdDocument>(new PpdDocument(path, std::move(ppd)));
 }
 
+std::unique_ptr<PpdDocument> PpdDocument::withoutOptions(const QString &name)
+{
+    const QByteArray text = "*PPD-Adobe: \"4.3\"\n*LanguageEncoding: UTF-8\n*NickName: \"" +
+                            name.toUtf8().replace('"', '\'').left(kLongestNickName) + "\"\n";
+    const std::unique_ptr<std::FILE, int (*)(std::FILE *)> file(std::tmpfile(), std::fclose);
+    if (!file || std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()),
+                             file.get()) != static_cast<std::size_t>(text.size()))
+        return nullptr;
+    std::rewind(file.get());
+    Handle ppd(ppdOpen(file.get()));
+    return ppd ? std::unique_ptr<PpdDocument>(new PpdDocument({}, std::move(ppd))) : nullptr;
+}
+
 PpdDocument::PpdDocument(const QString &path, Handle ppd) : path_(path), ppd_(std::move(ppd))
 {
     // libcups has turned texts into UTF-8 and leaves the record empty where the file names none.
@@ -202,6 +219,12 @@ QStringList PpdDocument::choices(const QString &option) const
 bool PpdDocument::hasOption(const QString &option) const
 {
     return findOption(ppd_.get(), option);
+}
+
+bool PpdDocument::isPickMany(const QString &option) const
+{
+    const ppd_option_t *found = findOption(ppd_.get(), option);
+    return found && found->ui == PPD_UI_PICKMANY;
 }
 
 bool PpdDocument::hasChoice(const Choice &choice) const

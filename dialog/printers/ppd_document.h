@@ -32,6 +32,8 @@ class PpdDocument
 public:
     using Opened = std::variant<std::unique_ptr<PpdDocument>, PpdError>;
     [[nodiscard]] static Opened open(const QString &path);
+    /// A printer of which nothing but its name is known: its queue has no PPD. Has no path.
+    [[nodiscard]] static std::unique_ptr<PpdDocument> withoutOptions(const QString &name);
     ~PpdDocument();
     PpdDocument(const PpdDocument &) = delete;
     PpdDocument &operator=(const PpdDocument &) = delete;
@@ -48,6 +50,8 @@ public:
     [[nodiscard]] QStringList options() const;
     [[nodiscard]] QStringList choices(const QString &option) const;
     [[nodiscard]] bool hasOption(const QString &option) const;
+    /// Whether several choices of the option can stand at a time.
+    [[nodiscard]] bool isPickMany(const QString &option) const;
     [[nodiscard]] bool hasChoice(const Choice &choice) const;
     /// What a person reads; the keyword itself where the PPD has no text.
     [[nodiscard]] QString optionText(const QString &option) const;
@@ -65,6 +69,7 @@ public:
     /// Marked choices that would be forbidden beside this one; what is forbidden without it does
     /// not count. Marks nothing.
     [[nodiscard]] Choices conflictsWith(const Choice &choice) const;
+    [[nodiscard]] const Constraints &constraints() const { return constraints_; }
     /// Every forbidden pair among what is marked, each pair once.
     [[nodiscard]] std::vector<Conflict> conflicts() const;
 
