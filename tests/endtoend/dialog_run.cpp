@@ -2,12 +2,12 @@
 
 #include "dialog/replay/input.h"
 #include "dialog/window/print_window.h"
+#include "tests/dialog/staged_driver.h"
 #include "tests/support/print_to.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QEventLoop>
-#include <QFile>
 #include <QJsonDocument>
 #include <QTimer>
 
@@ -36,7 +36,7 @@ constexpr PopUpOfOption kPopUps[] = {
 
 PrintedJob jobOf(const dialog::JobRecord &record)
 {
-    const QJsonDocument ticket = QJsonDocument::fromJson(bytesOf(record.ticketPath));
+    const QJsonDocument ticket = QJsonDocument::fromJson(fileBytes(record.ticketPath));
     EXPECT_TRUE(ticket.isObject()) << record.ticketPath.toStdString();
     return {record.id.toInt(), record.options, ticket.object()};
 }
@@ -51,13 +51,6 @@ QString samplePpd(const char *fileName)
 QString sampleDocument()
 {
     return q(KORVANE_SAMPLE_DOCUMENT);
-}
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return file.readAll();
 }
 
 DialogRun::DialogRun(dialog::PrintCase printCase)

@@ -16,7 +16,6 @@ namespace test {
 /// A sample printer of the staged driver root.
 [[nodiscard]] QString samplePpd(const char *fileName);
 [[nodiscard]] QString sampleDocument();
-[[nodiscard]] QByteArray bytesOf(const QString &path);
 
 /// What the dialog said of a job that it made.
 struct PrintedJob

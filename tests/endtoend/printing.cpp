@@ -1,5 +1,6 @@
 #include "tests/endtoend/printing.h"
 
+#include "tests/dialog/staged_driver.h"
 #include "tests/support/print_to.h"
 
 #include <QJsonArray>
@@ -75,7 +76,7 @@ OptionPairs sorted(OptionPairs options)
 Printing::Printing(const Edition &edition, PrivateCupsd::User user)
     : edition_(edition), server_(user)
 {
-    server_.addQueue(queue(), bytesOf(samplePpd(edition.ppd)));
+    server_.addQueue(queue(), fileBytes(samplePpd(edition.ppd)));
     const int plain = server_.printPlainly(queue(), sampleDocument());
     if (!server_.waitForJob(plain))
         return;
@@ -129,7 +130,7 @@ OptionPairs Printing::arrivedOptions(int job) const
 std::vector<OptionPairs> Printing::expectArrivals()
 {
     std::vector<OptionPairs> arrived;
-    const QByteArray document = bytesOf(sampleDocument());
+    const QByteArray document = fileBytes(sampleDocument());
     for (const Sent &sent : std::exchange(sent_, {})) {
         SCOPED_TRACE(sent.description.toStdString());
         if (!server_.waitForJob(sent.job))

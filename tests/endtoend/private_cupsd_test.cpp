@@ -1,3 +1,4 @@
+#include "tests/dialog/staged_driver.h"
 #include "tests/endtoend/dialog_run.h"
 #include "tests/support/print_to.h"
 #include "tests/support/private_cupsd.h"
@@ -37,7 +38,7 @@ TEST_P(PrivateServer, KeepsOptionsCopiesAndDocumentOfAJob)
 {
     PrivateCupsd server(GetParam());
     ASSERT_TRUE(server.isRunning());
-    server.addQueue(kQueue, bytesOf(samplePpd("Korvane-S300.ppd")));
+    server.addQueue(kQueue, fileBytes(samplePpd("Korvane-S300.ppd")));
     server.run(q("lp"), {q("-d"), kQueue, q("-n"), q("3"), q("-o"), q("MediaType=IronOn"), q("-o"),
                          q("mirror"), sampleDocument()});
     ASSERT_TRUE(server.waitForJob(1));
@@ -48,13 +49,13 @@ TEST_P(PrivateServer, KeepsOptionsCopiesAndDocumentOfAJob)
     EXPECT_TRUE(has("MediaType", "IronOn")) << server.optionString(1).toStdString();
     EXPECT_TRUE(has("mirror", "true")) << server.optionString(1).toStdString();
     EXPECT_EQ(server.copies(1), 3);
-    EXPECT_EQ(server.document(1), bytesOf(sampleDocument()));
+    EXPECT_EQ(server.document(1), fileBytes(sampleDocument()));
 }
 
 TEST_P(PrivateServer, ComesBackAtTheSameAddressWithItsQueuesAndJobs)
 {
     PrivateCupsd server(GetParam());
-    server.addQueue(kQueue, bytesOf(samplePpd("Korvane-S300.ppd")));
+    server.addQueue(kQueue, fileBytes(samplePpd("Korvane-S300.ppd")));
     server.run(q("cupsdisable"), {kQueue});
     const int job = server.printPlainly(kQueue, sampleDocument());
     const QString address = server.address();
@@ -65,7 +66,7 @@ TEST_P(PrivateServer, ComesBackAtTheSameAddressWithItsQueuesAndJobs)
     EXPECT_FALSE(server.hasArrived(job));
     server.run(q("cupsenable"), {kQueue});
     ASSERT_TRUE(server.waitForJob(job));
-    EXPECT_EQ(server.document(job), bytesOf(sampleDocument()));
+    EXPECT_EQ(server.document(job), fileBytes(sampleDocument()));
 }
 
 TEST_P(PrivateServer, RunsAsThatUserAndLeavesNothingBehind)
@@ -93,7 +94,7 @@ INSTANTIATE_TEST_SUITE_P(Users, PrivateServer,
 TEST(PrivateServer, AddsNothingOfItsOwnThatIsASettingOfThePanels)
 {
     PrivateCupsd server;
-    server.addQueue(kQueue, bytesOf(samplePpd("Korvane-S300.ppd")));
+    server.addQueue(kQueue, fileBytes(samplePpd("Korvane-S300.ppd")));
     const int job = server.printPlainly(kQueue, sampleDocument());
     ASSERT_GT(job, 0);
     ASSERT_TRUE(server.waitForJob(job));

@@ -1,4 +1,5 @@
 #include "tests/dialog/program_run.h"
+#include "tests/dialog/staged_driver.h"
 #include "tests/endtoend/printing.h"
 #include "tests/support/print_to.h"
 
@@ -62,7 +63,7 @@ TEST_F(IronOnScenario, ReachesTheFilterAsTheTicketHasIt)
     for (const auto &[name, value] : printing.arrivedOptions(number))
         arrived.insert(name, value);
     EXPECT_EQ(arrived, options_);
-    EXPECT_EQ(printing.server().document(number), bytesOf(sampleDocument()));
+    EXPECT_EQ(printing.server().document(number), fileBytes(sampleDocument()));
 }
 
 TEST_F(IronOnScenario, LeavesAJobFolderWithTheSameOptionsAndTheDocument)
@@ -70,5 +71,5 @@ TEST_F(IronOnScenario, LeavesAJobFolderWithTheSameOptionsAndTheDocument)
     const QJsonObject job = play({q("--ppd"), samplePpd(kEnglish.ppd)});
     EXPECT_EQ(job[q("options")].toObject(), options_);
     EXPECT_EQ(readJson(job[q("ticket")].toString())[q("options")].toObject(), options_);
-    EXPECT_EQ(bytesOf(jobFolderOf(job) + q("/document.pdf")), bytesOf(sampleDocument()));
+    EXPECT_EQ(fileBytes(jobFolderOf(job) + q("/document.pdf")), fileBytes(sampleDocument()));
 }
