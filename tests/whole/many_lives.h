@@ -7,8 +7,8 @@ namespace test {
 /// observers or widgets have grown at the end.
 void expectNothingLeftAfter(int lives);
 
-/// Lives without windows, of which Qt itself keeps some hundred bytes each. Fails the running test
-/// when they use up memory beyond what libcups keeps of each PPD that is opened and closed.
+/// Lives without windows, of which Qt itself keeps some hundred bytes each, twice that many. Fails
+/// the running test when the second half uses up memory.
 void expectNoMemoryKeptAfter(int lives);
 
 } // namespace test
