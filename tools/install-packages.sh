@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # install-packages.sh [GROUP...]: installs the Debian packages of these groups that are missing
-# (default: build test). Groups: build, test, wayland, format. Without anything missing it needs no
+# (default: build test). Groups: build, test, bench, wayland, format. Without anything missing it needs no
 # network and no privilege.
 #
 # Status: 0 everything is there, 1 the installation failed, 2 unknown group, 3 it may not install: the
@@ -17,10 +17,11 @@ packages_of() {
         ;;
     # cupsd and its filters are for a private server of the tests, cups-client brings cupstestppd.
     test) echo libgtest-dev libgmock-dev cups-daemon cups-client cups-core-drivers ;;
+    bench) echo libbenchmark-dev ;;
     wayland) echo qt6-wayland ;;
     format) echo clang-format git ;;
     *)
-        echo "install-packages.sh: no group '$1' (groups: build test wayland format)" >&2
+        echo "install-packages.sh: no group '$1' (groups: build test bench wayland format)" >&2
         return 2
         ;;
     esac
