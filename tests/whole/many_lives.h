@@ -7,8 +7,8 @@ namespace test {
 /// observers or widgets have grown at the end.
 void expectNothingLeftAfter(int lives);
 
-/// Lives without windows, of which Qt itself keeps some hundred bytes each, twice that many. Fails
-/// the running test when the second half uses up memory.
+/// Lives without windows, of which Qt itself keeps some hundred bytes each; three rounds of that
+/// many. Fails the running test when every round uses up memory: caches grow in some rounds only.
 void expectNoMemoryKeptAfter(int lives);
 
 } // namespace test
