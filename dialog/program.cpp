@@ -1,5 +1,6 @@
 #include "dialog/program.h"
 
+#include "dialog/check/check_command.h"
 #include "dialog/command_line.h"
 #include "dialog/log/log_command.h"
 #include "dialog/replay/scenario.h"
@@ -136,6 +137,7 @@ struct Command
     int (*run)(const QStringList &words);
 };
 constexpr Command kCommands[] = {
+    {"check-ppd", check::runCheckCommand},
     {"log", debuglog::runLogCommand},
 };
 
