@@ -50,7 +50,7 @@ struct DecodedText
 
 DecodedText decode(const QByteArray &bytes, const Encoding *encoding)
 {
-    QStringDecoder decoder(encoding ? encoding->name : "UTF-8");
+    QStringDecoder decoder(encoding ? encoding->name : "UTF-8", QStringDecoder::Flag::Stateless);
     DecodedText decoded{.text = decoder.decode(bytes), .isValid = !decoder.hasError()};
     // The converter of some encodings puts "substitute" where it cannot read.
     decoded.isValid = decoded.isValid && !decoded.text.contains(QChar::ReplacementCharacter) &&

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "dialog/log/call_tree.h"
+#include "dialog/log/filter.h"
 #include "dialog/log/record.h"
 
 #include <QByteArray>
+#include <QString>
 
 #include <vector>
 

@@ -52,9 +52,8 @@ TEST(LogRecord, TakesEveryModuleLetterAndLongProcessIds)
 
 TEST(LogRecord, MessageMayHaveSeveralLinesAndTabs)
 {
-    const ReadLog log =
-        readLog(record('E', "10:00:00.000", "LogFileAccessBody", 165, "/a\n\t!exist\n\n\tL7\tx") +
-                kWhole);
+    const ReadLog log = readLog(
+        record('E', "10:00:00.000", "LogFileAccessBody", 165, "/a\n\t!exist\n\n\tL7\tx") + kWhole);
     ASSERT_EQ(log.records.size(), 2U);
     EXPECT_EQ(log.records[0].message, "/a\n\t!exist\n\n\tL7\tx");
     EXPECT_EQ(log.records[1].fileLine, 5);
@@ -124,13 +123,22 @@ TEST(LogRecord, ALogThatEndsWithinALineSaysSo)
 TEST(LogRecord, NoPartMayBeMissingOrOutOfRange)
 {
     for (const char *line : {
-             "", "A", "AI", "AX004711\t[14:03:07.042]\top\tL1\tx",
-             "AI04711\t[14:03:07.042]\top\tL1\tx", "AI00000004711\t[14:03:07.042]\top\tL1\tx",
-             "AI004711 [14:03:07.042]\top\tL1\tx", "AI004711\t[24:03:07.042]\top\tL1\tx",
-             "AI004711\t[14:60:07.042]\top\tL1\tx", "AI004711\t[14:03:61.042]\top\tL1\tx",
-             "AI004711\t[14:03:07.42]\top\tL1\tx", "AI004711\t[14:03:07.042\top\tL1\tx",
-             "AI004711\t[14:03:07.042]\top\t1\tx", "AI004711\t[14:03:07.042]\top\tL\tx",
-             "AI004711\t[14:03:07.042]\top\tL1", "AI004711\t[14:03:07.042]\top\tL99999999999\tx",
+             "",
+             "A",
+             "AI",
+             "AX004711\t[14:03:07.042]\top\tL1\tx",
+             "AI04711\t[14:03:07.042]\top\tL1\tx",
+             "AI00000004711\t[14:03:07.042]\top\tL1\tx",
+             "AI004711 [14:03:07.042]\top\tL1\tx",
+             "AI004711\t[24:03:07.042]\top\tL1\tx",
+             "AI004711\t[14:60:07.042]\top\tL1\tx",
+             "AI004711\t[14:03:61.042]\top\tL1\tx",
+             "AI004711\t[14:03:07.42]\top\tL1\tx",
+             "AI004711\t[14:03:07.042\top\tL1\tx",
+             "AI004711\t[14:03:07.042]\top\t1\tx",
+             "AI004711\t[14:03:07.042]\top\tL\tx",
+             "AI004711\t[14:03:07.042]\top\tL1",
+             "AI004711\t[14:03:07.042]\top\tL99999999999\tx",
          }) {
         const ReadLog log = readLog(QByteArray(line) + '\n');
         EXPECT_EQ(log.records.size(), 0U) << line;
@@ -188,9 +196,15 @@ QByteArray mutated(QByteArray bytes, std::mt19937 &random)
         const qsizetype place = below(bytes.size());
         const char byte = kInteresting[below(sizeof kInteresting - 1)];
         switch (below(3)) {
-        case 0: bytes[place] = byte; break;
-        case 1: bytes.remove(place, 1 + below(40)); break;
-        default: bytes.insert(place, byte); break;
+        case 0:
+            bytes[place] = byte;
+            break;
+        case 1:
+            bytes.remove(place, 1 + below(40));
+            break;
+        default:
+            bytes.insert(place, byte);
+            break;
         }
     }
     return bytes;
@@ -204,7 +218,8 @@ TEST(LogRecord, DamagedLogsAreReadAsFarAsTheyGo)
     ASSERT_EQ(wholeRecords, 101U);
     for (int i = 0; i < 3000; ++i) {
         const QByteArray bytes = mutated(whole, random);
-        const ReadLog log = readLog(bytes, {.entries = 10, .bytes = 400, .depth = 2, .processes = 2});
+        const ReadLog log =
+            readLog(bytes, {.entries = 10, .bytes = 400, .depth = 2, .processes = 2});
         // Four changes touch a line each, or join or split two.
         EXPECT_GE(log.records.size() + 12, wholeRecords) << bytes.constData();
         EXPECT_LE(log.damage.lines, 12) << bytes.constData();

@@ -67,10 +67,10 @@ TEST(LogTree, ACallOfItselfEndsInnermostFirst)
 
 TEST(LogTree, ProcessesAreKeptApartHoweverTheirRecordsMix)
 {
-    const ReadLog log = readLog(
-        brace("{", "10:00:00.000", kShow, 1) + brace("{", "10:00:00.001", kUpdate, 2) +
-        brace("{", "10:00:00.002", kOne, 1) + brace("}", "10:00:00.003", kUpdate, 2) +
-        brace("}", "10:00:00.004", kOne, 1) + brace("}", "10:00:00.005", kShow, 1));
+    const ReadLog log =
+        readLog(brace("{", "10:00:00.000", kShow, 1) + brace("{", "10:00:00.001", kUpdate, 2) +
+                brace("{", "10:00:00.002", kOne, 1) + brace("}", "10:00:00.003", kUpdate, 2) +
+                brace("}", "10:00:00.004", kOne, 1) + brace("}", "10:00:00.005", kShow, 1));
     ASSERT_EQ(log.actions.size(), 2U);
     EXPECT_EQ(log.actions[0].process, 2);
     EXPECT_EQ(log.actions[0].number, 2);
@@ -83,10 +83,9 @@ TEST(LogTree, ProcessesAreKeptApartHoweverTheirRecordsMix)
 
 TEST(LogTree, AProcessIdThatStartsALogAnewIsAnotherProcess)
 {
-    const ReadLog log = readLog(brace("{", "10:00:00.000", kShow) +
-                                record('A', "11:00:00.000", "logger", 0, "DEBUG GO") +
-                                brace("{", "11:00:00.001", kUpdate) +
-                                brace("}", "11:00:00.002", kUpdate));
+    const ReadLog log = readLog(
+        brace("{", "10:00:00.000", kShow) + record('A', "11:00:00.000", "logger", 0, "DEBUG GO") +
+        brace("{", "11:00:00.001", kUpdate) + brace("}", "11:00:00.002", kUpdate));
     ASSERT_EQ(log.actions.size(), 3U);
     EXPECT_FALSE(log.actions[0].entries[0].duration);
     EXPECT_EQ(log.actions[2].entries[0].depth, 0);
@@ -203,9 +202,9 @@ TEST(LogFilter, OperationIsASelectorOrItsFirstPieceOrAWholeName)
 
 TEST(LogFilter, AClassAdmitsItsCategories)
 {
-    const ReadLog log = readLog(
-        brace("{", "10:00:00.000", "-[NSPopUpButton(KVExtendedPopUpButton) fill:]") +
-        brace("}", "10:00:00.000", "-[NSPopUpButton(KVExtendedPopUpButton) fill:]"));
+    const ReadLog log =
+        readLog(brace("{", "10:00:00.000", "-[NSPopUpButton(KVExtendedPopUpButton) fill:]") +
+                brace("}", "10:00:00.000", "-[NSPopUpButton(KVExtendedPopUpButton) fill:]"));
     EXPECT_FALSE(log.tree({.className = "NSPopUpButton"}).isEmpty());
     EXPECT_FALSE(log.tree({.className = "NSPopUpButton(KVExtendedPopUpButton)"}).isEmpty());
     EXPECT_TRUE(log.tree({.className = "NSPopUp"}).isEmpty());
@@ -256,7 +255,7 @@ TEST(LogText, ControlCharactersNeverReachTheTerminal)
 
 TEST(LogText, DamageIsCountedAndPlaced)
 {
-    EXPECT_TEXT(damageText(q("a.log"), {}, {}), "");
+    EXPECT_TRUE(damageText(q("a.log"), {}, {}).isEmpty());
     EXPECT_TEXT(damageText(q("a.log"), {.lines = 1, .firstPlaces = {7}}, {}),
                 "a.log: 1 line is damaged: line 7\n");
     EXPECT_TEXT(damageText(q("a.log"), {.lines = 3, .firstPlaces = {7, 8}},
