@@ -17,6 +17,7 @@ void addCaseOptions(QCommandLineParser &parser)
         valueOption("language", "First preferred language, such as de or fr-CA.", "L"),
         valueOption("queue", "Print queue to send the job to.", "NAME"),
         valueOption("job-folder", "Folder for jobs that go to no queue.", "DIR"),
+        valueOption("record", "Write what a person does to this new file, as a scenario.", "FILE"),
         flagOption("console", "Show the console lines of the panels."),
         helpOption(),
         flagOption("version", "Show the version and leave."),
@@ -113,6 +114,7 @@ std::variant<CommandLine, UsageError> parseCommandLine(const QStringList &words)
     if (parser.isSet(QStringLiteral("version")))
         line.command = CommandLine::Command::ShowVersion;
     line.printCase = caseOf(parser);
+    line.record = given(parser, "record");
     QString error = readSystemVersion(parser, line.printCase);
     if (error.isNull() && line.command != CommandLine::Command::ShowVersion)
         error = takePositionals(parser.positionalArguments(), line);

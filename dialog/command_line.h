@@ -19,6 +19,7 @@ struct CommandLine
     PrintCase printCase;
     QString scenario;
     QString report; ///< null: none; "-": standard output
+    QString record; ///< null: none
     replay::PlayerOptions player;
     QString helpText;
 };

@@ -96,6 +96,7 @@ void PrintDialog::showPanels()
 {
     if (window_)
         return;
+    Q_EMIT aboutToShowPanels();
     host_.takeMarksAsChosen();
     loadPanels();
     makeWindow();

@@ -58,6 +58,7 @@ public:
     void showPanels();
     [[nodiscard]] bool hasShownPanels() const { return window_ != nullptr; }
 
+    [[nodiscard]] const PrintCase &printCase() const { return case_; }
     [[nodiscard]] PpdDocument &printer() const { return *printer_; }
     [[nodiscard]] DialogHost &host() { return host_; }
     [[nodiscard]] const std::vector<Panel> &panels() const { return panels_; }
@@ -71,6 +72,8 @@ public:
     void print(Review review);
 
 Q_SIGNALS:
+    /// What is marked and set by now is what the panels will see.
+    void aboutToShowPanels();
     void jobMade(const dialog::JobRecord &job);
     void jobFailed(const QString &notice);
     void noticeShown(const QString &notice);

@@ -3,6 +3,7 @@
 #include "dialog/check/check_command.h"
 #include "dialog/command_line.h"
 #include "dialog/log/log_command.h"
+#include "dialog/record/recorder.h"
 #include "dialog/replay/scenario.h"
 #include "dialog/usage.h"
 #include "dialog/window/print_window.h"
@@ -49,7 +50,7 @@ void dropRemarksOnMissingDisplay(QtMsgType type, const QMessageLogContext &conte
         formerMessageHandler()(type, context, message);
 }
 
-int runDialog(const CommandLine &line)
+int runDialog(const CommandLine &line, std::unique_ptr<record::Recording> recording)
 {
     PrintDialog::Opened opened = PrintDialog::open(line.printCase);
     if (const auto *problem = std::get_if<QString>(&opened))
@@ -60,6 +61,9 @@ int runDialog(const CommandLine &line)
         say(job.ticketPath.isNull() ? job.id : job.ticketPath);
         QCoreApplication::quit();
     });
+    std::unique_ptr<record::Recorder> recorder;
+    if (recording)
+        recorder = std::make_unique<record::Recorder>(std::move(recording), *dialog);
     dialog->showPanels();
     return QCoreApplication::exec();
 }
@@ -74,7 +78,18 @@ bool writeReport(const QString &path, const QByteArray &json)
     return file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit();
 }
 
-int runReplay(const CommandLine &line)
+/// The recorder begins with the dialog, and goes before it.
+void recordReplay(const replay::Player &player, std::unique_ptr<record::Recording> &recording,
+                  std::unique_ptr<record::Recorder> &recorder)
+{
+    QObject::connect(&player, &replay::Player::dialogOpened, qApp, [&](PrintDialog &opened) {
+        recorder = std::make_unique<record::Recorder>(std::move(recording), opened);
+    });
+    QObject::connect(&player, &replay::Player::commanded, qApp,
+                     [&](const replay::Step &step) { recorder->passOn(step); });
+}
+
+int runReplay(const CommandLine &line, std::unique_ptr<record::Recording> recording)
 {
     replay::Parsed parsed = replay::readScenario(line.scenario);
     if (const auto *error = std::get_if<replay::ScenarioError>(&parsed))
@@ -88,6 +103,9 @@ int runReplay(const CommandLine &line)
                              complain(message);
                          QCoreApplication::exit(static_cast<int>(outcome));
                      });
+    std::unique_ptr<record::Recorder> recorder;
+    if (recording)
+        recordReplay(player, recording, recorder);
     player.start();
     const int status = QCoreApplication::exec();
     if (!writeReport(line.report, player.report().json()))
@@ -98,9 +116,16 @@ int runReplay(const CommandLine &line)
 int runCommand(const CommandLine &line)
 {
     setUpConsole(line.printCase);
+    std::unique_ptr<record::Recording> recording;
+    if (!line.record.isNull()) {
+        record::Recording::Opened made = record::Recording::create(line.record);
+        if (const auto *problem = std::get_if<QString>(&made))
+            return refuse(*problem);
+        recording = std::move(std::get<std::unique_ptr<record::Recording>>(made));
+    }
     switch (line.command) {
     case CommandLine::Command::Replay:
-        return runReplay(line);
+        return runReplay(line, std::move(recording));
     case CommandLine::Command::ShowHelp:
         say(line.helpText);
         return 0;
@@ -110,7 +135,7 @@ int runCommand(const CommandLine &line)
     case CommandLine::Command::OpenDialog:
         break;
     }
-    return runDialog(line);
+    return runDialog(line, std::move(recording));
 }
 
 /// Replay works where there is no display at all.

@@ -15,6 +15,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
@@ -23,6 +24,7 @@
 #include <QRadioButton>
 #include <QScopedValueRollback>
 #include <QToolButton>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -31,6 +33,12 @@ namespace {
 
 // A window that was closed while its loop goes on for longer than this has not ended its session.
 constexpr int kMostTurnsWaited = 1000;
+
+/// Leaving counts: the dialog tells it, whoever leaves.
+bool isInput(StepKind kind)
+{
+    return (kind >= StepKind::Show && kind <= StepKind::Close) || kind == StepKind::Cancel;
+}
 
 QString notOfKind(const char *kind)
 {
@@ -239,6 +247,8 @@ void Player::perform(const Step &step)
         dialog_->showPanels();
     if (dialog_)
         dialog_->host().deliverChanges();
+    if (dialog_ && !isInput(step.kind))
+        Q_EMIT commanded(step);
     const QString error = hasLeft_ ? QStringLiteral("the dialog has been left before") : run(step);
     if (!error.isNull())
         fail(step, error);
@@ -253,6 +263,7 @@ bool Player::openPrinter()
     }
     dialog_ = std::move(std::get<std::unique_ptr<PrintDialog>>(opened));
     watchDialog();
+    Q_EMIT dialogOpened(*dialog_);
     return true;
 }
 
@@ -386,7 +397,8 @@ QString Player::close(const QString &window)
     if (front->objectName() != window)
         return window + QStringLiteral(" is not the window in front, ") + front->objectName() +
                QStringLiteral(" is");
-    front->close();
+    QCloseEvent event; // sent to the window as the window system does it
+    QCoreApplication::sendEvent(front->windowHandle(), &event);
     return {};
 }
 

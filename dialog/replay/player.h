@@ -42,6 +42,10 @@ public:
     [[nodiscard]] const Report &report() const { return report_; }
 
 Q_SIGNALS:
+    /// The printer is open; its panels come later.
+    void dialogOpened(dialog::PrintDialog &opened);
+    /// Before each step that is not played as a person's input.
+    void commanded(const dialog::replay::Step &step);
     /// Once, from the outermost event loop or on the way to it.
     void finished(dialog::replay::Outcome outcome, const QString &message);
     /// Nobody looks at the window: its notices are told here too.

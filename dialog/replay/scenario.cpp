@@ -77,14 +77,6 @@ QString fromLatin(const char *text)
     return QString::fromLatin1(text);
 }
 
-QStringList stepWords()
-{
-    QStringList words;
-    for (const Form &form : kForms)
-        words.append(fromLatin(form.word));
-    return words;
-}
-
 const Form *formOf(const QString &word)
 {
     const auto found = std::find_if(kForms.begin(), kForms.end(), [&](const Form &form) {
@@ -199,6 +191,19 @@ private:
 };
 
 } // namespace
+
+QString stepWord(StepKind kind)
+{
+    return fromLatin(kForms[static_cast<std::size_t>(kind)].word);
+}
+
+QStringList stepWords()
+{
+    QStringList words;
+    for (const Form &form : kForms)
+        words.append(fromLatin(form.word));
+    return words;
+}
 
 bool standsBeforePrinter(StepKind kind)
 {

@@ -37,6 +37,11 @@ struct ScenarioError
     QString message;
 };
 
+/// The word that a step begins with.
+[[nodiscard]] QString stepWord(StepKind kind);
+/// Every step's word, in the order of StepKind.
+[[nodiscard]] QStringList stepWords();
+
 /// Printer, queue and platform values stand before everything else.
 [[nodiscard]] bool standsBeforePrinter(StepKind kind);
 /// True for the steps before which the panels are created, restored and shown.

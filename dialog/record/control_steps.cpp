@@ -1,0 +1,67 @@
+#include "dialog/record/control_steps.h"
+
+#include "platform/controls/radio_matrix.h"
+#include "platform/controls/stepper.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QToolButton>
+
+namespace dialog::record {
+namespace {
+
+using replay::StepKind;
+
+MaybeStep stepOn(const QWidget *control, StepKind kind, const QStringList &more = {})
+{
+    if (control->objectName().isEmpty())
+        return std::nullopt;
+    return replay::Step{kind, QStringList{control->objectName()} + more, 0};
+}
+
+MaybeStep stepForRow(const RadioMatrix *matrix, const QAbstractButton *button)
+{
+    for (int row = 0; row < matrix->rows(); ++row) {
+        if (matrix->button(row) == button)
+            return stepOn(matrix, StepKind::Row, {QString::number(row)});
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+MaybeStep stepForItem(const QComboBox *popUp, int index)
+{
+    const QString title = popUp->itemText(index);
+    const bool isPlain =
+        popUp->findText(title, Qt::MatchExactly | Qt::MatchCaseSensitive) == index &&
+        !title.startsWith(u'#') && !title.contains(u'\n');
+    return stepOn(popUp, StepKind::Choose, {isPlain ? title : u'#' + QString::number(index)});
+}
+
+MaybeStep stepForButton(const QAbstractButton *button)
+{
+    const QWidget *parent = button->parentWidget();
+    if (const auto *matrix = qobject_cast<const RadioMatrix *>(parent))
+        return stepForRow(matrix, button);
+    if (const auto *stepper = qobject_cast<const Stepper *>(parent))
+        return stepForStepper(stepper, button == stepper->upButton() ? 1 : -1);
+    if (qobject_cast<const QCheckBox *>(button))
+        return stepOn(button, button->isChecked() ? StepKind::Tick : StepKind::Untick);
+    return stepOn(button, StepKind::Click);
+}
+
+MaybeStep stepForText(const QLineEdit *field)
+{
+    return stepOn(field, StepKind::Type, {field->text()});
+}
+
+MaybeStep stepForStepper(const Stepper *stepper, int direction)
+{
+    return stepOn(stepper, StepKind::StepBy,
+                  {direction > 0 ? QStringLiteral("up") : QStringLiteral("down")});
+}
+
+} // namespace dialog::record

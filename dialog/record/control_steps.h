@@ -1,0 +1,28 @@
+#pragma once
+
+#include "dialog/replay/scenario.h"
+
+#include <QString>
+
+#include <optional>
+
+class QAbstractButton;
+class QComboBox;
+class QLineEdit;
+class QWidget;
+class Stepper;
+
+/// What a person did to a control, as the step that does it again. Controls are known by their
+/// object names; nothing for one that has none.
+namespace dialog::record {
+
+using MaybeStep = std::optional<replay::Step>;
+
+/// By title; by index where an earlier item has the same title, or no line can carry it.
+[[nodiscard]] MaybeStep stepForItem(const QComboBox *popUp, int index);
+/// After the button has taken its new state: a tick, a row, a step, or else a click.
+[[nodiscard]] MaybeStep stepForButton(const QAbstractButton *button);
+[[nodiscard]] MaybeStep stepForText(const QLineEdit *field);
+[[nodiscard]] MaybeStep stepForStepper(const Stepper *stepper, int direction);
+
+} // namespace dialog::record
