@@ -1,8 +1,8 @@
 #include "conflict/cartridges.h"
 
+#include "platform/driver_file.h"
 #include "platform/property_list.h"
 #include "platform/strings.h"
-#include "platform/values.h"
 
 namespace conflict {
 namespace {
@@ -25,7 +25,7 @@ QString cartridgePreferencesPath(const QString &modelYear)
 Cartridges installedCartridges(const QString &modelYear, const QString &modelName)
 {
     const QVariant preferences =
-        platform::readPropertyList(platform::resolved(cartridgePreferencesPath(modelYear)));
+        platform::readDriverPropertyList(cartridgePreferencesPath(modelYear));
     const QVariant current = platform::valueForKey(platform::valueForKey(preferences, modelName),
                                                    QStringLiteral("Current"));
     return {nameIn(current, QStringLiteral("Cart1")), nameIn(current, QStringLiteral("Cart2"))};

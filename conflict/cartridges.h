@@ -16,7 +16,8 @@ struct Cartridges
     QString cart2;
 };
 
-/// Reads the preferences file for a model. The file is not trusted; reading it never blocks.
+/// Reads the preferences file for a model. The file is not trusted: reading it never blocks, and
+/// outside the driver's folder it is missing.
 [[nodiscard]] Cartridges installedCartridges(const QString &modelYear, const QString &modelName);
 
 } // namespace conflict

@@ -111,6 +111,10 @@ private:
 
     [[nodiscard]] bool loadWindows();
     void connectWindows();
+    void connectChoices();
+    void connectOkButtons();
+    template <class Button>
+    void connectClick(Button *button, void (KorConflictController2::*handler)(Button *));
     [[nodiscard]] QDialog *windowOf(conflict::Window window) const;
     [[nodiscard]] std::vector<conflict::Choice> choicesOf(conflict::Window window);
     void choose(conflict::Window window, std::size_t index, const QRadioButton *sender);
@@ -136,8 +140,8 @@ private:
     void setChoice(const SettingSlots &slots, const char *keyword);
     void applyFirstChoice_MsgTwo();
     void applyThirdChoice_MsgTwo();
-    void applyFirstChoice_MsgFive();
-    [[nodiscard]] const char *appliedPaperType();
+    void applyFirstChoice_MsgFive(const QString &paperSize);
+    [[nodiscard]] const char *appliedPaperType(const QString &paperSize);
     void composeInstructionsFor(std::span<const conflict::Instructed> kinds);
 
     PMPageFormat mPageFormat;

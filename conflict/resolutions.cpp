@@ -159,8 +159,9 @@ void KorConflictController2::clickOkButton_MsgFive(QPushButton *sender)
     KV_TRACE("-[KorConflictController2 clickOkButton_MsgFive:]");
     const QPointer<KorConflictController2> self(this);
     endWindow(Window::MsgFive);
+    const QString paperSize = currentPaperSize(); // looked at, and logged, whatever is chosen
     if (isFirstButton_MsgFiveClicked) {
-        applyFirstChoice_MsgFive();
+        applyFirstChoice_MsgFive(paperSize);
         postChange(sender);
     } else if (isSecondButton_MsgFiveClicked) {
         composeInstructionsFor(kMsgFiveInstructions);
@@ -170,11 +171,10 @@ void KorConflictController2::clickOkButton_MsgFive(QPushButton *sender)
         resetChoiceFlags(Window::MsgFive);
 }
 
-void KorConflictController2::applyFirstChoice_MsgFive()
+void KorConflictController2::applyFirstChoice_MsgFive(const QString &paperSize)
 {
-    const char *paperType = appliedPaperType();
     if (take(HAS_PAPERSIZE_CONFLICT))
-        setChoice(settings::paperType, paperType);
+        setChoice(settings::paperType, appliedPaperType(paperSize));
     const bool isBlack = take(HAS_PRINTINBLACK_CONFLICT);
     if (take(HAS_CARTINSTALLED_CONFLICT) || isBlack)
         setChoice(settings::colorOutput, "Color");
@@ -183,9 +183,9 @@ void KorConflictController2::applyFirstChoice_MsgFive()
 }
 
 /// Never "Plain", though the window of a banner size offers plain paper.
-const char *KorConflictController2::appliedPaperType()
+const char *KorConflictController2::appliedPaperType(const QString &paperSize)
 {
-    const bool isEnvelopeSize = isPaperSizeEnvelope(currentPaperSize());
+    const bool isEnvelopeSize = isPaperSizeEnvelope(paperSize);
     return isMediaTypeEnvelope(model->paperTypeTicket()) || !isEnvelopeSize ? "Automatic"
                                                                             : "Envelope";
 }

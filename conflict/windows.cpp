@@ -11,6 +11,7 @@
 #include <QEvent>
 
 #include <algorithm>
+#include <utility>
 
 using conflict::Choice;
 using conflict::Window;
@@ -170,13 +171,25 @@ bool KorConflictController2::loadWindows()
 
 void KorConflictController2::connectWindows()
 {
+    connectChoices();
+    connectOkButtons();
+    for (const Window window : conflict::kAllWindows)
+        platform::setWindowDelegate(windowOf(window), this,
+                                    [this](QDialog *closing) { windowWillClose(closing); });
+}
+
+/// A click hands the button itself to its handler.
+template <class Button>
+void KorConflictController2::connectClick(Button *button,
+                                          void (KorConflictController2::*handler)(Button *))
+{
+    connect(button, &Button::clicked, this, [=, this] { (this->*handler)(button); });
+}
+
+void KorConflictController2::connectChoices()
+{
     using Self = KorConflictController2;
-    struct ChoiceClick
-    {
-        QRadioButton *button;
-        void (Self::*handler)(QRadioButton *);
-    };
-    const ChoiceClick choiceClicks[] = {
+    const std::pair<QRadioButton *, void (Self::*)(QRadioButton *)> handlers[] = {
         {ibFirstButton_MsgOne, &Self::clickFirstButton_MsgOne},
         {ibSecondButton_MsgOne, &Self::clickSecondButton_MsgOne},
         {ibThirdButton_MsgOne, &Self::clickThirdButton_MsgOne},
@@ -186,33 +199,24 @@ void KorConflictController2::connectWindows()
         {ibFirstButton_MsgFive, &Self::clickFirstButton_MsgFive},
         {ibSecondButton_MsgFive, &Self::clickSecondButton_MsgFive},
     };
-    for (const ChoiceClick &click : choiceClicks)
-        connect(click.button, &QRadioButton::clicked, this,
-                [this, click] { (this->*click.handler)(click.button); });
+    for (const auto &[button, handler] : handlers)
+        connectClick(button, handler);
+    for (const Window window : conflict::kConflictWindows)
+        for (const Choice &choice : choicesOf(window))
+            for (QLabel *label : choice.labels)
+                new LabelClicks(label, choice.button); // owned by the label
+}
 
-    struct OkClick
-    {
-        QPushButton *button;
-        void (Self::*handler)(QPushButton *);
-    };
-    const OkClick okClicks[] = {
+void KorConflictController2::connectOkButtons()
+{
+    using Self = KorConflictController2;
+    const std::pair<QPushButton *, void (Self::*)(QPushButton *)> handlers[] = {
         {ibOkButton_MsgOne, &Self::clickOkButton_MsgOne},
         {ibOkButton_MsgTwo, &Self::clickOkButton_MsgTwo},
         {ibOkButton_MsgFive, &Self::clickOkButton_MsgFive},
     };
-    for (const OkClick &click : okClicks)
-        connect(click.button, &QPushButton::clicked, this,
-                [this, click] { (this->*click.handler)(click.button); });
-
-    for (const Window window : conflict::kAllWindows)
-        platform::setWindowDelegate(windowOf(window), this,
-                                    [this](QDialog *closing) { windowWillClose(closing); });
-    for (const Window window : conflict::kConflictWindows) {
-        for (const Choice &choice : choicesOf(window)) {
-            for (QLabel *label : choice.labels)
-                new LabelClicks(label, choice.button); // owned by the label
-        }
-    }
+    for (const auto &[button, handler] : handlers)
+        connectClick(button, handler);
 }
 
 std::vector<Choice> KorConflictController2::choicesOf(Window window)

@@ -1,6 +1,7 @@
 #include "model/pde_tools.h"
 
 #include "diag/trace.h"
+#include "platform/driver_file.h"
 #include "platform/property_list.h"
 #include "platform/strings.h"
 #include "platform/values.h"
@@ -201,7 +202,7 @@ QString PDETools2::getPlistPath(ppd_file_t *ppd) const
 quint16 PDETools2::getProductYear(const QString &path) const
 {
     KV_TRACE("-[PDETools2 getProductYear:]");
-    const QVariant list = platform::readPropertyList(platform::resolved(path));
+    const QVariant list = platform::readPropertyListInRoot(path);
     const QVariant general = platform::valueForKey(list, QStringLiteral("General"));
     const QVariant year = platform::valueForKey(general, QStringLiteral("Product Year"));
     return year.isValid() ? static_cast<quint16>(platform::integerValue(year))

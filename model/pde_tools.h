@@ -49,7 +49,7 @@ public:
     /// Literal path of the driver configuration list; null without "APPrinterIconPath". Needs a
     /// PPD.
     [[nodiscard]] QString getPlistPath(ppd_file_t *ppd) const;
-    /// 65535 when the list or the year is missing.
+    /// 65535 when the list or the year is missing, and when the list lies outside the driver root.
     [[nodiscard]] quint16 getProductYear(const QString &path) const;
     /// Switches the job's mirror setting on, or removes it (it is never "false").
     void setMirrorValueFromPrintSettings(PMPrintSettings settings, bool flag) const;

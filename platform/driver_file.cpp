@@ -8,13 +8,14 @@
 namespace platform {
 namespace {
 
-/// The file's own path, without links and "..", when it lies in the driver's folder; else null.
-QString ownPathInDriverFolder(const QString &literalPath)
+/// The file's own path, without links and "..", when it lies in that folder; else null.
+QString ownPathIn(const QString &literalFolder, const QString &literalPath)
 {
-    const QString folder =
-        QFileInfo(resolved(QStringLiteral("/Library/Printers"))).canonicalFilePath();
+    QString folder = QFileInfo(resolved(literalFolder)).canonicalFilePath();
     const QString file = QFileInfo(resolved(literalPath)).canonicalFilePath();
-    const bool isInside = !folder.isEmpty() && file.startsWith(folder + u'/');
+    if (!folder.isEmpty() && !folder.endsWith(u'/'))
+        folder += u'/';
+    const bool isInside = !folder.isEmpty() && file.startsWith(folder);
     return isInside ? file : QString();
 }
 
@@ -22,7 +23,12 @@ QString ownPathInDriverFolder(const QString &literalPath)
 
 QVariant readDriverPropertyList(const QString &literalPath)
 {
-    return readPropertyList(ownPathInDriverFolder(literalPath));
+    return readPropertyList(ownPathIn(QStringLiteral("/Library/Printers"), literalPath));
+}
+
+QVariant readPropertyListInRoot(const QString &literalPath)
+{
+    return readPropertyList(ownPathIn(QStringLiteral("/"), literalPath));
 }
 
 } // namespace platform

@@ -13,4 +13,8 @@ namespace platform {
 /// "/Library/Printers"; anywhere else it reads as missing.
 [[nodiscard]] PLATFORM_EXPORT QVariant readDriverPropertyList(const QString &literalPath);
 
+/// The same for a list whose folder the PPD itself names: it may lie anywhere below the driver
+/// root.
+[[nodiscard]] PLATFORM_EXPORT QVariant readPropertyListInRoot(const QString &literalPath);
+
 } // namespace platform

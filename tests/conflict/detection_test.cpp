@@ -4,6 +4,7 @@
 #include "tests/support/debug_log_fixture.h"
 #include "tests/support/plugin_bundle.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <sys/stat.h>
@@ -304,6 +305,18 @@ TEST_F(Detection, Detection_17_ThePreferencesFileIsNamedByTheModelYear)
     EXPECT_FALSE(controller->isPhotoCartInstalled());
     make(test::p1().withoutAttribute("KorDriverPath"));
     EXPECT_TRUE(controller->isPhotoCartInstalled()) << "no model year";
+}
+
+TEST_F(Detection, PreferencesOutsideTheDriversFolderAreMissing)
+{
+    make();
+    root.writeCartridges(q("Color Standard"), q("Photo Standard"));
+    ASSERT_TRUE(controller->isPhotoCartInstalled());
+    const QString folder = root.realPath(q("/Library/Printers/Korvane/Preferences"));
+    const QString elsewhere = root.realPath(q("/elsewhere"));
+    ASSERT_TRUE(QDir().rename(folder, elsewhere));
+    ASSERT_TRUE(QFile::link(elsewhere, folder));
+    EXPECT_FALSE(controller->isPhotoCartInstalled());
 }
 
 TEST_F(Detection, Detection_18_WithoutAPaperNameOnlyTheMediaCounts)

@@ -182,6 +182,17 @@ TEST_F(Windows, Windows_09_InstructionsSilenceTheConflictForOnePass)
     EXPECT_EQ(person.opened(), QStringList({q("ibMsgFiveWindow")}));
 }
 
+TEST_F(Windows, OkLooksAtThePaperWhateverIsChosen)
+{
+    make();
+    setPaper("EnvDL");
+    ASSERT_TRUE(ConflictTestAccess::load(*controller));
+    const test::DebugLog log;
+    log.switchOn(test::DebugLog::kInfo);
+    controller->clickOkButton_MsgFive(outlets().ibOkButton_MsgFive);
+    EXPECT_EQ(log.infoMessages(), QStringList({q("paperName: EnvelopeDL")}));
+}
+
 TEST_F(Windows, Windows_10_PhotoPaperTakesTheInkBackToAutomatic)
 {
     make();

@@ -1,4 +1,5 @@
 #include "model/pde_tools.h"
+#include "platform/values.h"
 #include "tests/support/debug_log_fixture.h"
 #include "tests/support/driver_root.h"
 #include "tests/support/ppd_fixtures.h"
@@ -6,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 
 using test::OpenPpd;
@@ -179,6 +181,23 @@ TEST_F(Queries, Queries_11_AnUnknownYearIs65535)
     EXPECT_EQ(tools.getProductYear(kList), 65535) << "General is a string";
     root.writeList(kList, QVariantMap{{q("General"), QVariantMap{}}});
     EXPECT_EQ(tools.getProductYear(kList), 65535) << "no Product Year";
+}
+
+TEST_F(Queries, AListOutsideTheDriverRootIsMissing)
+{
+    const test::DriverRoot root;
+    root.writeProductYear(2009, q("/elsewhere/year.plist"));
+    platform::setDriverRoot(root.realPath(q("/root")));
+    root.writeProductYear(2009, q("/root/inside.plist"));
+    EXPECT_EQ(tools.getProductYear(q("/inside.plist")), 2009);
+    EXPECT_EQ(tools.getProductYear(q("/../root/inside.plist")), 2009) << "comes back";
+    EXPECT_EQ(tools.getProductYear(q("/../elsewhere/year.plist")), 65535);
+    ASSERT_TRUE(QFile::link(root.realPath(q("/elsewhere")), root.realPath(q("/root/link"))));
+    EXPECT_EQ(tools.getProductYear(q("/link/year.plist")), 65535) << "through a link";
+    const QString outside = root.realPath(q("/elsewhere/year.plist"));
+    EXPECT_EQ(tools.getProductYear(QDir::current().relativeFilePath(outside)), 65535);
+    platform::setDriverRoot(QString());
+    EXPECT_EQ(tools.getProductYear(outside), 2009) << "without a root everything lies inside";
 }
 
 TEST_F(Queries, Queries_12_MirrorIsTheWordTrueOrNoKeyAtAll)
