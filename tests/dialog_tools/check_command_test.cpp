@@ -174,6 +174,21 @@ TEST_F(CheckPpd, OptionsOfTheWrongTypeAreErrors)
                      "*OpenUI *ReduceGhosting", "error: ReduceGhosting is PickMany"));
 }
 
+TEST_F(CheckPpd, ThresholdsAPersonCanTypeAreChoices)
+{
+    const QStringList found =
+        toner({{"*Threshold 4/4: \"userdict/KorvaneThreshold(4)put\"\n", ""}});
+    EXPECT_EQ(found.size(), 1) << found.join(u'\n').toStdString();
+    EXPECT_TRUE(says(found, "*OpenUI *Threshold", "error: a person can type the threshold 4"));
+}
+
+TEST_F(CheckPpd, MoreThanTwoColorOutputsAreReported)
+{
+    EXPECT_TRUE(says(toner({{"*CloseUI: *ColorOutput",
+                             "*ColorOutput Sepia/Sepia: \"\"\n*CloseUI: *ColorOutput"}}),
+                     "*ColorOutput Sepia/", "warning: the panel has rules for the first two"));
+}
+
 TEST_F(CheckPpd, ColorPreferencesMustNotBearTheKeywordOfAPrintQuality)
 {
     const QStringList found = ink({{"*ColorPreferences Vivid/", "*ColorPreferences Best/"}});
@@ -197,6 +212,9 @@ TEST_F(CheckPpd, OptionsThatWouldNeverBeShownAreReported)
                                 "*ICCTestChartProcess On/On: \"\"\n"
                                 "*CloseUI: *ICCTestChartProcess\n"),
                      "*OpenUI *ICCTestChartProcess", "will not be shown"));
+    // Without its list, the printer counts as one of a later year.
+    EXPECT_TRUE(says(ink({{"*NickName: \"Korvane S300\"", "*NickName: \"Korvane S9\""}}),
+                     "*OpenUI *DupDryTime", "says 65535 as product year"));
 }
 
 TEST_F(CheckPpd, TheOtherPanelsOptionsAreMissedWhereItIsOffered)
