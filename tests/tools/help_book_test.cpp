@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTextDocument>
@@ -122,6 +123,20 @@ TEST_P(HelpBook, IsWellFormedWithATitleAndTextOnEachPage)
     }
     EXPECT_EQ(titles.size(), pagesOf(GetParam()).size());
     EXPECT_FALSE(titles.contains(QString()));
+}
+
+TEST_P(HelpBook, ShowsAPictureOnEachPageOfASetting)
+{
+    for (const QString &page : pagesOf(GetParam())) {
+        if (page == q("index.html"))
+            continue;
+        const QString html = read(bookOf(GetParam()) + q("/") + page);
+        static const QRegularExpression picture(q("<img src=\"([^\"]+)\" alt=\"([^\"]+)\"/>"));
+        const QRegularExpressionMatch found = picture.match(html);
+        EXPECT_SAME(found.captured(2), titleOf(html)) << qPrintable(page);
+        EXPECT_FALSE(QImage(bookOf(GetParam()) + q("/") + found.captured(1)).isNull())
+            << qPrintable(page);
+    }
 }
 
 TEST_P(HelpBook, IsWrittenInItsLanguage)
