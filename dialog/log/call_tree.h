@@ -52,7 +52,7 @@ public:
     {
         std::size_t entries = 50'000;
         std::size_t bytes = 32 * 1024 * 1024;
-        std::size_t depth = 1'000; ///< deeper calls stand as records
+        std::size_t depth = 200; ///< deeper calls stand as records
         std::size_t processes = 32;
     };
 

@@ -194,28 +194,31 @@ private:
     qint64 process_ = -1;
 };
 
-/// Whether the rest of the line, up to its line feed, is not among the bytes.
-LineEnd endOf(const QByteArray &line, QFile &file)
+/// Reads past the rest of a line that is longer than the buffer. False when the file ends first.
+bool skipRest(QFile &file, QByteArray &buffer)
 {
-    if (line.endsWith('\n'))
-        return LineEnd::Whole;
-    QByteArray rest = line;
-    while (!rest.endsWith('\n') && !rest.isEmpty())
-        rest = file.readLine(kLongestLine);
-    return line.size() < kLongestLine - 1 && rest.isEmpty() ? LineEnd::Cut : LineEnd::TooLong;
+    qint64 length = 0;
+    do
+        length = file.readLine(buffer.data(), buffer.size());
+    while (length > 0 && buffer[length - 1] != '\n');
+    return length > 0;
 }
 
 void readLines(QFile &file, RecordReader &reader)
 {
+    QByteArray line(kLongestLine, Qt::Uninitialized);
+    QByteArray rest(kLongestLine, Qt::Uninitialized);
     for (;;) {
-        // One byte less than this, since Qt counts a NUL at the end.
-        QByteArray line = file.readLine(kLongestLine);
-        if (line.isEmpty())
+        const qint64 length = file.readLine(line.data(), line.size());
+        if (length <= 0)
             return;
-        const LineEnd end = endOf(line, file);
-        if (end == LineEnd::Whole)
-            line.chop(1);
-        reader.takeLine(line, end);
+        const bool isWhole = line[length - 1] == '\n';
+        // Qt keeps one byte for a NUL.
+        const bool isFull = length == kLongestLine - 1;
+        const LineEnd end = isWhole                          ? LineEnd::Whole
+                            : isFull && skipRest(file, rest) ? LineEnd::TooLong
+                                                             : LineEnd::Cut;
+        reader.takeLine(QByteArrayView(line).first(isWhole ? length - 1 : length), end);
     }
 }
 
