@@ -17,7 +17,7 @@
 namespace dialog::debuglog {
 namespace {
 
-constexpr int kFolder = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+constexpr int kFolder = O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 constexpr mode_t kOthersMayWrite = S_IWGRP | S_IWOTH;
 
 QByteArray encoded(const QString &name)
