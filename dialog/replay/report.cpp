@@ -6,51 +6,72 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 
-namespace dialog::replay {
+#include <array>
 
-void Report::add(const char *event, QJsonObject details)
+namespace dialog::replay {
+namespace {
+
+constexpr std::array<const char *, static_cast<std::size_t>(EventKind::Count)> kEventNames{
+    "offer", "console", "window", "window-closed", "notification", "resize", "help", "job"};
+
+QString nameOf(EventKind event)
 {
-    details.insert(QStringLiteral("event"), QString::fromLatin1(event));
+    return QString::fromLatin1(kEventNames[static_cast<std::size_t>(event)]);
+}
+
+} // namespace
+
+QStringList eventNames()
+{
+    QStringList names;
+    for (const char *name : kEventNames)
+        names.append(QString::fromLatin1(name));
+    return names;
+}
+
+void Report::add(EventKind event, QJsonObject details)
+{
+    details.insert(QStringLiteral("event"), nameOf(event));
     events_.append(details);
 }
 
 void Report::offer(const Choice &choice, bool accepted)
 {
-    add("offer", {{QStringLiteral("option"), textJson(choice.option)},
-                  {QStringLiteral("choice"), textJson(choice.choice)},
-                  {QStringLiteral("answer"), accepted}});
+    add(EventKind::Offer, {{QStringLiteral("option"), textJson(choice.option)},
+                           {QStringLiteral("choice"), textJson(choice.choice)},
+                           {QStringLiteral("answer"), accepted}});
 }
 
 void Report::console(const QString &line)
 {
-    add("console", {{QStringLiteral("text"), line}});
+    add(EventKind::Console, {{QStringLiteral("text"), line}});
 }
 
 void Report::windowOpened(const QDialog *window)
 {
-    add("window", {{QStringLiteral("name"), window->objectName()},
-                   {QStringLiteral("title"), window->windowTitle()},
-                   {QStringLiteral("texts"), windowTexts(window)}});
+    add(EventKind::Window, {{QStringLiteral("name"), window->objectName()},
+                            {QStringLiteral("title"), window->windowTitle()},
+                            {QStringLiteral("texts"), windowTexts(window)}});
 }
 
 void Report::windowClosed(const QString &objectName)
 {
-    add("window-closed", {{QStringLiteral("name"), objectName}});
+    add(EventKind::WindowClosed, {{QStringLiteral("name"), objectName}});
 }
 
 void Report::notification(const QString &name)
 {
-    add("notification", {{QStringLiteral("name"), textJson(name)}});
+    add(EventKind::Notification, {{QStringLiteral("name"), textJson(name)}});
 }
 
 void Report::resize()
 {
-    add("resize", {});
+    add(EventKind::Resize, {});
 }
 
 void Report::help(const QString &book)
 {
-    add("help", {{QStringLiteral("book"), textJson(book)}});
+    add(EventKind::Help, {{QStringLiteral("book"), textJson(book)}});
 }
 
 void Report::job(const JobRecord &job)
@@ -58,9 +79,10 @@ void Report::job(const JobRecord &job)
     const QString stableId = QStringLiteral("job-%1").arg(++jobs_);
     const bool isStable = naming_ == Naming::Stable;
     const QString stableTicket = stableId + u'/' + QFileInfo(job.ticketPath).fileName();
-    add("job", {{QStringLiteral("id"), isStable ? stableId : job.id},
-                {QStringLiteral("options"), optionsJson(job.options)},
-                {QStringLiteral("ticket"), textJson(isStable ? stableTicket : job.ticketPath)}});
+    add(EventKind::Job,
+        {{QStringLiteral("id"), isStable ? stableId : job.id},
+         {QStringLiteral("options"), optionsJson(job.options)},
+         {QStringLiteral("ticket"), textJson(isStable ? stableTicket : job.ticketPath)}});
 }
 
 void Report::snapshot(const QString &name, const QJsonObject &snapshot)

@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 
 class QDialog;
 
@@ -12,6 +13,20 @@ namespace dialog::replay {
 
 /// Whether job ids and times stand in the report as they are, or as "job-1", "job-2", ...
 enum class Naming { Actual, Stable };
+
+/// What an event can be, by the words of the report.
+enum class EventKind {
+    Offer,
+    Console,
+    Window,
+    WindowClosed,
+    Notification,
+    Resize,
+    Help,
+    Job,
+    Count
+};
+[[nodiscard]] QStringList eventNames();
 
 /// What happened during a scenario: events in order, snapshots by name. Keys are sorted, texts
 /// UTF-8.
@@ -33,7 +48,7 @@ public:
     [[nodiscard]] QByteArray json() const;
 
 private:
-    void add(const char *event, QJsonObject details);
+    void add(EventKind event, QJsonObject details);
 
     Naming naming_;
     int jobs_ = 0;

@@ -1,0 +1,53 @@
+#!/usr/bin/env bash
+# run_case.sh BUILD_FOLDER SCENARIO: plays a scenario, records what a person does in it, plays the recording, and
+# compares the two reports whole. Recording the recording must give the same lines once more.
+# With a third word, the recording must be that file too; UPDATE_EXPECTED=1 writes it instead.
+set -euo pipefail
+
+build=$(cd "$1" && pwd)
+scenario=$2
+recorded=${3:-}
+
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+mkdir "$scratch/run" "$scratch/tmp"
+chmod 700 "$scratch/run"
+
+# play SCENARIO NAME [OPTION...]: the same surroundings on every machine and for every user.
+play() {
+    local scenario=$1 name=$2
+    shift 2
+    env -i PATH="$PATH" HOME="$scratch" LC_ALL=C.UTF-8 TMPDIR="$scratch/tmp" \
+        XDG_RUNTIME_DIR="$scratch/run" XDG_DATA_HOME="$scratch/data" QT_QPA_PLATFORM=offscreen \
+        CUPS_SERVER=127.0.0.1:1 \
+        ${ASAN_OPTIONS:+ASAN_OPTIONS="$ASAN_OPTIONS"} \
+        "$build/bin/korvane-print" replay "$scenario" --root "$build/root" --stable \
+        --report "$scratch/$name.json" "$@" 2>"$scratch/$name.err" || {
+        cat "$scratch/$name.err"
+        [[ $name == original ]] || cat "$scenario"
+        return 1
+    }
+}
+
+# Where printer and driver lie is no part of a recording that stands in the project.
+portable() {
+    sed -E 's#^printer .*/(driver/ppd/)#printer ../../../\1#; /^root /d' "$1"
+}
+
+play "$scenario" original --record "$scratch/first.scenario"
+play "$scratch/first.scenario" replayed --record "$scratch/second.scenario"
+outcome=0
+diff -u --label "original report" --label "report of the recording" \
+    "$scratch/original.json" "$scratch/replayed.json" || outcome=1
+diff -u --label "recording" --label "recording of the recording" \
+    "$scratch/first.scenario" "$scratch/second.scenario" || outcome=1
+if [[ -n $recorded && -n ${UPDATE_EXPECTED:-} ]]; then
+    portable "$scratch/first.scenario" >"$recorded"
+elif [[ -n $recorded ]]; then
+    portable "$scratch/first.scenario" | diff -u --label "expected recording" "$recorded" - || outcome=1
+    play "$recorded" kept
+    diff -u --label "original report" --label "report of the kept recording" \
+        "$scratch/original.json" "$scratch/kept.json" || outcome=1
+fi
+((outcome == 0)) || cat "$scratch/first.scenario"
+exit "$outcome"
