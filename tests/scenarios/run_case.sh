@@ -11,20 +11,28 @@ trap 'rm -rf "$scratch"' EXIT
 mkdir "$scratch/run" "$scratch/tmp"
 chmod 700 "$scratch/run"
 
+# The driver's files; those of the case's own printer, where it has other cartridges in.
+root=$build/root
+if [[ -e $case/preferences.plist ]]; then
+    cp -a "$root" "$scratch/root"
+    root=$scratch/root
+    cp "$case/preferences.plist" "$root/Library/Printers/Korvane/Preferences/com.korvane.prefs.2009.plist"
+fi
+
 # The same surroundings on every machine and for every user.
 play() {
     env -i PATH="$PATH" HOME="$scratch" LC_ALL=C.UTF-8 TMPDIR="$scratch/tmp" \
         XDG_RUNTIME_DIR="$scratch/run" XDG_DATA_HOME="$scratch/data" QT_QPA_PLATFORM=offscreen \
         CUPS_SERVER=127.0.0.1:1 \
         ${ASAN_OPTIONS:+ASAN_OPTIONS="$ASAN_OPTIONS"} \
-        "$build/bin/korvane-print" replay "$case/case.scenario" --root "$build/root" --stable \
+        "$build/bin/korvane-print" replay "$case/case.scenario" --root "$root" --stable \
         --report "$scratch/report.json"
 }
 
-# Paths of this run, and what Qt and the debug log say of themselves, are no part of the case.
+# The program's own messages, without paths of this run. What Qt, the debug log and the panels' console
+# write beside them is no part of the case.
 messages() {
-    sed -e "s#$case/##g; s#$scratch#SCRATCH#g; s#$build#BUILD#g" -e '/^This plugin does not support/d' \
-        -e '/^tmp at /d' "$1"
+    sed -n "s#$case/##g; s#$scratch#SCRATCH#g; s#$build#BUILD#g; /^korvane-print: /p" "$1"
 }
 
 # compare ACTUAL EXPECTED: shows the difference, or makes the expected file the actual one.
@@ -48,4 +56,5 @@ outcome=0
 compare "$scratch/status" "$case/status" || outcome=1
 compare "$scratch/message" "$case/message" || outcome=1
 compare "$scratch/report.json" "$case/expected.json" || outcome=1
+((outcome == 0)) || sed 's/^/standard error: /' "$scratch/stderr"
 exit "$outcome"
