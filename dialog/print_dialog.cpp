@@ -57,21 +57,29 @@ const QString kHelpKey = QStringLiteral("help");
 
 } // namespace
 
-PrintDialog::Opened PrintDialog::open(const PrintCase &printCase)
+QString PrintDialog::prepare(const PrintCase &printCase)
 {
     setPlatformValues(printCase);
-    if (!printCase.document.isNull()) {
-        const QString problem = documentProblem(printCase.document);
-        if (!problem.isNull())
-            return problem;
-    }
+    return printCase.document.isNull() ? QString() : documentProblem(printCase.document);
+}
+
+std::unique_ptr<PrintDialog> PrintDialog::withPrinter(const PrintCase &printCase,
+                                                      std::unique_ptr<PpdDocument> printer)
+{
+    return std::unique_ptr<PrintDialog>(new PrintDialog(printCase, std::move(printer)));
+}
+
+PrintDialog::Opened PrintDialog::open(const PrintCase &printCase)
+{
+    const QString problem = prepare(printCase);
+    if (!problem.isNull())
+        return problem;
     if (printCase.ppd.isNull() && printCase.queue.isNull())
         return QStringLiteral("no printer; name one with --ppd FILE or --queue NAME");
     PpdDocument::Opened opened = openPrinter(printCase);
     if (const auto *error = std::get_if<PpdError>(&opened))
         return error->message();
-    auto printer = std::move(std::get<std::unique_ptr<PpdDocument>>(opened));
-    return std::unique_ptr<PrintDialog>(new PrintDialog(printCase, std::move(printer)));
+    return withPrinter(printCase, std::move(std::get<std::unique_ptr<PpdDocument>>(opened)));
 }
 
 PrintDialog::PrintDialog(const PrintCase &printCase, std::unique_ptr<PpdDocument> printer)
@@ -88,7 +96,11 @@ PrintDialog::~PrintDialog()
     platform::setHelpOpener(formerHelpOpener_);
     host_.setFrontPanel(nullptr);
     host_.setPanels({});
-    window_.reset();
+    if (window_ && !ownWindow_) {
+        delete helpWindow_;
+        window_->clearPanels();
+    }
+    ownWindow_.reset();
     panels_.clear();
 }
 
@@ -96,10 +108,17 @@ void PrintDialog::showPanels()
 {
     if (window_)
         return;
+    ownWindow_ = std::make_unique<PrintWindow>(printer_->nickName(), documentName(case_.document));
+    showPanelsIn(*ownWindow_);
+}
+
+void PrintDialog::showPanelsIn(PrintWindow &window)
+{
     Q_EMIT aboutToShowPanels();
     host_.takeMarksAsChosen();
     loadPanels();
-    makeWindow();
+    window_ = &window;
+    connectWindow();
     restorePanels();
     if (!panels_.empty())
         bringForward(0);
@@ -114,7 +133,10 @@ void PrintDialog::loadPanels()
 {
     const QStringList paths = printer_->attributeValues("APDialogExtension");
     if (paths.isEmpty())
-        notify({QStringLiteral("panels"), Severity::Information, text(Text::PanelsMissing), {}});
+        notify({QStringLiteral("panels"),
+                Severity::Information,
+                text(printer_->path().isNull() ? Text::QueueWithoutPpd : Text::PanelsMissing),
+                {}});
     for (const QString &path : paths)
         loadPanelsOf(path);
     PDEPanelList list;
@@ -143,14 +165,13 @@ void PrintDialog::loadPanelsOf(const QString &literalBundlePath)
             panels_.push_back({panel, {}, {}});
 }
 
-void PrintDialog::makeWindow()
+void PrintDialog::connectWindow()
 {
-    window_ = std::make_unique<PrintWindow>(printer_->nickName(), documentName(case_.document));
-    connect(window_.get(), &PrintWindow::panelPicked, this, &PrintDialog::bringForward);
-    connect(window_.get(), &PrintWindow::helpRequested, this, &PrintDialog::showHelp);
-    connect(window_.get(), &PrintWindow::printRequested, this, [this] { print(Review::Ask); });
-    connect(window_.get(), &PrintWindow::left, this, &PrintDialog::leave);
-    connect(&host_, &DialogHost::panelResized, window_.get(), &PrintWindow::fitContents);
+    connect(window_, &PrintWindow::panelPicked, this, &PrintDialog::bringForward);
+    connect(window_, &PrintWindow::helpRequested, this, &PrintDialog::showHelp);
+    connect(window_, &PrintWindow::printRequested, this, [this] { print(Review::Ask); });
+    connect(window_, &PrintWindow::left, this, &PrintDialog::leave);
+    connect(&host_, &DialogHost::panelResized, window_, &PrintWindow::fitContents);
     // What an earlier action was refused is told, and past, once a person tries something else.
     connect(&host_, &DialogHost::actionBegan, &window_->notices(),
             [this] { window_->notices().dismissGroup(kOfferGroup); });
@@ -217,7 +238,7 @@ void PrintDialog::showBook(const platform::HelpRequest &request)
         return;
     }
     if (!helpWindow_)
-        helpWindow_ = new HelpWindow(window_.get());
+        helpWindow_ = new HelpWindow(window_);
     helpWindow_->showPage(request.bookName, page, request.anchor);
 }
 

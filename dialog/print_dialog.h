@@ -51,11 +51,17 @@ public:
     /// Sets the platform values, checks the document and opens the printer; without panels so far.
     /// The alternative is what to tell a person before the program ends.
     [[nodiscard]] static Opened open(const PrintCase &printCase);
+    /// The two halves of it, for a printer that comes from elsewhere: null, or what to tell.
+    [[nodiscard]] static QString prepare(const PrintCase &printCase);
+    [[nodiscard]] static std::unique_ptr<PrintDialog>
+    withPrinter(const PrintCase &printCase, std::unique_ptr<PpdDocument> printer);
     ~PrintDialog() override;
 
     /// Loads the plug-ins that the PPD names, restores their panels from what is marked, and shows
     /// the window with the first one in front. Does nothing the second time.
     void showPanels();
+    /// The same in a window that outlives this dialog, and loses the panels with it.
+    void showPanelsIn(PrintWindow &window);
     [[nodiscard]] bool hasShownPanels() const { return window_ != nullptr; }
 
     [[nodiscard]] const PrintCase &printCase() const { return case_; }
@@ -64,7 +70,7 @@ public:
     [[nodiscard]] const std::vector<Panel> &panels() const { return panels_; }
     [[nodiscard]] int frontIndex() const;
     /// Null before showPanels().
-    [[nodiscard]] PrintWindow *window() const { return window_.get(); }
+    [[nodiscard]] PrintWindow *window() const { return window_; }
 
     CommitResult commit() { return host_.commitPanels(); }
     void setDocument(const QString &path);
@@ -85,7 +91,7 @@ private:
 
     void loadPanels();
     void loadPanelsOf(const QString &literalBundlePath);
-    void makeWindow();
+    void connectWindow();
     void restorePanels();
     void bringForward(int index);
     void showHelp();
@@ -110,7 +116,8 @@ private:
     DialogHost host_;
     std::vector<PlugIn> plugIns_;
     std::vector<Panel> panels_;
-    std::unique_ptr<PrintWindow> window_;
+    std::unique_ptr<PrintWindow> ownWindow_;
+    PrintWindow *window_ = nullptr; ///< this or another's; null until the panels are shown
     std::vector<Notice> early_;        ///< shown as soon as there is a window
     HelpWindow *helpWindow_ = nullptr; ///< belongs to the window
     QueueJob *queueJob_ = nullptr;

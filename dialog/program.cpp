@@ -3,6 +3,8 @@
 #include "dialog/check/check_command.h"
 #include "dialog/command_line.h"
 #include "dialog/log/log_command.h"
+#include "dialog/queue_dialog.h"
+#include "dialog/queue_list_command.h"
 #include "dialog/record/recorder.h"
 #include "dialog/replay/scenario.h"
 #include "dialog/usage.h"
@@ -50,17 +52,37 @@ void dropRemarksOnMissingDisplay(QtMsgType type, const QMessageLogContext &conte
         formerMessageHandler()(type, context, message);
 }
 
+/// The program ends with its dialog, whichever that is.
+template <class Dialog>
+void quitWith(Dialog *dialog)
+{
+    QObject::connect(dialog, &Dialog::left, qApp, &QCoreApplication::quit);
+    QObject::connect(dialog, &Dialog::jobMade, qApp, [](const JobRecord &job) {
+        say(job.ticketPath.isNull() ? job.id : job.ticketPath);
+        QCoreApplication::quit();
+    });
+}
+
+int runQueueDialog(const PrintCase &printCase)
+{
+    const QString problem = PrintDialog::prepare(printCase);
+    if (!problem.isNull())
+        return refuse(problem);
+    QueueDialog dialog(printCase, serverSources());
+    quitWith(&dialog);
+    return QCoreApplication::exec();
+}
+
 int runDialog(const CommandLine &line, std::unique_ptr<record::Recording> recording)
 {
+    // A recording is of one printer.
+    if (line.printCase.ppd.isNull() && !recording)
+        return runQueueDialog(line.printCase);
     PrintDialog::Opened opened = PrintDialog::open(line.printCase);
     if (const auto *problem = std::get_if<QString>(&opened))
         return refuse(*problem);
     const auto dialog = std::move(std::get<std::unique_ptr<PrintDialog>>(opened));
-    QObject::connect(dialog.get(), &PrintDialog::left, qApp, &QCoreApplication::quit);
-    QObject::connect(dialog.get(), &PrintDialog::jobMade, qApp, [](const JobRecord &job) {
-        say(job.ticketPath.isNull() ? job.id : job.ticketPath);
-        QCoreApplication::quit();
-    });
+    quitWith(dialog.get());
     std::unique_ptr<record::Recorder> recorder;
     if (recording)
         recorder = std::make_unique<record::Recorder>(std::move(recording), *dialog);
@@ -162,6 +184,7 @@ struct Command
     int (*run)(const QStringList &words);
 };
 constexpr Command kCommands[] = {
+    {"--list", runQueueListCommand},
     {"check-ppd", check::runCheckCommand},
     {"log", debuglog::runLogCommand},
 };

@@ -41,6 +41,11 @@ QFrame *separator()
 } // namespace
 
 PrintWindow::PrintWindow(const QString &printer, const QString &document)
+    : PrintWindow(literalLabel(printer), document)
+{
+}
+
+PrintWindow::PrintWindow(QWidget *printer, const QString &document) : printer_(printer)
 {
     setObjectName(QStringLiteral("printWindow"));
     setWindowTitle(text(Text::WindowTitle));
@@ -48,6 +53,11 @@ PrintWindow::PrintWindow(const QString &printer, const QString &document)
     panelPlace_ = new QWidget(this);
     panelLayout_ = new QVBoxLayout(panelPlace_);
     panelLayout_->setContentsMargins({});
+    waiting_ = literalLabel({});
+    waiting_->setObjectName(QStringLiteral("waiting"));
+    waiting_->setAlignment(Qt::AlignCenter);
+    waiting_->hide();
+    panelLayout_->addWidget(waiting_);
     notices_ = new NoticeArea(this);
     auto *column = new QVBoxLayout(this);
     column->addWidget(makeHeading(printer, document));
@@ -59,7 +69,7 @@ PrintWindow::PrintWindow(const QString &printer, const QString &document)
     connect(notices_, &NoticeArea::heightChanged, this, &PrintWindow::fitContents);
 }
 
-QWidget *PrintWindow::makeHeading(const QString &printer, const QString &document)
+QWidget *PrintWindow::makeHeading(QWidget *printer, const QString &document)
 {
     auto *heading = new QWidget(this);
     auto *form = new QFormLayout(heading);
@@ -71,7 +81,7 @@ QWidget *PrintWindow::makeHeading(const QString &printer, const QString &documen
     popUpLabel_ = literalLabel(text(Text::Settings));
     popUpLabel_->setBuddy(popUp_);
     popUp_->setAccessibleName(text(Text::Settings));
-    form->addRow(literalLabel(text(Text::Printer)), literalLabel(printer));
+    form->addRow(literalLabel(text(Text::Printer)), printer);
     form->addRow(literalLabel(text(Text::Document)), document_);
     form->addRow(popUpLabel_, popUp_);
     popUpLabel_->hide();
@@ -108,6 +118,26 @@ void PrintWindow::addPanel(const QString &title, QWidget *view)
     popUp_->addItem(title);
     popUpLabel_->show();
     popUp_->show();
+}
+
+void PrintWindow::clearPanels()
+{
+    for (const QPointer<QWidget> &view : std::exchange(views_, {}))
+        delete view;
+    popUp_->clear();
+    popUpLabel_->hide();
+    popUp_->hide();
+    front_ = -1;
+    notices_->dismissGroup({});
+}
+
+void PrintWindow::setWaiting(const QString &text)
+{
+    waiting_->setText(text);
+    waiting_->setVisible(!text.isEmpty());
+    isWaiting_ = !text.isNull();
+    allowPrinting();
+    fitContents();
 }
 
 void PrintWindow::bringForward(int index)
@@ -150,8 +180,16 @@ void PrintWindow::fitContents()
 
 void PrintWindow::setSending(bool isSending)
 {
-    print_->setEnabled(!isSending);
+    isSending_ = isSending;
     print_->setText(text(isSending ? Text::Sending : Text::Print));
+    allowPrinting();
+}
+
+/// A job on its way keeps its printer.
+void PrintWindow::allowPrinting()
+{
+    print_->setEnabled(!isSending_ && !isWaiting_);
+    printer_->setEnabled(!isSending_);
 }
 
 void PrintWindow::reject()

@@ -22,9 +22,16 @@ class PrintWindow : public QDialog
 
 public:
     PrintWindow(const QString &printer, const QString &document);
+    /// With a control in the printer's place, which becomes the window's.
+    PrintWindow(QWidget *printer, const QString &document);
 
     /// Adds a panel; a null view shows as an empty panel. The window becomes the view's parent.
     void addPanel(const QString &title, QWidget *view);
+    /// Destroys the views of all panels, whose printer goes, and dismisses what was said of it.
+    void clearPanels();
+    /// Says in the panels' place what is waited for; an empty text says nothing. Until a null one
+    /// there is nothing to print.
+    void setWaiting(const QString &text);
     /// Shows a panel's view without telling anybody.
     void bringForward(int index);
     [[nodiscard]] int frontIndex() const { return front_; }
@@ -50,19 +57,24 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    [[nodiscard]] QWidget *makeHeading(const QString &printer, const QString &document);
+    [[nodiscard]] QWidget *makeHeading(QWidget *printer, const QString &document);
     [[nodiscard]] QWidget *makeButtons();
     void leave();
+    void allowPrinting();
 
+    QWidget *printer_ = nullptr;
     QLabel *document_ = nullptr;
     QLabel *popUpLabel_ = nullptr;
     PopUpButton *popUp_ = nullptr;
     QWidget *panelPlace_ = nullptr;
     QVBoxLayout *panelLayout_ = nullptr;
+    QLabel *waiting_ = nullptr;
     NoticeArea *notices_ = nullptr;
     QPushButton *print_ = nullptr;
     std::vector<QPointer<QWidget>> views_;
     int front_ = -1;
+    bool isSending_ = false;
+    bool isWaiting_ = false;
     bool hasLeft_ = false;
 };
 

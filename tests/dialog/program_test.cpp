@@ -73,9 +73,10 @@ protected:
 
 // What the program is started with.
 
-TEST_F(Program, WithoutAPrinterCannotStart)
+TEST_F(Program, WithoutAPrinterAReplayCannotStart)
 {
-    const ProgramRun run = runPrint({});
+    const ProgramRun run =
+        runPrint({q("replay"), driver.write(q("any.scenario"), "mark PageSize A4\n")});
     EXPECT_EQ(run.status, 2);
     EXPECT_TRUE(run.errors.contains("--ppd")) << run.errors.constData();
 }

@@ -1,0 +1,255 @@
+#include "dialog/queue_dialog.h"
+
+#include "dialog/host/offer.h"
+#include "dialog/printers/errand.h"
+#include "dialog/texts.h"
+#include "dialog/window/print_window.h"
+#include "dialog/window/printer_picker.h"
+#include "dialog/window/printer_words.h"
+#include "platform/controls/modal_session.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace dialog {
+namespace {
+
+constexpr std::chrono::seconds kPollInterval{5};
+
+const QString kServerKey = QStringLiteral("server");
+const QString kPrinterKey = QStringLiteral("printer");
+const QString kLeftBehindKey = QStringLiteral("left-behind");
+
+QString documentName(const QString &path)
+{
+    return path.isNull() ? QString() : QFileInfo(path).fileName();
+}
+
+} // namespace
+
+QueueSources serverSources(const ServerTimes &times)
+{
+    return {[times] { return listQueues(times); },
+            [times](const QString &queue) { return openQueuePrinter(queue, times); },
+            {times.list, kPollInterval},
+            times.printer};
+}
+
+QueueDialog::QueueDialog(const PrintCase &printCase, QueueSources sources)
+    : case_(printCase), sources_(std::move(sources)), picker_(new PrinterPicker),
+      window_(std::make_unique<PrintWindow>(picker_, documentName(printCase.document))),
+      watch_(sources_.list, sources_.listTimes)
+{
+    connect(picker_, &PrinterPicker::picked, this, &QueueDialog::switchTo, Qt::QueuedConnection);
+    connect(&watch_, &QueueWatch::answered, this, &QueueDialog::takeListing);
+    connect(window_.get(), &PrintWindow::left, this, &QueueDialog::leave);
+    isRemembered_ = case_.queue.isNull();
+    const QString wanted = isRemembered_ ? lastUsedQueue() : case_.queue;
+    window_->setWaiting(text(Text::Connecting, {printServerName()}));
+    window_->show();
+    watch_.ask();
+    if (!wanted.isNull())
+        connectTo(wanted);
+}
+
+QueueDialog::~QueueDialog() = default;
+
+void QueueDialog::takeListing(const QueueListing &listing)
+{
+    if (listing.problem) {
+        takeProblem(listing.problem);
+        return;
+    }
+    queues_ = inOrderOfUse(listing.queues, lastUsedQueue());
+    picker_->setQueues(queues_);
+    if (queues_.empty()) {
+        window_->setWaiting(dialog_ ? QString() : QLatin1String(""));
+        tell(kServerKey, text(Text::NoQueues, {printServerName()}), {tryAgainAction()});
+        return;
+    }
+    retract(kServerKey);
+    if (queue_.isNull())
+        chooseQueue();
+    else if (dialog_ && !findQueue(queues_, queue_))
+        tell(kPrinterKey, text(Text::QueueGone, {queue_}), {});
+    else if (dialog_)
+        retract(kPrinterKey);
+}
+
+/// What was known of the queues stays, but none can be reached.
+void QueueDialog::takeProblem(const ServerProblem &problem)
+{
+    for (Queue &queue : queues_) {
+        queue.state = QueueState::Unreachable;
+        queue.reason = QString();
+    }
+    picker_->setQueues(queues_);
+    if (queue_.isNull())
+        window_->setWaiting(QLatin1String(""));
+    if (told_.find(kPrinterKey) == told_.end())
+        tell(kServerKey, problemText(problem), {tryAgainAction()});
+}
+
+void QueueDialog::chooseQueue()
+{
+    if (queues_.empty())
+        return;
+    isRemembered_ = false;
+    connectTo(queues_.front().name);
+}
+
+void QueueDialog::missQueue()
+{
+    if (!isRemembered_) {
+        failPrinter(text(Text::QueueGone, {queue_}));
+        return;
+    }
+    queue_ = QString();
+    picker_->select(queue_);
+    chooseQueue();
+}
+
+void QueueDialog::tryAgain()
+{
+    told_.clear();
+    watch_.ask();
+    if (!queue_.isNull() && !dialog_)
+        connectTo(queue_);
+    else if (!dialog_)
+        window_->setWaiting(text(Text::Connecting, {printServerName()}));
+}
+
+/// Comes from the event loop, so that no panel's call is under way but one that runs a modal
+/// window; that ends first.
+void QueueDialog::switchTo(const QString &queue)
+{
+    if (platform::modalDepth() > 0) {
+        platform::stopAllModalSessions();
+        QMetaObject::invokeMethod(
+            this, [this, queue] { switchTo(queue); }, Qt::QueuedConnection);
+        return;
+    }
+    isRemembered_ = false;
+    rememberChoices();
+    connectTo(queue);
+}
+
+void QueueDialog::connectTo(const QString &queue)
+{
+    delete connecting_;
+    dialog_.reset();
+    told_.clear();
+    window_->clearPanels();
+    queue_ = queue;
+    picker_->select(queue);
+    window_->setWaiting(text(Text::Connecting, {queue}));
+    connecting_ = runErrand<QueuePrinter>(
+        this, sources_.printerDeadline, [open = sources_.printer, queue] { return open(queue); },
+        [this](auto answer) { takePrinter(std::move(answer)); });
+}
+
+void QueueDialog::takePrinter(std::optional<QueuePrinter> answer)
+{
+    if (!answer)
+        answer.emplace(
+            QueuePrinter{QueuePrinter::Outcome::ServerFailed, {}, {ServerFault::Silent}, {}});
+    switch (answer->outcome) {
+    case QueuePrinter::Outcome::Opened:
+    case QueuePrinter::Outcome::NoPpd:
+        show(std::move(answer->printer));
+        break;
+    case QueuePrinter::Outcome::NoQueue:
+        missQueue();
+        break;
+    case QueuePrinter::Outcome::BrokenPpd:
+        failPrinter(text(Text::QueuePpdBroken, {queue_, answer->reason}));
+        break;
+    case QueuePrinter::Outcome::ServerFailed:
+        failPrinter(problemText(answer->problem));
+        break;
+    }
+}
+
+void QueueDialog::show(std::unique_ptr<PpdDocument> printer)
+{
+    PrintCase printCase = case_;
+    printCase.queue = queue_;
+    dialog_ = PrintDialog::withPrinter(printCase, std::move(printer));
+    saved_ = dialog_->printer().marks();
+    QStringList leftBehind = carryChoices();
+    connect(dialog_.get(), &PrintDialog::jobMade, this, [this](const JobRecord &job) {
+        rememberLastUsedQueue(queue_);
+        Q_EMIT jobMade(job);
+    });
+    connect(dialog_.get(), &PrintDialog::left, this, &QueueDialog::left);
+    window_->setWaiting({});
+    dialog_->showPanelsIn(*window_);
+    if (!leftBehind.isEmpty()) {
+        leftBehind.prepend(text(Text::ChoicesLeftBehind));
+        window_->notices().show({kLeftBehindKey, Severity::Warning, leftBehind.join(u'\n'), {}});
+    }
+    Q_EMIT ready(queue_);
+}
+
+/// What the user has saved for a queue is that queue's, and no choice for another one.
+void QueueDialog::rememberChoices()
+{
+    if (!dialog_)
+        return;
+    const PpdDocument &printer = dialog_->printer();
+    for (const auto &[option, keyword] : dialog_->host().ledger().chosen()) {
+        const Choice choice{option, keyword};
+        if (std::find(saved_.begin(), saved_.end(), choice) == saved_.end())
+            chosen_[option] = {keyword, printer.optionText(option), printer.choiceText(choice)};
+    }
+}
+
+/// Answers, a line each, what this printer does not have or cannot combine.
+QStringList QueueDialog::carryChoices()
+{
+    QStringList leftBehind;
+    for (const auto &[option, words] : chosen_) {
+        const Choice choice{option, words.choice};
+        if (judgeOffer(dialog_->printer(), choice).verdict == OfferVerdict::Accepted)
+            dialog_->host().changeFromElsewhere(choice);
+        else
+            leftBehind.append(text(Text::ChoiceLeftBehind, {words.optionText, words.choiceText}));
+    }
+    return leftBehind;
+}
+
+/// With a printer there its dialog leaves.
+void QueueDialog::leave()
+{
+    if (dialog_)
+        return;
+    window_->hide();
+    Q_EMIT left();
+}
+
+void QueueDialog::tell(const QString &key, const QString &words, std::vector<NoticeAction> actions)
+{
+    if (std::exchange(told_[key], words) != words)
+        window_->notices().show({key, Severity::Critical, words, std::move(actions)});
+}
+
+void QueueDialog::retract(const QString &key)
+{
+    told_.erase(key);
+    window_->notices().dismiss(key);
+}
+
+void QueueDialog::failPrinter(const QString &words)
+{
+    window_->setWaiting(QLatin1String(""));
+    retract(kServerKey);
+    tell(kPrinterKey, words, {tryAgainAction()});
+}
+
+NoticeAction QueueDialog::tryAgainAction()
+{
+    return {text(Text::TryAgain), QStringLiteral("tryAgainButton"), [this] { tryAgain(); }};
+}
+
+} // namespace dialog

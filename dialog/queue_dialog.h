@@ -1,0 +1,100 @@
+#pragma once
+
+#include "dialog/print_dialog.h"
+#include "dialog/printers/ppd_cache.h"
+#include "dialog/printers/queue_list.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <map>
+#include <memory>
+#include <optional>
+
+namespace dialog {
+
+class PrinterPicker;
+
+/// Where the dialog learns of queues and their printers. The functions block and are called on
+/// other threads.
+struct QueueSources
+{
+    std::function<QueueListing()> list;
+    std::function<QueuePrinter(const QString &queue)> printer;
+    QueueWatch::Times listTimes;
+    std::chrono::milliseconds printerDeadline;
+};
+
+/// A choice of a person's, with the words of the printer for which it was made.
+struct ChosenWords
+{
+    QString choice;
+    QString optionText;
+    QString choiceText;
+};
+
+/// The print server of the environment.
+[[nodiscard]] QueueSources serverSources(const ServerTimes &times = {});
+
+/// The print dialog where the printer is a queue: one window in which a person picks the queue, and
+/// for the picked one a PrintDialog with its printer and panels. What a person chose goes along to
+/// the next printer as far as that has it.
+///
+/// Same rule as for PrintDialog: not to be destroyed from inside a panel's call.
+class QueueDialog : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The case names no PPD. Sets the platform values and shows the window; everything else comes
+    /// from the event loop.
+    QueueDialog(const PrintCase &printCase, QueueSources sources);
+    ~QueueDialog() override;
+
+    [[nodiscard]] PrintWindow &window() const { return *window_; }
+    [[nodiscard]] PrinterPicker &picker() const { return *picker_; }
+    /// Null while there is no printer yet.
+    [[nodiscard]] PrintDialog *printDialog() const { return dialog_.get(); }
+
+Q_SIGNALS:
+    /// A printer is there, its panels are shown and Print can be pressed.
+    void ready(const QString &queue);
+    void jobMade(const dialog::JobRecord &job);
+    void left();
+
+private:
+    void takeListing(const QueueListing &listing);
+    void takeProblem(const ServerProblem &problem);
+    void chooseQueue();
+    void missQueue();
+    void tryAgain();
+    void switchTo(const QString &queue);
+    void connectTo(const QString &queue);
+    void takePrinter(std::optional<QueuePrinter> answer);
+    void show(std::unique_ptr<PpdDocument> printer);
+    void rememberChoices();
+    [[nodiscard]] QStringList carryChoices();
+    void leave();
+    /// Once, until retract().
+    void tell(const QString &key, const QString &words, std::vector<NoticeAction> actions);
+    void retract(const QString &key);
+    void failPrinter(const QString &words);
+    [[nodiscard]] NoticeAction tryAgainAction();
+
+    // In the order of their dependence: the printer's dialog goes before the window.
+    PrintCase case_;
+    QueueSources sources_;
+    QString queue_;             ///< null before any is chosen
+    bool isRemembered_ = false; ///< chosen because it was used last, and may be gone
+    std::vector<Queue> queues_;
+    PrinterPicker *picker_; ///< belongs to the window
+    std::unique_ptr<PrintWindow> window_;
+    std::unique_ptr<PrintDialog> dialog_;
+    QueueWatch watch_;
+    QPointer<QObject> connecting_;
+    std::map<QString, QString> told_;
+    std::map<QString, ChosenWords> chosen_;
+    Choices saved_; ///< marked when the printer came
+};
+
+} // namespace dialog

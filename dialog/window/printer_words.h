@@ -1,0 +1,17 @@
+#pragma once
+
+#include "dialog/printers/queue_list.h"
+
+namespace dialog {
+
+/// State of a queue as a person reads it, with the server's reason where there is one.
+[[nodiscard]] QString stateText(const Queue &queue);
+
+/// A queue among others: its name, what its administrator calls it where that differs, and its
+/// state unless it is idle.
+[[nodiscard]] QString queueText(const Queue &queue);
+
+/// A server's fault with its remedy.
+[[nodiscard]] QString problemText(const ServerProblem &problem);
+
+} // namespace dialog

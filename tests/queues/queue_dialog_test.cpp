@@ -1,0 +1,359 @@
+#include "dialog/queue_dialog.h"
+#include "dialog/replay/input.h"
+#include "dialog/window/print_window.h"
+#include "dialog/window/printer_picker.h"
+#include "platform/controls/pop_up_button.h"
+#include "tests/queues/counting_proxy.h"
+#include "tests/queues/silent_server.h"
+#include "tests/queues/user_folders.h"
+#include "tests/support/private_cupsd.h"
+
+#include <QEventLoop>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+using namespace dialog;
+using namespace test;
+
+namespace {
+
+constexpr int kPatienceMilliseconds = 20'000;
+
+/// The dialog on a print server, used as a person does.
+class Visit
+{
+public:
+    explicit Visit(QueueSources sources = quick(), const QString &queue = {})
+    {
+        PrintCase printCase;
+        printCase.root = q(KORVANE_ROOT_DIR);
+        printCase.document = q(KORVANE_SAMPLE_DOCUMENT);
+        printCase.jobFolder = jobs_.path();
+        printCase.queue = queue;
+        EXPECT_NULL(PrintDialog::prepare(printCase));
+        dialog_ = std::make_unique<QueueDialog>(printCase, std::move(sources));
+    }
+
+    /// Asks the server all the time.
+    static QueueSources quick()
+    {
+        QueueSources sources = serverSources();
+        sources.listTimes.interval = std::chrono::milliseconds(10);
+        return sources;
+    }
+    /// Asks it once.
+    static QueueSources once()
+    {
+        QueueSources sources = serverSources();
+        sources.listTimes.interval = std::chrono::hours(1);
+        return sources;
+    }
+
+    [[nodiscard]] QueueDialog &dialog() const { return *dialog_; }
+    [[nodiscard]] PrintWindow &window() const { return dialog_->window(); }
+    [[nodiscard]] PpdDocument &printer() const { return dialog_->printDialog()->printer(); }
+    [[nodiscard]] QStringList notices() const { return window().notices().texts(); }
+    [[nodiscard]] QString waiting() const
+    {
+        const auto *label = window().findChild<QLabel *>(q("waiting"));
+        return label->isVisible() ? label->text() : QString();
+    }
+    [[nodiscard]] QPushButton *button(const char *name) const
+    {
+        return window().findChild<QPushButton *>(q(name));
+    }
+    [[nodiscard]] PopUpButton *popUp(const char *name) const
+    {
+        return window().findChild<PopUpButton *>(q(name));
+    }
+
+    template <class Condition>
+    [[nodiscard]] bool until(const Condition &condition) const
+    {
+        QElapsedTimer timer;
+        timer.start();
+        while (!condition() && timer.elapsed() < kPatienceMilliseconds)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents,
+                                            50);
+        return condition();
+    }
+    [[nodiscard]] bool untilReady(const char *queue) const
+    {
+        return until([&] {
+            return dialog_->printDialog() && dialog_->picker().selected() == q(queue) &&
+                   button("printButton")->isEnabled();
+        });
+    }
+    [[nodiscard]] bool untilNotice(const char *part) const
+    {
+        return until([&] { return notices().join(u'\n').contains(q(part)); });
+    }
+    void choose(const char *control, const char *keyword) const
+    {
+        PopUpButton *popUpButton = popUp(control);
+        ASSERT_TRUE(popUpButton && popUpButton->isVisible()) << control;
+        const int index = popUpButton->findData(q(keyword));
+        ASSERT_GE(index, 0) << keyword;
+        EXPECT_NULL(replay::input::choose(popUpButton, index));
+        QCoreApplication::processEvents();
+    }
+
+private:
+    QTemporaryDir jobs_;
+    std::unique_ptr<QueueDialog> dialog_;
+};
+
+class QueueDialogs : public testing::Test
+{
+protected:
+    void addQueues()
+    {
+        server.addQueue(q("ink"), samplePpd("Korvane-S300.ppd"));
+        server.addQueue(q("toner"), samplePpd("Korvane-T500.ppd"));
+        server.run(q("lpadmin"), {q("-p"), q("raw"), q("-E"), q("-v"), q("keep:/raw")});
+        server.run(q("lpadmin"), {q("-d"), q("toner")});
+    }
+
+    UserFolders user;
+    PrivateCupsd server;
+};
+
+} // namespace
+
+TEST_F(QueueDialogs, OpenAtOnceAndShowTheDefaultPrintersPanels)
+{
+    addQueues();
+    const Visit run;
+    EXPECT_TRUE(run.window().isVisible());
+    EXPECT_TRUE(run.waiting().startsWith(q("Connecting to 127.0.0.1:")));
+    EXPECT_FALSE(run.button("printButton")->isEnabled());
+    ASSERT_TRUE(run.untilReady("toner"));
+    EXPECT_NULL(run.waiting());
+    EXPECT_FALSE(run.dialog().printDialog()->panels().empty());
+    EXPECT_EQ(run.dialog().picker().offered(), (QStringList{q("toner"), q("ink"), q("raw")}));
+}
+
+TEST_F(QueueDialogs, OpenWithTheNamedQueueElseTheOneUsedLast)
+{
+    addQueues();
+    rememberLastUsedQueue(q("raw"));
+    EXPECT_TRUE(Visit(Visit::quick(), q("ink")).untilReady("ink"));
+    const Visit run;
+    EXPECT_TEXT(run.waiting(), "Connecting to raw…");
+    EXPECT_TRUE(run.untilReady("raw"));
+    rememberLastUsedQueue(q("sold"));
+    EXPECT_TRUE(Visit().untilReady("toner")) << "which is gone: the default";
+}
+
+TEST_F(QueueDialogs, RememberTheQueueThatPrinted)
+{
+    addQueues();
+    EXPECT_NULL(lastUsedQueue());
+    const Visit run(Visit::quick(), q("ink"));
+    ASSERT_TRUE(run.untilReady("ink"));
+    QSignalSpy made(&run.dialog(), &QueueDialog::jobMade);
+    run.dialog().printDialog()->print(PrintDialog::Review::Skip);
+    ASSERT_TRUE(run.until([&] { return !made.isEmpty(); }))
+        << run.notices().join(u'\n').toStdString();
+    EXPECT_TEXT(lastUsedQueue(), "ink");
+    EXPECT_TRUE(server.waitForJob(made.first().first().value<JobRecord>().id.toInt()));
+}
+
+TEST_F(QueueDialogs, PrintToAQueueWithoutPpdAndSayThatThereAreNoPanels)
+{
+    addQueues();
+    const Visit run(Visit::quick(), q("raw"));
+    ASSERT_TRUE(run.untilReady("raw"));
+    EXPECT_TRUE(run.notices().join(u'\n').contains(q("This printer has no PPD")));
+    EXPECT_FALSE(run.window().panelPopUp()->isVisible());
+    QSignalSpy made(&run.dialog(), &QueueDialog::jobMade);
+    run.button("printButton")->click();
+    ASSERT_TRUE(run.until([&] { return !made.isEmpty(); }))
+        << run.notices().join(u'\n').toStdString();
+    const int job = made.first().first().value<JobRecord>().id.toInt();
+    ASSERT_TRUE(server.waitForJob(job));
+    EXPECT_EQ(server.document(job), fileBytes(q(KORVANE_SAMPLE_DOCUMENT)));
+}
+
+TEST_F(QueueDialogs, RebuildThePanelsAndCarryChoicesAlong)
+{
+    addQueues();
+    server.addQueue(q("ink2"), samplePpd("Korvane-S300.ppd"));
+    const Visit run(Visit::quick(), q("ink"));
+    ASSERT_TRUE(run.untilReady("ink"));
+    ASSERT_TRUE(run.until([&] { return run.dialog().picker().offered().size() == 4; }));
+    run.choose("ibPaperType", "IronOn");
+    run.choose("ibPrintQuality", "Best");
+    const QPointer<QWidget> formerView = run.window().view(0);
+
+    run.choose("printerPopUp", "ink2");
+    ASSERT_TRUE(run.untilReady("ink2"));
+    EXPECT_FALSE(formerView) << "the former printer's panel is gone";
+    EXPECT_SAME(run.printer().marked(q("MediaType")), q("IronOn"));
+    EXPECT_SAME(run.popUp("ibPaperType")->currentData().toString(), q("IronOn"));
+    EXPECT_TRUE(run.notices().isEmpty()) << run.notices().join(u'\n').toStdString();
+
+    run.choose("printerPopUp", "raw");
+    ASSERT_TRUE(run.untilReady("raw"));
+    const QString told = run.notices().join(u'\n');
+    EXPECT_TRUE(told.contains(q("does not have what you chose"))) << told.toStdString();
+    EXPECT_TRUE(told.contains(q("Paper Type: Iron-On"))) << told.toStdString();
+
+    run.choose("printerPopUp", "ink");
+    ASSERT_TRUE(run.untilReady("ink"));
+    EXPECT_SAME(run.printer().marked(q("MediaType")), q("IronOn")) << "kept for the way back";
+    EXPECT_SAME(run.printer().marked(q("PrintQuality")), q("Best"));
+}
+
+TEST_F(QueueDialogs, DoNotCarryWhatAUserHasSavedForOneQueue)
+{
+    addQueues();
+    server.addQueue(q("ink2"), samplePpd("Korvane-S300.ppd"));
+    ASSERT_TRUE(QDir().mkpath(user.path("home/.cups")));
+    QFile saved(user.path("home/.cups/lpoptions"));
+    ASSERT_TRUE(saved.open(QIODevice::WriteOnly));
+    saved.write("Dest ink MediaType=IronOn\n");
+    saved.close();
+    const Visit run(Visit::quick(), q("ink"));
+    ASSERT_TRUE(run.untilReady("ink"));
+    EXPECT_SAME(run.popUp("ibPaperType")->currentData().toString(), q("IronOn"));
+    ASSERT_TRUE(run.until([&] { return run.dialog().picker().offered().size() == 4; }));
+    run.choose("printerPopUp", "ink2");
+    ASSERT_TRUE(run.untilReady("ink2"));
+    EXPECT_SAME(run.printer().marked(q("MediaType")), q("Automatic"));
+}
+
+TEST_F(QueueDialogs, ShowChangesAtTheServerWhileTheyAreOpen)
+{
+    addQueues();
+    const Visit run(Visit::quick(), q("ink"));
+    ASSERT_TRUE(run.untilReady("ink"));
+    const auto state = [&] { return run.window().findChild<QLabel *>(q("printerState"))->text(); };
+    ASSERT_TRUE(run.until([&] { return state() == q("Idle"); }));
+    server.run(q("cupsdisable"), {q("-r"), q("Lunch"), q("ink")});
+    EXPECT_TRUE(run.until([&] { return state() == q("Paused: Lunch"); }));
+    server.addQueue(q("new"), samplePpd("Korvane-T500.ppd"));
+    EXPECT_TRUE(run.until([&] { return run.dialog().picker().offered().contains(q("new")); }));
+    server.run(q("lpadmin"), {q("-x"), q("ink")});
+    EXPECT_TRUE(run.untilNotice("There is no printer ink"));
+    EXPECT_TRUE(run.dialog().printDialog()) << "what was chosen is still there";
+}
+
+TEST_F(QueueDialogs, NeedAtMostFiveRequestsAndOneDownload)
+{
+    addQueues();
+    QThread::msleep(1'100); // the server's clock counts seconds
+    CountingProxy proxy(server.address());
+    {
+        const Visit run(Visit::once());
+        ASSERT_TRUE(run.untilReady("toner"));
+        EXPECT_LE(proxy.requests().size(), 5) << proxy.requests().join(u'\n').toStdString();
+        EXPECT_EQ(proxy.downloads(), 1);
+    }
+    proxy.forget();
+    {
+        const Visit run(Visit::once());
+        ASSERT_TRUE(run.untilReady("toner"));
+        EXPECT_LE(proxy.requests().size(), 5) << proxy.requests().join(u'\n').toStdString();
+        EXPECT_EQ(proxy.downloads(), 0) << "the cache has it, and the server nothing newer";
+    }
+}
+
+TEST_F(QueueDialogs, SayThatANamedQueueIsNotThereAndTakeAnother)
+{
+    addQueues();
+    const Visit run(Visit::quick(), q("nobody"));
+    ASSERT_TRUE(run.untilNotice("There is no printer nobody at the print server."));
+    EXPECT_FALSE(run.button("printButton")->isEnabled());
+    ASSERT_TRUE(run.until([&] { return run.dialog().picker().offered().contains(q("ink")); }));
+    run.choose("printerPopUp", "ink");
+    EXPECT_TRUE(run.untilReady("ink"));
+    EXPECT_TRUE(run.notices().isEmpty());
+}
+
+TEST_F(QueueDialogs, SayThatAServerHasNoPrintersAndFindOneThatComes)
+{
+    const Visit run;
+    ASSERT_TRUE(run.untilNotice("has no printers"));
+    EXPECT_FALSE(run.button("printButton")->isEnabled());
+    server.addQueue(q("ink"), samplePpd("Korvane-S300.ppd"));
+    EXPECT_TRUE(run.untilReady("ink"));
+    EXPECT_TRUE(run.notices().isEmpty()) << run.notices().join(u'\n').toStdString();
+}
+
+TEST_F(QueueDialogs, SayWhatIsWrongWithABrokenPpd)
+{
+    addQueues();
+    QFile ppd(server.folder() + q("/root/ppd/ink.ppd"));
+    ASSERT_TRUE(ppd.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    ppd.write("*PPD-Adobe: \"4.3\"\n*Comment: \"" + QByteArray(300, 'x') + "\"\n");
+    ppd.close();
+    const Visit run(Visit::quick(), q("ink"));
+    ASSERT_TRUE(run.untilNotice("its PPD is damaged"));
+    EXPECT_FALSE(run.button("printButton")->isEnabled());
+}
+
+TEST(QueueDialogFaults, AreToldWithARemedyAndTriedAgain)
+{
+    const UserFolders user;
+    SilentServer server;
+    ServerTimes times;
+    times.connect = times.silence = std::chrono::milliseconds(200);
+    QueueSources sources = serverSources(times);
+    sources.listTimes.interval = std::chrono::hours(1);
+    const Visit run(sources, q("ink"));
+    EXPECT_TEXT(run.waiting(), "Connecting to ink…");
+    ASSERT_TRUE(run.untilNotice("does not answer"));
+    EXPECT_TRUE(run.until([&] { return run.waiting().isNull(); }));
+    EXPECT_EQ(run.notices().size(), 1) << "one server, one notice";
+    server.die();
+    run.button("tryAgainButton")->click();
+    EXPECT_TEXT(run.waiting(), "Connecting to ink…");
+    ASSERT_TRUE(run.untilNotice("No print server answers"));
+}
+
+TEST(QueueDialogFaults, LeaveTheWindowAliveWhileAServerIsSilent)
+{
+    const UserFolders user;
+    const SilentServer server;
+    const Visit run(Visit::once(), q("ink"));
+    QSignalSpy left(&run.dialog(), &QueueDialog::left);
+    int turns = 0;
+    QTimer beat;
+    QObject::connect(&beat, &QTimer::timeout, [&] { ++turns; });
+    beat.start(1);
+    ASSERT_TRUE(run.until([&] { return turns > 20; }));
+    EXPECT_TEXT(run.waiting(), "Connecting to ink…");
+    run.button("cancelButton")->click();
+    EXPECT_EQ(left.size(), 1);
+    EXPECT_FALSE(run.window().isVisible());
+}
+
+TEST(QueueDialogFaults, TellQueuesThatCannotBeReachedAnyMore)
+{
+    const UserFolders user;
+    const auto isDown = std::make_shared<std::atomic<bool>>(false);
+    const QueueSources sources{
+        [isDown] {
+            return *isDown ? QueueListing{{}, {ServerFault::Unreachable, q("gone")}}
+                           : QueueListing{{{q("ink")}}};
+        },
+        [](const QString &queue) {
+            return QueuePrinter{QueuePrinter::Outcome::NoPpd, PpdDocument::withoutOptions(queue)};
+        },
+        {std::chrono::seconds(10), std::chrono::milliseconds(1)},
+        std::chrono::seconds(10)};
+    const Visit run(sources);
+    ASSERT_TRUE(run.untilReady("ink"));
+    *isDown = true;
+    ASSERT_TRUE(run.untilNotice("(gone)"));
+    EXPECT_TRUE(run.popUp("printerPopUp")->currentText().endsWith(q("Not reachable")));
+    EXPECT_TRUE(run.dialog().printDialog());
+    *isDown = false;
+    EXPECT_TRUE(run.until([&] { return !run.notices().join(u'\n').contains(q("(gone)")); }));
+    EXPECT_TEXT(run.popUp("printerPopUp")->currentText(), "ink");
+}
