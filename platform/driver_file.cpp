@@ -19,11 +19,21 @@ QString ownPathIn(const QString &literalFolder, const QString &literalPath)
     return isInside ? file : QString();
 }
 
+QString ownPathInDriverFolder(const QString &literalPath)
+{
+    return ownPathIn(QStringLiteral("/Library/Printers"), literalPath);
+}
+
 } // namespace
+
+bool isInDriverFolder(const QString &literalPath)
+{
+    return !ownPathInDriverFolder(literalPath).isNull();
+}
 
 QVariant readDriverPropertyList(const QString &literalPath)
 {
-    return readPropertyList(ownPathIn(QStringLiteral("/Library/Printers"), literalPath));
+    return readPropertyList(ownPathInDriverFolder(literalPath));
 }
 
 QVariant readPropertyListInRoot(const QString &literalPath)

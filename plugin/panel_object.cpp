@@ -3,6 +3,7 @@
 #include "diag/trace.h"
 #include "other/kor_pde_controller3.h"
 #include "platform/console.h"
+#include "platform/driver_file.h"
 #include "platform/help_viewer.h"
 #include "platform/notification_center.h"
 #include "platform/strings.h"
@@ -52,12 +53,13 @@ bool PanelObject<Controller>::initWithCallback(PDEPlugInCallback *callback, Bund
     return true;
 }
 
-/// A book that cannot be found is not registered.
+/// A book that cannot be found, or that a PPD's maker's name leads to outside the driver's folder,
+/// is not registered.
 template <class Controller>
 void PanelObject<Controller>::registerHelpBook()
 {
     FSRef book;
-    if (CFURLGetFSRef(mHelpLinkPath, &book))
+    if (platform::isInDriverFolder(mHelpLinkPath) && CFURLGetFSRef(mHelpLinkPath, &book))
         (void)AHRegisterHelpBook(book);
     if (isRunning1050OrLater)
         return;

@@ -458,6 +458,22 @@ TEST(QualityPanel, RegistersTheHelpBookThatItFinds)
     platform::setHelpOpener(former);
 }
 
+TEST(QualityPanel, RegistersNoHelpBookOutsideTheDriversFolder)
+{
+    Life life({.ppd = p1().withAttribute("Manufacturer", "../../elsewhere")}, Life::Until::Created);
+    life.root.makeDirectory(q("/Library/Printers"));
+    life.root.writeList(q("/elsewhere/PDEs/QualityAndMedia.bundle/Contents/Info.plist"),
+                        QVariantMap{{q("CFBundleHelpBookName"), q("Foreign Help")}});
+    platform::HelpRequest opened;
+    const auto former = platform::setHelpOpener(
+        [&opened](const platform::HelpRequest &request) { opened = request; });
+    const auto panel = MainPDE2::initWithCallback(&life.host, pluginBundle());
+    EXPECT_FALSE(panel->shouldShowHelp()) << "the folder is there";
+    EXPECT_TEXT(opened.bookName, "Foreign Help");
+    EXPECT_NULL(opened.bookPath);
+    platform::setHelpOpener(former);
+}
+
 TEST(QualityPanel, TellsItsModelAndFrames)
 {
     const Life life;
