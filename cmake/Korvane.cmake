@@ -36,6 +36,18 @@ if(KORVANE_SANITIZE)
     add_link_options(-fsanitize=${KORVANE_SANITIZE})
 endif()
 
+# For libraries: a missing symbol stops their own link. (clang's sanitizers are in the program.)
+set(KORVANE_NO_UNDEFINED -Wl,--no-undefined)
+
+option(KORVANE_FUZZ "Build the fuzz targets in tests/fuzz/; needs clang" OFF)
+if(KORVANE_FUZZ)
+    set(KORVANE_NO_UNDEFINED)
+    # Qt's own libraries tell nothing about their classes, which the check of dynamic types would need.
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize=vptr
+        -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
 # korvane_room(NAME SOURCES file... LINK target...): one room of the house as a static library.
 function(korvane_room name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
