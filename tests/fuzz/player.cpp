@@ -27,8 +27,7 @@ void play(replay::Scenario scenario, const PrintCase &printCase)
     if (scenario.steps.size() > kMostSteps)
         scenario.steps.resize(kMostSteps);
     replay::Player player(printCase, std::move(scenario), {});
-    QObject::connect(&player, &replay::Player::finished, qApp, &QCoreApplication::quit,
-                     Qt::QueuedConnection);
+    QObject::connect(&player, &replay::Player::finished, qApp, [] { QCoreApplication::exit(); });
     player.start();
     QCoreApplication::exec();
     static_cast<void>(player.report().json());
