@@ -11,6 +11,8 @@
 #include <QFile>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 
 namespace dialog {
 namespace {
@@ -174,7 +176,11 @@ private:
             return failed(connection_.problem());
         if (!*isThere)
             return {QueuePrinter::Outcome::NoQueue};
-        return {QueuePrinter::Outcome::NoPpd, PpdDocument::withoutOptions(queue_)};
+        auto printer = PpdDocument::withoutOptions(queue_);
+        if (!printer)
+            return {
+                QueuePrinter::Outcome::BrokenPpd, {}, {}, QString::fromUtf8(std::strerror(errno))};
+        return {QueuePrinter::Outcome::NoPpd, std::move(printer)};
     }
 
     /// The downloaded file itself where there is no cache.

@@ -7,9 +7,11 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <cstdio>
 #include <cstring>
 #include <span>
+
+#include <sys/mman.h>
+#include <unistd.h>
 
 namespace dialog {
 namespace {
@@ -148,12 +150,12 @@ std::unique_ptr<PpdDocument> PpdDocument::withoutOptions(const QString &name)
 {
     const QByteArray text = "*PPD-Adobe: \"4.3\"\n*LanguageEncoding: UTF-8\n*NickName: \"" +
                             name.toUtf8().replace('"', '\'').left(kLongestNickName) + "\"\n";
-    const std::unique_ptr<std::FILE, int (*)(std::FILE *)> file(std::tmpfile(), std::fclose);
-    if (!file || std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()),
-                             file.get()) != static_cast<std::size_t>(text.size()))
+    const int memory = ::memfd_create("ppd", MFD_CLOEXEC);
+    const auto size = static_cast<std::size_t>(text.size());
+    if (memory < 0 || ::write(memory, text.constData(), size) != text.size() ||
+        ::lseek(memory, 0, SEEK_SET) != 0)
         return nullptr;
-    std::rewind(file.get());
-    Handle ppd(ppdOpen(file.get()));
+    Handle ppd(ppdOpenFd(memory)); // closes it
     return ppd ? std::unique_ptr<PpdDocument>(new PpdDocument({}, std::move(ppd))) : nullptr;
 }
 
