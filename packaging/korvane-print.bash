@@ -31,7 +31,7 @@ _korvane_print() {
     local dialog='--ppd --root --system-version --language --queue --job-folder --record --console'
     local -A options=(
         [dialog]="$dialog --list --help --version"
-        [--list]='--json --help'
+        [--list]='--json --language --help'
         [replay]="$dialog --report --pictures --stable --help --version"
         [log]='--class --operation --kind --text --actions --action --on --off --level --file --help'
         [check-ppd]='--root --json --help'
