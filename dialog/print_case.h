@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dialog/printers/server_connection.h"
+
 #include <QString>
 
 #include <optional>
@@ -17,6 +19,7 @@ struct PrintCase
     QString document;
     QString jobFolder;
     bool showsConsole = false;
+    ServerLimits serverLimits = {};
 };
 
 } // namespace dialog

@@ -2,6 +2,8 @@
 
 #include "dialog/jobs/document.h"
 #include "dialog/jobs/job_folder.h"
+#include "dialog/jobs/job_messages.h"
+#include "dialog/jobs/queue_printing.h"
 #include "dialog/printers/queue_job.h"
 #include "dialog/window/help_window.h"
 #include "dialog/window/print_window.h"
@@ -89,6 +91,30 @@ PrintDialog::PrintDialog(const PrintCase &printCase, std::unique_ptr<PpdDocument
     formerHelpOpener_ = platform::setHelpOpener(
         [this](const platform::HelpRequest &request) { showBook(request); });
     connect(&host_, &DialogHost::judged, this, &PrintDialog::showOutcome);
+    if (!case_.queue.isNull())
+        makeQueuePrinting();
+}
+
+void PrintDialog::makeQueuePrinting()
+{
+    constexpr int kShortJobMilliseconds = 500;
+    constexpr int kWhole = 100;
+    queuePrinting_ = new QueuePrinting(case_.queue, case_.serverLimits, this);
+    progressDelay_.setSingleShot(true);
+    progressDelay_.setInterval(kShortJobMilliseconds);
+    connect(&progressDelay_, &QTimer::timeout, this, [this] {
+        if (window_)
+            showProgress();
+    });
+    connect(queuePrinting_, &QueuePrinting::progressed, this, [this](qint64 sent, qint64 total) {
+        const int percent = total > 0 ? static_cast<int>(kWhole * sent / total) : 0;
+        const bool isNews = std::exchange(sentPercent_, percent) != percent;
+        if (isNews && window_ && !progressDelay_.isActive())
+            showProgress();
+    });
+    connect(queuePrinting_, &QueuePrinting::earlierSettled, this, [this](const QString &message) {
+        notify({QStringLiteral("earlier:") + message, Severity::Warning, message, {}});
+    });
 }
 
 PrintDialog::~PrintDialog()
@@ -127,6 +153,8 @@ void PrintDialog::showPanelsIn(PrintWindow &window)
     window_->activateWindow();
     for (const Notice &notice : std::exchange(early_, {}))
         notify(notice);
+    if (queuePrinting_)
+        queuePrinting_->settleEarlier();
 }
 
 void PrintDialog::loadPanels()
@@ -297,7 +325,7 @@ QString PrintDialog::problemBeforePrinting() const
 
 void PrintDialog::print(Review review)
 {
-    if (queueJob_)
+    if (queuePrinting_ && queuePrinting_->isSending())
         return; // one job at a time: a second press of Print prints nothing twice
     const QString problem = problemBeforePrinting();
     if (!problem.isNull()) {
@@ -385,30 +413,50 @@ void PrintDialog::printToQueue(const Ticket &ticket)
         fail(text(Text::JobUnsendable, {reason}));
         return;
     }
-    queueJob_ = new QueueJob(this);
     if (window_)
         window_->setSending(true);
-    connect(queueJob_, &QueueJob::finished, this, [this, ticket](const QueueJobResult &result) {
-        finishQueueJob(ticket, result.jobId, result.error);
-    });
-    queueJob_->start({case_.queue, ticket.documentName, case_.document, options});
+    sentPercent_ = 0;
+    progressDelay_.start();
+    connect(
+        queuePrinting_, &QueuePrinting::finished, this,
+        [this, ticket](const QueueJobResult &result) { finishQueueJob(ticket, result); },
+        Qt::SingleShotConnection);
+    queuePrinting_->send({ticket.documentName, case_.document, options});
 }
 
-void PrintDialog::finishQueueJob(Ticket ticket, int jobId, const QString &error)
+void PrintDialog::showProgress()
 {
-    queueJob_->deleteLater();
-    queueJob_ = nullptr;
-    if (window_)
+    window_->notices().show(
+        {kJobKey,
+         Severity::Information,
+         text(Text::SendingProgress, {case_.queue, QString::number(sentPercent_)}),
+         {{text(Text::CancelJob), QStringLiteral("cancelJobButton"),
+           [this] { queuePrinting_->cancel(); }}}});
+}
+
+void PrintDialog::finishQueueJob(Ticket ticket, const QueueJobResult &result)
+{
+    progressDelay_.stop();
+    if (window_) {
         window_->setSending(false);
-    if (jobId == 0) {
-        fail(text(Text::JobFailed, {error}));
-        return;
+        window_->notices().dismiss(kJobKey);
     }
-    ticket.jobId = jobId;
-    // The job is printing: a ticket that cannot be written is no reason to send it again.
-    const JobFolderResult written = writeJobFolder(jobsFolder(case_.jobFolder), ticket, {});
-    notify({kJobKey, Severity::Information, text(Text::JobSent, {QString::number(jobId)}), {}});
-    Q_EMIT jobMade({QString::number(jobId), jobOptions(ticket.settings), written.ticketPath});
+    if (result.jobId == 0) {
+        fail(faultMessage(result, case_.queue));
+    } else {
+        ticket.jobId = result.jobId;
+        // The job is printing: a ticket that cannot be written is no reason to send it again.
+        const JobFolderResult written = writeJobFolder(jobsFolder(case_.jobFolder), ticket, {});
+        const QString number = QString::number(result.jobId);
+        const QStringList told = remarks(result, case_.queue);
+        notify({kJobKey,
+                told.isEmpty() ? Severity::Information : Severity::Warning,
+                QStringList(QStringList{text(Text::JobSent, {number})} + told).join(u'\n'),
+                {}});
+        Q_EMIT jobMade({number, jobOptions(ticket.settings), written.ticketPath, told});
+    }
+    if (leavesAfterJob_)
+        Q_EMIT left();
 }
 
 /// Modal windows of panels end first; the panels' calls return before anything is destroyed.
@@ -418,7 +466,11 @@ void PrintDialog::leave()
     window_->hide();
     if (helpWindow_)
         helpWindow_->hide();
-    Q_EMIT left();
+    leavesAfterJob_ = queuePrinting_ && queuePrinting_->isSending();
+    if (leavesAfterJob_)
+        queuePrinting_->cancel(); // nothing half is left behind
+    else
+        Q_EMIT left();
 }
 
 } // namespace dialog

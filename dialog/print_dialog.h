@@ -10,6 +10,7 @@
 #include "platform/help_viewer.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <memory>
 #include <variant>
@@ -19,7 +20,8 @@ namespace dialog {
 
 class HelpWindow;
 class PrintWindow;
-class QueueJob;
+class QueuePrinting;
+struct QueueJobResult;
 
 /// A job that has been handed over.
 struct JobRecord
@@ -27,6 +29,7 @@ struct JobRecord
     QString id; ///< the job folder's name, or the number at the print server
     JobOptions options;
     QString ticketPath;
+    QStringList remarks = {}; ///< what a person should know of it, shown in the window
 };
 
 /// The print dialog as a whole: one printer, the panels of its plug-ins, the window, the job.
@@ -107,7 +110,9 @@ private:
     [[nodiscard]] Ticket makeTicket(const CommitResult &result) const;
     void printToFolder(const Ticket &ticket);
     void printToQueue(const Ticket &ticket);
-    void finishQueueJob(Ticket ticket, int jobId, const QString &error);
+    void finishQueueJob(Ticket ticket, const QueueJobResult &result);
+    void makeQueuePrinting();
+    void showProgress();
     void leave();
 
     // In the order of their dependence: the views go first, then the panels, at last the PPD.
@@ -117,10 +122,13 @@ private:
     std::vector<PlugIn> plugIns_;
     std::vector<Panel> panels_;
     std::unique_ptr<PrintWindow> ownWindow_;
-    PrintWindow *window_ = nullptr; ///< this or another's; null until the panels are shown
-    std::vector<Notice> early_;        ///< shown as soon as there is a window
-    HelpWindow *helpWindow_ = nullptr; ///< belongs to the window
-    QueueJob *queueJob_ = nullptr;
+    PrintWindow *window_ = nullptr;          ///< this or another's; null until the panels are shown
+    std::vector<Notice> early_;              ///< shown as soon as there is a window
+    HelpWindow *helpWindow_ = nullptr;       ///< belongs to the window
+    QueuePrinting *queuePrinting_ = nullptr; ///< null without a queue
+    QTimer progressDelay_;                   ///< a short job shows none
+    int sentPercent_ = 0;
+    bool leavesAfterJob_ = false;
     platform::HelpOpener formerHelpOpener_;
 };
 

@@ -59,7 +59,8 @@ void quitWith(Dialog *dialog)
     QObject::connect(dialog, &Dialog::left, qApp, &QCoreApplication::quit);
     QObject::connect(dialog, &Dialog::jobMade, qApp, [](const JobRecord &job) {
         say(job.ticketPath.isNull() ? job.id : job.ticketPath);
-        QCoreApplication::quit();
+        if (job.remarks.isEmpty()) // else the window stays until they have been read
+            QCoreApplication::quit();
     });
 }
 

@@ -3,158 +3,303 @@
 #include <cups/cups.h>
 #include <cups/ppd.h>
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QPointer>
 
+#include <algorithm>
+#include <atomic>
+#include <chrono>
 #include <mutex>
+#include <optional>
 #include <thread>
 
 namespace dialog {
 namespace {
 
-constexpr int kConnectMilliseconds = 10'000;
-constexpr double kAnswerSeconds = 30.0;
-constexpr qint64 kBlockBytes = 64 * 1024;
-
-struct ConnectionCloser
-{
-    void operator()(http_t *http) const { httpClose(http); }
-};
-using Connection = std::unique_ptr<http_t, ConnectionCloser>;
-
-int giveUp(http_t *, void *)
-{
-    return 0;
-}
-
-/// A connection of this thread's own to the print server of the environment; null when there is
-/// none.
-Connection connectToServer()
-{
-    Connection http(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                                 kConnectMilliseconds, nullptr));
-    if (http)
-        httpSetTimeout(http.get(), kAnswerSeconds, giveUp, nullptr);
-    return http;
-}
-
-QString lastError()
-{
-    return QString::fromUtf8(cupsLastErrorString());
-}
-
-class OptionList
-{
-public:
-    explicit OptionList(const JobOptions &options)
-    {
-        for (const auto &[name, value] : options)
-            count_ = cupsAddOption(name.toUtf8().constData(), value.toUtf8().constData(), count_,
-                                   &list_);
-    }
-    ~OptionList() { cupsFreeOptions(count_, list_); }
-    OptionList(const OptionList &) = delete;
-    OptionList &operator=(const OptionList &) = delete;
-
-    [[nodiscard]] int count() const { return count_; }
-    [[nodiscard]] cups_option_t *list() const { return list_; }
-
-private:
-    int count_ = 0;
-    cups_option_t *list_ = nullptr;
-};
-
-bool writeDocument(http_t *http, QFile &document)
-{
-    for (;;) {
-        const QByteArray block = document.read(kBlockBytes);
-        if (block.isEmpty())
-            return document.error() == QFile::NoError;
-        const auto size = static_cast<std::size_t>(block.size());
-        if (cupsWriteRequestData(http, block.constData(), size) != HTTP_STATUS_CONTINUE)
-            return false;
-    }
-}
-
-bool sendDocument(http_t *http, const QueueJobRequest &request, int jobId, QFile &document)
-{
-    const QByteArray queue = request.queue.toUtf8();
-    const http_status_t status = cupsStartDocument(
-        http, queue.constData(), jobId, request.title.toUtf8().constData(), CUPS_FORMAT_AUTO, 1);
-    return status == HTTP_STATUS_CONTINUE && writeDocument(http, document) &&
-           cupsFinishDocument(http, queue.constData()) <= IPP_STATUS_OK_EVENTS_COMPLETE;
-}
-
-/// A job without its whole document is taken back, so that nothing half prints.
-QueueJobResult cancelled(http_t *http, const QueueJobRequest &request, int jobId)
-{
-    const QString error = lastError();
-    cupsCancelJob2(http, request.queue.toUtf8().constData(), jobId, 1);
-    return {0, error};
-}
-
-QueueJobResult send(const QueueJobRequest &request)
-{
-    QFile document(request.document);
-    if (!document.open(QIODevice::ReadOnly))
-        return {0, document.errorString()};
-    const Connection http = connectToServer();
-    if (!http)
-        return {0, lastError()};
-    const OptionList options(request.options);
-    const int jobId =
-        cupsCreateJob(http.get(), request.queue.toUtf8().constData(),
-                      request.title.toUtf8().constData(), options.count(), options.list());
-    if (jobId == 0)
-        return {0, lastError()};
-    if (!sendDocument(http.get(), request, jobId, document))
-        return cancelled(http.get(), request, jobId);
-    return {jobId, {}};
-}
+// A server takes a job over at once; a slow one is not waited for longer than this.
+constexpr int kMostLooks = 20;
+constexpr auto kBetweenLooks = std::chrono::milliseconds(25);
 
 } // namespace
 
-/// Where the sending thread leaves its answer; outlives whichever of both ends first.
-struct QueueJob::Mailbox
+/// What the worker and the main thread share; outlives whichever of both ends first.
+struct QueueJob::Shared
 {
     std::mutex mutex;
-    QueueJob *receiver = nullptr; ///< null once it is gone
+    QueueJob *receiver = nullptr; ///< null once it is gone, or no longer waits
+    Lifeline lifeline;
+    std::atomic<bool> isCancelled = false;
+    std::atomic<bool> isAbandoned = false;
+
+    template <class Call>
+    void tell(Call call)
+    {
+        const std::lock_guard lock(mutex);
+        QueueJob *to = receiver;
+        if (to)
+            QMetaObject::invokeMethod(
+                to, [to, call] { call(*to); }, Qt::QueuedConnection);
+    }
 };
 
-QueueJob::QueueJob(QObject *parent) : QObject(parent), mailbox_(std::make_shared<Mailbox>())
+namespace {
+
+/// The worker: one job from the first request to the last look.
+class Sender
 {
-    mailbox_->receiver = this;
+public:
+    Sender(const QueueJobRequest &request, Lifeline &lifeline, const std::atomic<bool> &isCancelled,
+           const std::atomic<bool> &isAbandoned, std::function<void(qint64, qint64)> stepped)
+        : request_(request), lifeline_(lifeline), isCancelled_(isCancelled),
+          isAbandoned_(isAbandoned), stepped_(std::move(stepped))
+    {
+    }
+
+    QueueJobResult run()
+    {
+        QFile document(request_.document);
+        if (!document.open(QIODevice::ReadOnly))
+            return ended(JobFault::DocumentLost, document.errorString());
+        total_ = document.size();
+        http_ = connectToServer(request_.limits, &lifeline_);
+        if (!http_)
+            return ended(JobFault::NoServer, lastServerError());
+        if (auto known = earlierJob())
+            return *known;
+        if (!remember(SendStage::Creating))
+            return ended(JobFault::NotRemembered, {});
+        return create(document);
+    }
+
+private:
+    void step(qint64 sent) { stepped_(sent, total_); }
+
+    bool remember(SendStage stage)
+    {
+        trace_.stage = stage;
+        return request_.remember && request_.remember(trace_);
+    }
+
+    /// Nothing was or will be printed of this attempt.
+    QueueJobResult ended(JobFault fault, const QString &detail)
+    {
+        QueueJobResult result{0, isCancelled_ ? JobFault::Cancelled : fault, detail};
+        result.settledTokens = settled_ << trace_.token;
+        return result;
+    }
+
+    /// This attempt stays in the journal.
+    QueueJobResult undecided(JobFault fault, const QString &detail)
+    {
+        QueueJobResult result{0, isCancelled_ ? JobFault::Cancelled : fault, detail};
+        result.settledTokens = settled_;
+        return result;
+    }
+
+    /// What an earlier attempt came to, where that ends this one.
+    std::optional<QueueJobResult> earlierJob()
+    {
+        for (const JobTrace &earlier : request_.earlier) {
+            step(0);
+            const Settlement found = settleJob(http_.get(), earlier);
+            if (found.outcome == Settled::Unknown)
+                return ended(JobFault::Silent, lastServerError());
+            settled_ << earlier.token;
+            if (found.outcome == Settled::Vanished)
+                return ended(JobFault::MaybePrinted, {});
+            if (found.outcome == Settled::Printed) {
+                QueueJobResult result = ended(JobFault::None, {});
+                result.jobId = found.jobId;
+                result.isEarlier = true;
+                return result;
+            }
+        }
+        return std::nullopt;
+    }
+
+    QueueJobResult create(QFile &document)
+    {
+        step(0);
+        const CreatedJob created = createJob(http_.get(), trace_, request_.title, request_.options);
+        if (created.fault == JobFault::SettingLost)
+            return ended(created.fault, created.detail);
+        if (created.jobId == 0)
+            return wrapUp(created.fault, created.detail);
+        trace_.jobId = created.jobId;
+        if (!remember(SendStage::Sending))
+            return wrapUp(JobFault::NotRemembered, {});
+        step(0);
+        const SendOutcome outcome = sendDocument(
+            http_.get(), trace_, request_.title, document, [this](qint64 sent) { step(sent); },
+            [this] { static_cast<void>(remember(SendStage::Sent)); });
+        if (outcome.fault != JobFault::None || isCancelled_)
+            return wrapUp(outcome.fault, outcome.detail);
+        return follow(created.sent);
+    }
+
+    /// After a fault: what the server has is found, on a new connection, and left whole or taken
+    /// back.
+    QueueJobResult wrapUp(JobFault fault, const QString &detail)
+    {
+        if (isAbandoned_ || (fault == JobFault::Silent && !isCancelled_))
+            return undecided(fault, detail);
+        lifeline_.mend();
+        step(0);
+        http_ = connectToServer(request_.limits, &lifeline_);
+        if (!http_)
+            return undecided(fault, detail);
+        if (isCancelled_)
+            trace_.stage = std::min(trace_.stage, SendStage::Sending);
+        const Settlement found = settleJob(http_.get(), trace_);
+        // Who may not print may not look for jobs either; there is none but an empty one.
+        const bool isForbidden = fault == JobFault::NotAllowed && trace_.stage != SendStage::Sent;
+        if (found.outcome == Settled::Unknown && !isForbidden)
+            return undecided(fault, detail);
+        if (found.outcome == Settled::Vanished)
+            return ended(JobFault::MaybePrinted, {});
+        if (found.outcome != Settled::Printed)
+            return ended(fault, detail);
+        trace_.jobId = found.jobId;
+        return follow({});
+    }
+
+    /// Until the server has taken the job over; what it kept of the settings is read back.
+    QueueJobResult follow(const JobOptions &sent)
+    {
+        JobStatus status;
+        for (int i = 0; i < kMostLooks && status.state != JobState::Done; ++i) {
+            step(total_);
+            status = jobStatus(http_.get(), trace_, sent);
+            if (status.state != JobState::Incoming)
+                break;
+            std::this_thread::sleep_for(kBetweenLooks);
+        }
+        if (status.state == JobState::Incoming)
+            return wrapUp(JobFault::Broken, {});
+        if (status.state == JobState::Stopped)
+            return ended(JobFault::Stopped, status.message);
+        QueueJobResult result{trace_.jobId};
+        result.state = status.state;
+        result.differences = status.differences;
+        result.settledTokens = settled_ << trace_.token;
+        return result;
+    }
+
+    const QueueJobRequest &request_;
+    Lifeline &lifeline_;
+    const std::atomic<bool> &isCancelled_;
+    const std::atomic<bool> &isAbandoned_;
+    std::function<void(qint64, qint64)> stepped_;
+    JobTrace trace_ = request_.trace;
+    QStringList settled_;
+    Connection http_;
+    qint64 total_ = 0;
+};
+
+} // namespace
+
+QueueJob::QueueJob(QObject *parent) : QObject(parent)
+{
+    patience_.setSingleShot(true);
+    connect(&patience_, &QTimer::timeout, this, &QueueJob::abandon);
 }
 
 QueueJob::~QueueJob()
 {
-    const std::lock_guard lock(mailbox_->mutex);
-    mailbox_->receiver = nullptr;
+    if (!shared_)
+        return;
+    shared_->isAbandoned = true;
+    const std::lock_guard lock(shared_->mutex);
+    shared_->receiver = nullptr;
+    shared_->lifeline.cut();
 }
 
 void QueueJob::start(const QueueJobRequest &request)
 {
-    std::thread([mailbox = mailbox_, request] {
-        const QueueJobResult result = send(request);
-        const std::lock_guard lock(mailbox->mutex);
-        QueueJob *receiver = mailbox->receiver;
-        if (receiver)
-            QMetaObject::invokeMethod(
-                receiver, [receiver, result] { Q_EMIT receiver->finished(result); },
-                Qt::QueuedConnection);
+    shared_ = std::make_shared<Shared>();
+    shared_->receiver = this;
+    patience_.start(request.limits.answerMilliseconds);
+    std::thread([shared = shared_, request] {
+        const auto stepped = [&shared](qint64 sent, qint64 total) {
+            shared->tell([sent, total](QueueJob &job) { job.takeStep(sent, total); });
+        };
+        const QueueJobResult result =
+            Sender(request, shared->lifeline, shared->isCancelled, shared->isAbandoned, stepped)
+                .run();
+        shared->tell([result](QueueJob &job) { job.finish(result); });
+    }).detach();
+}
+
+/// A step that arrives after the end is dropped.
+void QueueJob::takeStep(qint64 sentBytes, qint64 totalBytes)
+{
+    if (!shared_)
+        return;
+    patience_.start();
+    Q_EMIT progressed(sentBytes, totalBytes);
+}
+
+void QueueJob::cancel()
+{
+    if (!shared_ || shared_->isCancelled.exchange(true))
+        return;
+    patience_.start();
+    shared_->lifeline.cut();
+}
+
+void QueueJob::abandon()
+{
+    if (shared_)
+        finish({0, shared_->isCancelled ? JobFault::Cancelled : JobFault::Silent});
+}
+
+/// The first end counts; an answer that is still on its way to this thread is dropped.
+void QueueJob::finish(const QueueJobResult &result)
+{
+    if (!shared_)
+        return;
+    patience_.stop();
+    shared_->isAbandoned = true;
+    {
+        const std::lock_guard lock(shared_->mutex);
+        shared_->receiver = nullptr;
+    }
+    shared_->lifeline.cut();
+    shared_.reset();
+    Q_EMIT finished(result);
+}
+
+void settleJobs(QObject *context, const std::vector<JobTrace> &traces, const ServerLimits &limits,
+                const std::function<void(const std::vector<Settlement> &)> &told)
+{
+    std::thread([context = QPointer<QObject>(context), traces, limits, told] {
+        std::vector<Settlement> found(traces.size());
+        const Connection http = connectToServer(limits);
+        for (std::size_t i = 0; http && i < traces.size(); ++i)
+            found[i] = settleJob(http.get(), traces[i]);
+        // The application outlives every dialog; whether this one still lives is asked there.
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(),
+            [context, found, told] {
+                if (context)
+                    told(found);
+            },
+            Qt::QueuedConnection);
     }).detach();
 }
 
 QueuePpd fetchQueuePpd(const QString &queue)
 {
-    const Connection http = connectToServer();
+    const Connection http = connectToServer({});
     if (!http)
-        return {{}, lastError()};
+        return {{}, lastServerError()};
     time_t modified = 0;
     char path[1024] = "";
     const http_status_t status =
         cupsGetPPD3(http.get(), queue.toUtf8().constData(), &modified, path, sizeof path);
     if (status != HTTP_STATUS_OK)
-        return {{}, lastError()};
+        return {{}, lastServerError()};
     return {QFile::decodeName(path), {}};
 }
 
