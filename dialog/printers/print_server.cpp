@@ -5,11 +5,6 @@
 namespace dialog {
 namespace {
 
-const char *noPassword(const char *, http_t *, const char *, const char *, void *)
-{
-    return nullptr;
-}
-
 int giveUp(http_t *, void *fellSilent)
 {
     *static_cast<bool *>(fellSilent) = true;
@@ -29,17 +24,10 @@ QString printServerName()
     return server.startsWith(u'/') ? server : QStringLiteral("%1:%2").arg(server).arg(ippPort());
 }
 
-void ServerConnection::Closer::operator()(http_t *http) const
-{
-    httpClose(http);
-}
-
 ServerConnection::ServerConnection(const ServerTimes &times)
-    : fellSilent_(std::make_unique<bool>(false))
+    : http_(connectToServer({static_cast<int>(times.connect.count())})),
+      fellSilent_(std::make_unique<bool>(false))
 {
-    cupsSetPasswordCB2(noPassword, nullptr);
-    http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                             static_cast<int>(times.connect.count()), nullptr));
     if (http_)
         httpSetTimeout(http_.get(), seconds(times.silence), giveUp, fellSilent_.get());
 }

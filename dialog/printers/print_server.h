@@ -1,11 +1,11 @@
 #pragma once
 
+#include "dialog/printers/server_connection.h"
+
 #include <QString>
 
 #include <chrono>
 #include <memory>
-
-typedef struct _http_s http_t;
 
 namespace dialog {
 
@@ -47,11 +47,7 @@ public:
     [[nodiscard]] ServerProblem problem() const;
 
 private:
-    struct Closer
-    {
-        void operator()(http_t *http) const;
-    };
-    std::unique_ptr<http_t, Closer> http_;
+    Connection http_;
     std::unique_ptr<bool> fellSilent_; ///< libcups keeps a pointer to it
 };
 
