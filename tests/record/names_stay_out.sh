@@ -5,20 +5,16 @@ set -euo pipefail
 
 build=$(cd "$1" && pwd)
 source=$(cd "$(dirname "$0")/../.." && pwd)
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
+source "$source/tests/scenarios/surroundings.sh"
+surround "$build" "$(dirname "$0")"
 home=$scratch/alice
-mkdir "$home" "$scratch/run" "$scratch/tmp" "$scratch/out"
-chmod 700 "$scratch/run"
+mkdir "$home" "$scratch/out"
 cp "$source/driver/ppd/Korvane-S300.ppd" "$home/printer.ppd"
 cp "$source/driver/demo/sample.pdf" "$home/secret.pdf"
 printf '%s\n' 'choose ibPrintQuality Best' 'print secret.pdf' cancel >"$home/case.scenario"
 
 play() {
-    env -i PATH="$PATH" HOME="$home" USER=alice LC_ALL=C.UTF-8 TMPDIR="$scratch/tmp" XDG_RUNTIME_DIR="$scratch/run" \
-        XDG_DATA_HOME="$scratch/data" QT_QPA_PLATFORM=offscreen CUPS_SERVER=127.0.0.1:1 \
-        ${ASAN_OPTIONS:+ASAN_OPTIONS="$ASAN_OPTIONS"} \
-        "$build/bin/korvane-print" replay "$@" --root "$build/root" --stable 2>"$scratch/err"
+    replay "$@" 2>"$scratch/err"
 }
 fail() {
     echo "$1" >&2

@@ -8,21 +8,14 @@ build=$(cd "$1" && pwd)
 scenario=$2
 recorded=${3:-}
 
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-mkdir "$scratch/run" "$scratch/tmp"
-chmod 700 "$scratch/run"
+source "$(dirname "$0")/../scenarios/surroundings.sh"
+surround "$build" "$(dirname "$scenario")"
 
-# play SCENARIO NAME [OPTION...]: the same surroundings on every machine and for every user.
+# play SCENARIO NAME [OPTION...]
 play() {
     local scenario=$1 name=$2
     shift 2
-    env -i PATH="$PATH" HOME="$scratch" LC_ALL=C.UTF-8 TMPDIR="$scratch/tmp" \
-        XDG_RUNTIME_DIR="$scratch/run" XDG_DATA_HOME="$scratch/data" QT_QPA_PLATFORM=offscreen \
-        CUPS_SERVER=127.0.0.1:1 \
-        ${ASAN_OPTIONS:+ASAN_OPTIONS="$ASAN_OPTIONS"} \
-        "$build/bin/korvane-print" replay "$scenario" --root "$build/root" --stable \
-        --report "$scratch/$name.json" "$@" 2>"$scratch/$name.err" || {
+    replay "$scenario" --report "$scratch/$name.json" "$@" 2>"$scratch/$name.err" || {
         cat "$scratch/$name.err"
         [[ $name == original ]] || cat "$scenario"
         return 1

@@ -6,28 +6,8 @@ set -euo pipefail
 build=$(cd "$1" && pwd)
 case=$(cd "$2" && pwd)
 
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-mkdir "$scratch/run" "$scratch/tmp"
-chmod 700 "$scratch/run"
-
-# The driver's files; those of the case's own printer, where it has other cartridges in.
-root=$build/root
-if [[ -e $case/preferences.plist ]]; then
-    cp -a "$root" "$scratch/root"
-    root=$scratch/root
-    cp "$case/preferences.plist" "$root/Library/Printers/Korvane/Preferences/com.korvane.prefs.2009.plist"
-fi
-
-# The same surroundings on every machine and for every user.
-play() {
-    env -i PATH="$PATH" HOME="$scratch" LC_ALL=C.UTF-8 TMPDIR="$scratch/tmp" \
-        XDG_RUNTIME_DIR="$scratch/run" XDG_DATA_HOME="$scratch/data" QT_QPA_PLATFORM=offscreen \
-        CUPS_SERVER=127.0.0.1:1 \
-        ${ASAN_OPTIONS:+ASAN_OPTIONS="$ASAN_OPTIONS"} \
-        "$build/bin/korvane-print" replay "$case/case.scenario" --root "$root" --stable \
-        --report "$scratch/report.json"
-}
+source "$(dirname "$0")/surroundings.sh"
+surround "$build" "$case"
 
 # The program's own messages, without paths of this run. What Qt, the debug log and the panels' console
 # write beside them is no part of the case.
@@ -47,7 +27,7 @@ compare() {
 }
 
 status=0
-play 2>"$scratch/stderr" || status=$?
+replay "$case/case.scenario" --report "$scratch/report.json" 2>"$scratch/stderr" || status=$?
 messages "$scratch/stderr" >"$scratch/message"
 [[ -e $scratch/report.json ]] || : >"$scratch/report.json"
 ((status == 0)) && : >"$scratch/status" || echo "$status" >"$scratch/status"

@@ -1,0 +1,26 @@
+# Sourced by the scripts that play scenarios: the same surroundings on every machine and for every user.
+
+# surround BUILD CASE: sets scratch, a folder that goes with the script, and root, the driver's files; those of the
+# case's own printer, where it has other cartridges in.
+surround() {
+    build=$1
+    scratch=$(mktemp -d)
+    trap 'rm -rf "$scratch"' EXIT
+    mkdir "$scratch/run" "$scratch/tmp"
+    chmod 700 "$scratch/run"
+    root=$build/root
+    if [[ -e $2/preferences.plist ]]; then
+        cp -a "$root" "$scratch/root"
+        root=$scratch/root
+        cp "$2/preferences.plist" "$root/Library/Printers/Korvane/Preferences/com.korvane.prefs.2009.plist"
+    fi
+}
+
+# replay SCENARIO OPTION...
+replay() {
+    env -i PATH="$PATH" HOME="${home:-$scratch}" LC_ALL=C.UTF-8 TMPDIR="$scratch/tmp" \
+        XDG_RUNTIME_DIR="$scratch/run" XDG_DATA_HOME="$scratch/data" QT_QPA_PLATFORM=offscreen \
+        CUPS_SERVER=127.0.0.1:1 \
+        ${ASAN_OPTIONS:+ASAN_OPTIONS="$ASAN_OPTIONS"} \
+        "$build/bin/korvane-print" replay "$@" --root "$root" --stable
+}
