@@ -7,6 +7,7 @@
 #include "dialog/printers/queue_job.h"
 #include "dialog/window/help_window.h"
 #include "dialog/window/print_window.h"
+#include "dialog/window/summary_view.h"
 #include "platform/controls/modal_session.h"
 #include "platform/values.h"
 
@@ -216,6 +217,10 @@ void PrintDialog::restorePanels()
             panel.restoreValuesAndReturnError(nullptr);
         });
     }
+    if (panels_.empty())
+        return;
+    summary_ = new SummaryView;
+    window_->addPanel(text(Text::Summary), summary_);
 }
 
 int PrintDialog::frontIndex() const
@@ -223,33 +228,54 @@ int PrintDialog::frontIndex() const
     return window_ ? window_->frontIndex() : -1;
 }
 
+PDEPanel *PrintDialog::panelAt(int index) const
+{
+    return index >= 0 && index < static_cast<int>(panels_.size())
+               ? panels_[static_cast<std::size_t>(index)].panel.get()
+               : nullptr;
+}
+
 void PrintDialog::bringForward(int index)
 {
-    const int former = frontIndex();
-    if (index == former || index < 0 || index >= static_cast<int>(panels_.size()))
+    if (index == frontIndex() || index < 0 || index > static_cast<int>(panels_.size()))
         return;
-    bool hides = true;
-    if (former >= 0) {
-        PDEPanel *panel = panels_[static_cast<std::size_t>(former)].panel.get();
-        host_.callPanel(panel, [&](PDEPanel &hidden) { hides = hidden.shouldHide(); });
-    }
-    if (!hides) {
-        window_->bringForward(former);
+    if (!hideFront()) {
+        window_->bringForward(frontIndex());
         return;
     }
-    PDEPanel *panel = panels_[static_cast<std::size_t>(index)].panel.get();
+    PDEPanel *panel = panelAt(index);
     host_.setFrontPanel(panel);
-    host_.callPanel(panel, [](PDEPanel &shown) { shown.willShow(); });
+    if (panel)
+        host_.callPanel(panel, [](PDEPanel &shown) { shown.willShow(); });
+    else
+        showSummary();
     window_->bringForward(index);
+}
+
+/// False when the panel in front wants to stay.
+bool PrintDialog::hideFront()
+{
+    bool hides = true;
+    if (PDEPanel *panel = panelAt(frontIndex()))
+        host_.callPanel(panel, [&](PDEPanel &hidden) { hides = hidden.shouldHide(); });
+    return hides;
+}
+
+void PrintDialog::showSummary()
+{
+    std::vector<SummarySection> sections;
+    for (const Panel &entry : panels_)
+        host_.callPanel(entry.panel.get(), [&](PDEPanel &panel) {
+            sections.push_back({entry.title, panel.summaryInfo()});
+        });
+    summary_->show(sections);
 }
 
 void PrintDialog::showHelp()
 {
     bool showsOwn = true;
-    if (frontIndex() >= 0) {
-        PDEPanel *panel = panels_[static_cast<std::size_t>(frontIndex())].panel.get();
+    if (PDEPanel *panel = panelAt(frontIndex()))
         host_.callPanel(panel, [&](PDEPanel &front) { showsOwn = front.shouldShowHelp(); });
-    }
     if (showsOwn)
         notify({kHelpKey, Severity::Information, text(Text::HelpPage), {}});
 }

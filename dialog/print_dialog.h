@@ -22,6 +22,7 @@ class HelpWindow;
 class PrintWindow;
 class QueuePrinting;
 struct QueueJobResult;
+class SummaryView;
 
 /// A job that has been handed over.
 struct JobRecord
@@ -71,6 +72,7 @@ public:
     [[nodiscard]] PpdDocument &printer() const { return *printer_; }
     [[nodiscard]] DialogHost &host() { return host_; }
     [[nodiscard]] const std::vector<Panel> &panels() const { return panels_; }
+    /// Index of the panel in front, the number of panels for the summary behind them, -1 for none.
     [[nodiscard]] int frontIndex() const;
     /// Null before showPanels().
     [[nodiscard]] PrintWindow *window() const { return window_; }
@@ -97,6 +99,9 @@ private:
     void connectWindow();
     void restorePanels();
     void bringForward(int index);
+    [[nodiscard]] PDEPanel *panelAt(int index) const;
+    [[nodiscard]] bool hideFront();
+    void showSummary();
     void showHelp();
     void showBook(const platform::HelpRequest &request);
     void showOutcome(const OfferOutcome &outcome);
@@ -121,6 +126,7 @@ private:
     DialogHost host_;
     std::vector<PlugIn> plugIns_;
     std::vector<Panel> panels_;
+    SummaryView *summary_ = nullptr; ///< the window's; null without panels
     std::unique_ptr<PrintWindow> ownWindow_;
     PrintWindow *window_ = nullptr;          ///< this or another's; null until the panels are shown
     std::vector<Notice> early_;              ///< shown as soon as there is a window

@@ -23,6 +23,7 @@ constexpr std::array<Entry, static_cast<std::size_t>(Text::Count)> kTexts{{
     {Text::Document, "Document:", "Dokument:", "書類:"},
     {Text::NoDocument, "None", "Keines", "なし"},
     {Text::Settings, "Settings:", "Einstellungen:", "設定:"},
+    {Text::Summary, "Summary", "Zusammenfassung", "一覧"},
     {Text::Print, "Print", "Drucken", "プリント"},
     {Text::Cancel, "Cancel", "Abbrechen", "キャンセル"},
     {Text::Help, "Help", "Hilfe", "ヘルプ"},

@@ -13,6 +13,7 @@ enum class Text {
     Document,
     NoDocument,
     Settings,
+    Summary,
     Print,
     Cancel,
     Help,

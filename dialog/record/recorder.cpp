@@ -147,7 +147,9 @@ QString Recorder::nameOfPanel(const QString &item) const
 {
     if (!item.startsWith(u'#'))
         return item;
-    return dialog_.panels()[item.mid(1).toUInt()].kind;
+    const auto index = item.mid(1).toUInt();
+    const auto &panels = dialog_.panels();
+    return index < panels.size() ? panels[index].kind : QStringLiteral("summary");
 }
 
 void Recorder::writeLeaving()

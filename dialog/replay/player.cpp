@@ -3,6 +3,7 @@
 #include "dialog/replay/input.h"
 #include "dialog/replay/nearest_name.h"
 #include "dialog/replay/snapshot.h"
+#include "dialog/texts.h"
 #include "dialog/window/print_window.h"
 #include "platform/console.h"
 #include "platform/controls/controls.h"
@@ -371,18 +372,19 @@ QString Player::mark(const Choice &choice)
 QString Player::show(const QString &panel)
 {
     QStringList names;
-    for (const PrintDialog::Panel &entry : dialog_->panels()) {
-        if (platform::isEqual(entry.title, panel) || platform::isEqual(entry.kind, panel)) {
-            const int index = static_cast<int>(names.size()) / 2;
-            if (index == dialog_->frontIndex())
-                return {};
-            if (frontWindow() != dialog_->window())
-                return frontWindow()->objectName() + QStringLiteral(" must be closed first");
-            return input::choose(dialog_->window()->panelPopUp(), index);
-        }
+    for (const PrintDialog::Panel &entry : dialog_->panels())
         names << entry.title << entry.kind;
-    }
-    return noSuchName(QStringLiteral("panel"), panel, names);
+    if (!names.isEmpty())
+        names << text(Text::Summary) << QStringLiteral("summary");
+    const qsizetype found = names.indexOf(panel);
+    if (found < 0)
+        return noSuchName(QStringLiteral("panel"), panel, names);
+    const int index = static_cast<int>(found) / 2;
+    if (index == dialog_->frontIndex())
+        return {};
+    if (frontWindow() != dialog_->window())
+        return frontWindow()->objectName() + QStringLiteral(" must be closed first");
+    return input::choose(dialog_->window()->panelPopUp(), index);
 }
 
 QString Player::pressKey(const QString &name)

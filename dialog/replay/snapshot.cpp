@@ -4,6 +4,7 @@
 #include "dialog/print_dialog.h"
 #include "dialog/window/print_window.h"
 #include "platform/controls/controls.h"
+#include "platform/controls/pop_up_button.h"
 #include "platform/controls/radio_matrix.h"
 #include "platform/controls/stepper.h"
 
@@ -105,7 +106,7 @@ QJsonValue frontTitle(const PrintDialog &dialog)
 {
     const int front = dialog.frontIndex();
     return front < 0 ? QJsonValue(QJsonValue::Null)
-                     : textJson(dialog.panels()[static_cast<std::size_t>(front)].title);
+                     : textJson(dialog.window()->panelPopUp()->itemText(front));
 }
 
 QJsonValue childOf(const QJsonValue &parent, const QString &token)

@@ -51,7 +51,7 @@ TEST_F(OpenDialog, ListsThePanelsInTheirOrder)
     ASSERT_EQ(dialog->panels().size(), 2U);
     EXPECT_TEXT(dialog->panels()[0].title, "Basics");
     EXPECT_TEXT(dialog->panels()[1].kind, "com.example.extras");
-    EXPECT_EQ(dialog->window()->panelPopUp()->count(), 2);
+    EXPECT_EQ(dialog->window()->panelPopUp()->count(), 3) << "two panels and the summary";
     EXPECT_EQ(dialog->frontIndex(), 0);
     EXPECT_TRUE(notices().isEmpty());
 }

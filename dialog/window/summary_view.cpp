@@ -1,0 +1,52 @@
+#include "dialog/window/summary_view.h"
+
+#include "dialog/texts.h"
+
+#include <QHeaderView>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace dialog {
+namespace {
+
+// Enough for the settings of one panel; more are scrolled to.
+constexpr int kRowsInSight = 12;
+
+void addSection(QTreeWidget *rows, const SummarySection &section)
+{
+    auto *title = new QTreeWidgetItem(rows, {section.title});
+    title->setFirstColumnSpanned(true);
+    QFont font = rows->font();
+    font.setBold(true);
+    title->setFont(0, font);
+    for (const auto &[setting, value] : section.entries)
+        new QTreeWidgetItem(title, {setting, value});
+    title->setExpanded(true);
+}
+
+} // namespace
+
+SummaryView::SummaryView(QWidget *parent) : QWidget(parent), rows_(new QTreeWidget(this))
+{
+    setObjectName(QStringLiteral("summaryView"));
+    rows_->setObjectName(QStringLiteral("summaryRows"));
+    rows_->setAccessibleName(text(Text::Summary));
+    rows_->setColumnCount(2);
+    rows_->setHeaderHidden(true);
+    rows_->setRootIsDecorated(false);
+    rows_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->addWidget(rows_);
+}
+
+void SummaryView::show(const std::vector<SummarySection> &sections)
+{
+    rows_->clear();
+    for (const SummarySection &section : sections)
+        addSection(rows_, section);
+    const int rowHeight = rows_->sizeHintForRow(0);
+    rows_->setMinimumHeight(kRowsInSight * std::max(rowHeight, rows_->fontMetrics().height()));
+}
+
+} // namespace dialog
