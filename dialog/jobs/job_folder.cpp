@@ -7,6 +7,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -61,8 +62,10 @@ QString jobsFolder(const QString &requested)
 
 QString newJobId(const QDateTime &time)
 {
-    return QStringLiteral("korvane-job-") +
-           time.toUTC().toString(QStringLiteral("yyyyMMdd-hhmmss-zzz"));
+    static QDateTime last;
+    const QDateTime utc = time.toUTC();
+    last = last.isValid() ? std::max(utc, last.addMSecs(1)) : utc;
+    return QStringLiteral("korvane-job-") + last.toString(QStringLiteral("yyyyMMdd-hhmmss-zzz"));
 }
 
 JobFolderResult writeJobFolder(const QString &folder, const Ticket &ticket, const QString &document)

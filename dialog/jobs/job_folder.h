@@ -10,7 +10,8 @@ namespace dialog {
 /// data folder ($XDG_DATA_HOME, else ~/.local/share).
 [[nodiscard]] QString jobsFolder(const QString &requested);
 
-/// Name of a new job: "korvane-job-" and the time to the millisecond.
+/// Name of a new job: "korvane-job-" and the time to the millisecond, or the next one where this program has
+/// named a job so already.
 [[nodiscard]] QString newJobId(const QDateTime &time);
 
 struct JobFolderResult

@@ -141,6 +141,17 @@ TEST(JobFolder, IsForThisUserOnlyAndLeavesNothingHalf)
     EXPECT_EQ(QDir(driver.path(q("jobs"))).entryList(all), QStringList({q("a")}));
 }
 
+TEST(JobFolder, EveryJobOfAProgramHasANameOfItsOwn)
+{
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    const QString first = dialog::newJobId(now);
+    const QString second = dialog::newJobId(now);
+    const QString earlier = dialog::newJobId(now.addSecs(-60));
+    EXPECT_TRUE(first.startsWith(q("korvane-job-")));
+    EXPECT_LT(first, second) << "even within a millisecond";
+    EXPECT_LT(second, earlier) << "even when the clock was put back";
+}
+
 TEST(JobFolder, NeverReplacesAnother)
 {
     test::StagedDriver driver;

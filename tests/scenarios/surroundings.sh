@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Sourced by the scripts that play scenarios: the same surroundings on every machine and for every user.
 
 # surround BUILD CASE: sets scratch, a folder that goes with the script, and root, the driver's files; those of the
