@@ -7,12 +7,12 @@ here=$(cd "$(dirname "$0")" && pwd)
 . "$here/surroundings.sh"
 surround "$(cd "$1" && pwd)" "$here"
 
-mkdir "$scratch/work"
-cp "$here/../../driver/demo/sample.pdf" "$here/../../driver/ppd/Korvane-S300.ppd" "$scratch/work"
+mkdir "$scratch/desk"
+cp "$here/../../driver/demo/sample.pdf" "$here/../../driver/ppd/Korvane-S300.ppd" "$scratch/desk"
 printf '%s\n' 'printer Korvane-S300.ppd' 'choose ibPrintQuality Best' 'click helpButton' 'picture panel' \
-    'report end' 'print sample.pdf' >"$scratch/work/case.scenario"
+    'report end' 'print sample.pdf' >"$scratch/desk/case.scenario"
 find "$scratch" "$root" -type f | sort >"$scratch/run/before"
-(cd "$scratch/work" && replay case.scenario --report report.json --pictures pictures 2>"$scratch/run/stderr")
+(cd "$scratch/desk" && replay case.scenario --report report.json --pictures pictures 2>"$scratch/run/stderr")
 
 # The library that finds fonts keeps a cache of its own.
 find "$scratch" "$root" -type f -not -path "$scratch/run/*" -not -path "*/fontconfig/*" | sort |
@@ -21,6 +21,6 @@ find "$scratch" "$root" -type f -not -path "$scratch/run/*" -not -path "*/fontco
 diff -u --label expected --label written - "$scratch/run/written" <<'END'
 data/korvane-print/jobs/JOB/document.pdf
 data/korvane-print/jobs/JOB/ticket.json
-work/pictures/panel.png
-work/report.json
+desk/pictures/panel.png
+desk/report.json
 END
