@@ -41,11 +41,6 @@ PpdDocument::Opened openPrinter(const PrintCase &printCase)
     return opened;
 }
 
-QString documentName(const QString &path)
-{
-    return path.isNull() ? QString() : QFileInfo(path).fileName();
-}
-
 /// The name inside the job folder keeps the document's kind and nothing else of its name.
 QString documentFileName(const QString &path)
 {

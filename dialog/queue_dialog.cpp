@@ -1,14 +1,13 @@
 #include "dialog/queue_dialog.h"
 
 #include "dialog/host/offer.h"
+#include "dialog/jobs/document.h"
 #include "dialog/printers/errand.h"
 #include "dialog/texts.h"
 #include "dialog/window/print_window.h"
 #include "dialog/window/printer_picker.h"
 #include "dialog/window/printer_words.h"
 #include "platform/controls/modal_session.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -20,11 +19,6 @@ constexpr std::chrono::seconds kPollInterval{5};
 const QString kServerKey = QStringLiteral("server");
 const QString kPrinterKey = QStringLiteral("printer");
 const QString kLeftBehindKey = QStringLiteral("left-behind");
-
-QString documentName(const QString &path)
-{
-    return path.isNull() ? QString() : QFileInfo(path).fileName();
-}
 
 } // namespace
 
@@ -46,7 +40,7 @@ QueueDialog::QueueDialog(const PrintCase &printCase, QueueSources sources)
     connect(window_.get(), &PrintWindow::left, this, &QueueDialog::leave);
     isRemembered_ = case_.queue.isNull();
     const QString wanted = isRemembered_ ? lastUsedQueue() : case_.queue;
-    window_->setWaiting(text(Text::Connecting, {printServerName()}));
+    window_->setWaiting(text(Text::Connecting, {serverName()}));
     window_->show();
     watch_.ask();
     if (!wanted.isNull())
@@ -65,7 +59,7 @@ void QueueDialog::takeListing(const QueueListing &listing)
     picker_->setQueues(queues_);
     if (queues_.empty()) {
         window_->setWaiting(dialog_ ? QString() : QLatin1String(""));
-        tell(kServerKey, text(Text::NoQueues, {printServerName()}), {tryAgainAction()});
+        tell(kServerKey, text(Text::NoQueues, {serverName()}), {tryAgainAction()});
         return;
     }
     retract(kServerKey);
@@ -117,7 +111,7 @@ void QueueDialog::tryAgain()
     if (!queue_.isNull() && !dialog_)
         connectTo(queue_);
     else if (!dialog_)
-        window_->setWaiting(text(Text::Connecting, {printServerName()}));
+        window_->setWaiting(text(Text::Connecting, {serverName()}));
 }
 
 /// Comes from the event loop, so that no panel's call is under way but one that runs a modal

@@ -18,4 +18,9 @@ QString documentProblem(const QString &path)
     return {};
 }
 
+QString documentName(const QString &path)
+{
+    return path.isNull() ? QString() : QFileInfo(path).fileName();
+}
+
 } // namespace dialog

@@ -8,4 +8,7 @@ namespace dialog {
 /// person.
 [[nodiscard]] QString documentProblem(const QString &path);
 
+/// The document's name without its folders; null for null.
+[[nodiscard]] QString documentName(const QString &path);
+
 } // namespace dialog

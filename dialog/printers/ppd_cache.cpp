@@ -134,7 +134,7 @@ class Opening
 {
 public:
     Opening(const ServerConnection &connection, const QString &queue)
-        : connection_(connection), queue_(queue), server_(printServerName())
+        : connection_(connection), queue_(queue), server_(serverName())
     {
     }
 

@@ -18,12 +18,6 @@ double seconds(std::chrono::milliseconds time)
 
 } // namespace
 
-QString printServerName()
-{
-    const QString server = QString::fromUtf8(cupsServer());
-    return server.startsWith(u'/') ? server : QStringLiteral("%1:%2").arg(server).arg(ippPort());
-}
-
 ServerConnection::ServerConnection(const ServerTimes &times)
     : http_(connectToServer({static_cast<int>(times.connect.count())})),
       fellSilent_(std::make_unique<bool>(false))
@@ -34,7 +28,7 @@ ServerConnection::ServerConnection(const ServerTimes &times)
 
 ServerProblem ServerConnection::problem() const
 {
-    const QString reason = QString::fromUtf8(cupsLastErrorString());
+    const QString reason = lastServerError();
     if (!http_)
         return {ServerFault::Unreachable, reason};
     return {*fellSilent_ ? ServerFault::Silent : ServerFault::Refused, reason};

@@ -32,9 +32,6 @@ struct ServerProblem
     explicit operator bool() const { return fault != ServerFault::None; }
 };
 
-/// The print server of the environment, as "HOST:PORT" or the path of its socket.
-[[nodiscard]] QString printServerName();
-
 /// A connection of the calling thread's own to the print server of the environment. Asks nobody for
 /// a password: what needs one is refused.
 class ServerConnection

@@ -89,7 +89,8 @@ QString lastServerError()
 
 QString serverName()
 {
-    return QStringLiteral("%1:%2").arg(QString::fromUtf8(cupsServer())).arg(ippPort());
+    const QString server = QString::fromUtf8(cupsServer());
+    return server.startsWith(u'/') ? server : QStringLiteral("%1:%2").arg(server).arg(ippPort());
 }
 
 } // namespace dialog

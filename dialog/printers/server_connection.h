@@ -45,7 +45,7 @@ using Connection = std::unique_ptr<http_t, ConnectionCloser>;
 /// What went wrong in this thread's last call, in libcups' words.
 [[nodiscard]] QString lastServerError();
 
-/// Name of the print server that this process talks to.
+/// The print server of the environment, as "HOST:PORT" or the path of its socket.
 [[nodiscard]] QString serverName();
 
 } // namespace dialog

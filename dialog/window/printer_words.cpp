@@ -59,13 +59,13 @@ QString problemText(const ServerProblem &problem)
     case ServerFault::None:
         return {};
     case ServerFault::Unreachable:
-        return text(Text::ServerUnreachable, {printServerName(), problem.reason});
+        return text(Text::ServerUnreachable, {serverName(), problem.reason});
     case ServerFault::Silent:
-        return text(Text::ServerSilent, {printServerName()});
+        return text(Text::ServerSilent, {serverName()});
     case ServerFault::Refused:
         break;
     }
-    return text(Text::ServerRefused, {printServerName(), problem.reason});
+    return text(Text::ServerRefused, {serverName(), problem.reason});
 }
 
 } // namespace dialog
