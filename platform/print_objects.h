@@ -20,6 +20,7 @@ public:
     [[nodiscard]] QVariant value(const QString &key) const;
     void setValue(const QString &key, const QVariant &value);
     void remove(const QString &key);
+    void setAll(const std::map<QString, QVariant> &values) { values_ = values; }
     [[nodiscard]] const std::map<QString, QVariant> &all() const { return values_; }
 
 private:

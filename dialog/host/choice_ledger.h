@@ -30,6 +30,7 @@ public:
 
     /// What a person chose last for each option.
     [[nodiscard]] const std::map<QString, QString> &chosen() const { return chosen_; }
+    void setChosen(const std::map<QString, QString> &chosen) { chosen_ = chosen; }
     /// Where the marks differ from it, by option.
     [[nodiscard]] std::vector<Difference> differences(const Choices &marks) const;
 

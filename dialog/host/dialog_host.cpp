@@ -70,6 +70,7 @@ bool DialogHost::answer(const Choice &offered)
     const bool accepted = outcome.verdict == OfferVerdict::Accepted;
     if (accepted)
         accept(offered);
+    announceChange(); // of a refused one too: the panel's action may set more than it offers
     Q_EMIT judged(outcome);
     return accepted;
 }
@@ -152,6 +153,66 @@ void DialogHost::changeFromElsewhere(const Choice &choice)
     printer_.mark(choice);
     followPageSize();
     tellPanels({choice, nullptr});
+    announceChange();
+}
+
+OfferOutcome DialogHost::choose(const Choice &choice)
+{
+    OfferOutcome outcome = judge(choice);
+    if (outcome.verdict == OfferVerdict::Accepted) {
+        deliverChanges(); // in the order in which they were made
+        changeFromElsewhere(choice);
+    }
+    Q_EMIT judged(outcome);
+    return outcome;
+}
+
+void DialogHost::setSetting(const QString &key, const QVariant &value)
+{
+    if (value.isValid())
+        settings_.setValue(key, value);
+    else
+        settings_.remove(key);
+    announceChange();
+}
+
+ChoiceState DialogHost::state() const
+{
+    return {printer_.marks(), settings_.all(), paperName_, ledger_.chosen()};
+}
+
+void DialogHost::setState(const ChoiceState &state)
+{
+    changes_.clear(); // the panels are about to read what holds
+    printer_.setMarks(state.marks);
+    settings_.setAll(state.settings);
+    paperName_ = state.paperName;
+    ledger_.setChosen(state.chosen);
+    followPageSize();
+    restorePanels();
+    announceChange();
+}
+
+void DialogHost::restorePanels()
+{
+    const PDEPanelList panels = panels_;
+    for (const auto &panel : panels)
+        callPanel(panel.get(), [](PDEPanel &told) { told.restoreValuesAndReturnError(nullptr); });
+    if (front_)
+        callPanel(front_, [](PDEPanel &shown) { shown.willShow(); });
+}
+
+void DialogHost::announceChange()
+{
+    if (std::exchange(isChangeAnnounced_, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            isChangeAnnounced_ = false;
+            Q_EMIT stateChanged();
+        },
+        Qt::QueuedConnection);
 }
 
 void DialogHost::refuseOffers(const QString &option, std::optional<int> count)
@@ -166,6 +227,7 @@ void DialogHost::setPaperName(const QString &ppdName)
 {
     paperName_ = ppdName;
     followPageSize();
+    announceChange();
 }
 
 void DialogHost::followPageSize()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/host/choice_ledger.h"
+#include "dialog/host/choice_state.h"
 #include "dialog/host/offer.h"
 #include "platform/panel_protocol.h"
 
@@ -64,6 +65,15 @@ public:
     void takeMarksAsChosen();
     /// Marks a choice as another panel's and tells every panel the word as it stands.
     void changeFromElsewhere(const Choice &choice);
+    /// A person's choice in a control of the dialog's own. It is judged as an offer of a panel is;
+    /// an accepted one is marked and reaches every panel, any other leaves everything as it was.
+    OfferOutcome choose(const Choice &choice);
+    /// A person's print setting; an invalid value removes it.
+    void setSetting(const QString &key, const QVariant &value);
+    [[nodiscard]] ChoiceState state() const;
+    /// Sets exactly this, whatever was set before; then every panel takes over what is marked.
+    /// Marks that the printer does not have are left out; nothing is judged.
+    void setState(const ChoiceState &state);
     /// Tells the panels what has been accepted since, without waiting for the event loop.
     void deliverChanges();
     /// Refuses that many of the next offers of an option, all without a count; a count of 0 ends
@@ -86,6 +96,9 @@ Q_SIGNALS:
     /// Offers outside a commit, in more detail.
     void judged(const dialog::OfferOutcome &outcome);
     void panelResized();
+    /// Marks, print settings or what was chosen may be others than before. Once for all that one
+    /// event changed, from the event loop.
+    void stateChanged();
 
 private:
     struct Change
@@ -102,6 +115,8 @@ private:
     void accept(const Choice &offered);
     void queueChange(const Change &change);
     void tellPanels(const Change &change);
+    void restorePanels();
+    void announceChange();
 
     PpdDocument &printer_;
     platform::PrintSettings settings_;
@@ -114,6 +129,7 @@ private:
     PDEPanel *called_ = nullptr; ///< borrowed
     bool isCommitting_ = false;
     bool isActionOpen_ = false;
+    bool isChangeAnnounced_ = false;
     std::vector<Change> changes_;
     std::map<QString, std::optional<int>> refusals_;
     ChoiceLedger ledger_;

@@ -264,6 +264,13 @@ void PpdDocument::mark(const Choice &choice)
                       choice.choice.toUtf8().constData());
 }
 
+void PpdDocument::setMarks(const Choices &marks)
+{
+    ppdMarkDefaults(ppd_.get());
+    for (const Choice &choice : marks)
+        mark(choice);
+}
+
 Choices PpdDocument::conflictsWith(const Choice &choice) const
 {
     return dialog::conflictsWith(choice, marks(), constraints_);

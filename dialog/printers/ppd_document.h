@@ -65,6 +65,9 @@ public:
     [[nodiscard]] const Choices &defaults() const { return defaults_; }
     /// Does nothing for an unknown option or choice.
     void mark(const Choice &choice);
+    /// Marks these, and of the options that they do not name the defaults. Unknown ones are left
+    /// out.
+    void setMarks(const Choices &marks);
 
     /// Marked choices that would be forbidden beside this one; what is forbidden without it does
     /// not count. Marks nothing.

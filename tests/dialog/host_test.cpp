@@ -23,9 +23,13 @@ public:
     QString panelKind() override { return q("recording"); }
     bool shouldShowHelp() override { return true; }
     QStringList supportedPPDOptionKeys() override { return {}; }
-    void willShow() override {}
+    void willShow() override { ++shown; }
     bool shouldHide() override { return true; }
-    bool restoreValuesAndReturnError(QString *) override { return true; }
+    bool restoreValuesAndReturnError(QString *) override
+    {
+        ++restored;
+        return true;
+    }
     bool saveValuesAndReturnError(QString *) override
     {
         for (const Choice &pair : saved)
@@ -45,6 +49,8 @@ public:
     Choices told;
     Choice answersWith; ///< offered whenever it is told something
     std::vector<bool> answers;
+    int restored = 0;
+    int shown = 0;
 };
 
 std::unique_ptr<PpdDocument> openPpd(const QString &path)
@@ -273,6 +279,64 @@ TEST_F(Host, ThePaperFollowsTheMarkedPageSizeUnlessNamed)
     host.setPaperName(q("B5JIS"));
     ASSERT_TRUE(offer("PageSize", "Letter"));
     EXPECT_TEXT(host.pageFormat()->paper().ppdName, "B5JIS");
+}
+
+TEST_F(Host, AChoiceOfTheDialogsOwnIsMarkedCountedAndToldToEveryPanel)
+{
+    EXPECT_EQ(host.choose({q("PrintQuality"), q("Best")}).verdict, OfferVerdict::Accepted);
+    EXPECT_TEXT(marked("PrintQuality"), "Best");
+    EXPECT_EQ(front->told, Choices({{q("PrintQuality"), q("Best")}}));
+    EXPECT_EQ(other->told, front->told);
+    EXPECT_EQ(host.ledger().chosen().at(q("PrintQuality")), q("Best"));
+}
+
+TEST_F(Host, AForbiddenChoiceOfTheDialogsOwnLeavesEverythingAsItWas)
+{
+    ASSERT_TRUE(offer("PrintQuality", "Draft"));
+    runEventLoop();
+    const ChoiceState before = host.state();
+    EXPECT_EQ(host.choose({q("MediaType"), q("IronOn")}).verdict, OfferVerdict::Conflicts);
+    EXPECT_EQ(host.state(), before);
+    EXPECT_EQ(outcomes.back().inTheWay, Choices({{q("PrintQuality"), q("Draft")}}));
+    EXPECT_TRUE(front->told.empty());
+}
+
+TEST_F(Host, GoesBackToAnEarlierStateAndHasThePanelsReadIt)
+{
+    host.setSetting(q("copies"), q("2"));
+    host.setPaperName(q("B5JIS"));
+    ASSERT_TRUE(offer("PrintQuality", "Best"));
+    const ChoiceState before = host.state();
+    host.setSetting(q("copies"), {});
+    host.setSetting(q("number-up"), q("4"));
+    host.setPaperName({});
+    ASSERT_TRUE(offer("PrintQuality", "Draft"));
+    ASSERT_TRUE(offer("Sharpen", "High"));
+    front->told.clear();
+    host.setState(before);
+    EXPECT_EQ(host.state(), before);
+    EXPECT_TEXT(host.pageFormat()->paper().ppdName, "B5JIS");
+    EXPECT_EQ(front->restored, 1);
+    EXPECT_EQ(other->restored, 1);
+    EXPECT_EQ(front->shown, 1);
+    EXPECT_EQ(other->shown, 0) << "only the panel in front shows anything";
+    runEventLoop();
+    EXPECT_TRUE(other->told.empty()) << "what was accepted before is past";
+}
+
+TEST_F(Host, SaysOnceForManyThatSomethingChanged)
+{
+    int changes = 0;
+    QObject::connect(&host, &DialogHost::stateChanged, [&] { ++changes; });
+    ASSERT_TRUE(offer("PrintQuality", "Best"));
+    host.setSetting(q("copies"), q("2"));
+    host.choose({q("Sharpen"), q("High")});
+    EXPECT_EQ(changes, 0);
+    runEventLoop();
+    EXPECT_EQ(changes, 1);
+    host.setSetting(q("copies"), q("3"));
+    runEventLoop();
+    EXPECT_EQ(changes, 2);
 }
 
 TEST_F(Host, GivesThePrinterAWordForItsEncoding)

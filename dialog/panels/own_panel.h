@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QWidget>
+
+namespace dialog {
+
+/// A panel of the dialog's own, beside those of plug-ins.
+class OwnPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    /// What the panel chooser shows.
+    [[nodiscard]] virtual QString title() const = 0;
+    /// The name that scenarios and stored settings know it by, in every language.
+    [[nodiscard]] virtual QString kind() const = 0;
+    /// Brings the controls in line with what is set. Called before the panel is shown, and while it
+    /// is in front after every change.
+    virtual void refresh() = 0;
+};
+
+} // namespace dialog
