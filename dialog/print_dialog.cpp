@@ -5,6 +5,8 @@
 #include "dialog/jobs/job_messages.h"
 #include "dialog/jobs/queue_printing.h"
 #include "dialog/printers/queue_job.h"
+#include "dialog/printers/standard_options.h"
+#include "dialog/printers/unsendable.h"
 #include "dialog/window/help_window.h"
 #include "dialog/window/print_window.h"
 #include "dialog/window/summary_view.h"
@@ -392,6 +394,7 @@ JobSettings PrintDialog::jobSettings() const
 {
     JobSettings settings{
         printer_->defaults(), printer_->marks(), {}, {}, host_.explicitPaperName()};
+    settings.counterparts = standardCounterparts(*printer_);
     for (const auto &[option, choice] : host_.ledger().chosen())
         settings.chosen.append(option);
     settings.printSettings = host_.settings().all();

@@ -1,5 +1,6 @@
 #include "dialog/printers/job_options.h"
 
+#include "dialog/printers/standard_options.h"
 #include "platform/strings.h"
 
 #include <algorithm>
@@ -7,13 +8,7 @@
 namespace dialog {
 namespace {
 
-// Values of this many bytes make a job vanish with the answer "success".
-constexpr int kTooManyBytes = 32 * 1024;
-
-bool isSameName(const QString &a, const QString &b)
-{
-    return a.compare(b, Qt::CaseInsensitive) == 0;
-}
+const QString kNumberUp = QStringLiteral("number-up");
 
 bool contains(const Choices &choices, const Choice &wanted)
 {
@@ -23,25 +18,70 @@ bool contains(const Choices &choices, const Choice &wanted)
 /// A mirror setting other than the text "true" means nothing.
 bool takesEffect(const QString &key, const QVariant &value)
 {
+    if (key == columnsKey())
+        return false;
     if (key != QLatin1String("mirror"))
         return true;
     return value.typeId() == QMetaType::QString && value.toString() == QLatin1String("true");
 }
 
-JobOptions effectiveSettings(const JobSettings &settings)
+/// In the place of an option of that name.
+void set(JobOptions &options, const QString &name, const QString &value)
+{
+    std::erase_if(options, [&](const auto &option) { return isSameOption(option.first, name); });
+    options.emplace_back(name, value);
+}
+
+/// Of a sheet that has at least so many columns, as far as there is one.
+int pagesOfColumns(int columns)
+{
+    for (const SharedSheet &sheet : kSharedSheets) {
+        if (sheet.columns >= columns)
+            return sheet.pages;
+    }
+    return std::end(kSharedSheets)[-1].pages;
+}
+
+JobOptions effectiveSettings(const std::map<QString, QVariant> &settings)
 {
     JobOptions options;
-    for (const auto &[key, value] : settings.printSettings) {
+    for (const auto &[key, value] : settings) {
         if (takesEffect(key, value))
-            options.emplace_back(key, value.toString());
+            set(options, key, value.toString());
     }
+    const auto columns = settings.find(columnsKey());
+    const int pages =
+        columns == settings.end() ? 1 : pagesOfColumns(platform::integerValue(columns->second));
+    if (pages > 1 && !settings.contains(kNumberUp))
+        set(options, kNumberUp, QString::number(pages));
     return options;
 }
 
-bool isReplaced(const Choice &mark, const JobOptions &printSettings)
+/// The print settings as they are sent, and what they stand for.
+Meaning meaningOfSettings(const JobSettings &settings)
 {
-    return std::any_of(printSettings.begin(), printSettings.end(),
-                       [&](const auto &setting) { return isSameName(setting.first, mark.option); });
+    Meaning whole;
+    for (const auto &[key, value] : effectiveSettings(settings.printSettings)) {
+        const Meaning meaning = meaningOf(key, value, settings.counterparts);
+        whole.standsFor += meaning.standsFor;
+        for (const auto &[name, word] : meaning.said) {
+            set(whole.said, name, word);
+            whole.standsFor.append(name);
+        }
+    }
+    return whole;
+}
+
+bool isReplaced(const Choice &mark, const Meaning &printSettings)
+{
+    return printSettings.standsFor.contains(mark.option, Qt::CaseInsensitive);
+}
+
+bool says(const JobOptions &options, const Choice &mark)
+{
+    return std::any_of(options.begin(), options.end(), [&](const auto &option) {
+        return isSameOption(option.first, mark.option) && option.second == mark.choice;
+    });
 }
 
 /// The page format's paper stands above the marked page size.
@@ -69,35 +109,26 @@ void add(JobOptions &options, const Choice &mark)
 
 JobOptions jobOptions(const JobSettings &settings)
 {
-    const JobOptions printSettings = effectiveSettings(settings);
+    const Meaning printSettings = meaningOfSettings(settings);
     JobOptions options;
     for (const Choice &marked : settings.marks) {
         const Choice mark = withPaper(marked, settings.paperName);
         if (isSent(mark, settings) && !isReplaced(mark, printSettings))
             add(options, mark);
     }
-    options.insert(options.end(), printSettings.begin(), printSettings.end());
+    options.insert(options.end(), printSettings.said.begin(), printSettings.said.end());
     return options;
 }
 
 Choices replacedMarks(const JobSettings &settings)
 {
-    const JobOptions printSettings = effectiveSettings(settings);
+    const Meaning printSettings = meaningOfSettings(settings);
     Choices replaced;
     std::copy_if(settings.marks.begin(), settings.marks.end(), std::back_inserter(replaced),
-                 [&](const Choice &mark) { return isReplaced(mark, printSettings); });
+                 [&](const Choice &mark) {
+                     return isReplaced(mark, printSettings) && !says(printSettings.said, mark);
+                 });
     return replaced;
-}
-
-QString unsendableReason(const JobOptions &options)
-{
-    for (const auto &[name, value] : options) {
-        if (value.startsWith(u'{'))
-            return name + QStringLiteral(": a value cannot begin with \"{\"");
-        if (value.toUtf8().size() >= kTooManyBytes)
-            return name + QStringLiteral(": the value is too long");
-    }
-    return {};
 }
 
 } // namespace dialog

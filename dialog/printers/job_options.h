@@ -11,10 +11,11 @@
 
 namespace dialog {
 
-class PpdDocument;
-
 /// What a printer receives: option names and values, in order, names unique but for case.
 using JobOptions = std::vector<std::pair<QString, QString>>;
+
+/// Options of a printer with their choices, by keyword.
+using OptionChoices = std::map<QString, QStringList>;
 
 /// What the job's options are made of.
 struct JobSettings
@@ -24,19 +25,20 @@ struct JobSettings
     QStringList
         chosen; ///< options that a person chose, to be sent even where they equal the default
     std::map<QString, QVariant> printSettings;
-    QString paperName; ///< null: the marked page size stands
+    QString paperName;               ///< null: the marked page size stands
+    OptionChoices counterparts = {}; ///< the printer's, of standard job options
 };
 
-/// The marks that differ from the defaults or were chosen, then the print settings. A print setting
-/// replaces a mark whose option has the same name but for case: to the printer both are one option.
+/// The marks that differ from the defaults or were chosen, then the print settings, each meaning
+/// once. A print setting replaces the mark of an option that has the same name but for case, or
+/// the same meaning; the printer's own words are sent for it where the printer has them.
+///
 /// Mirror is on for the text "true" only; any other value of it sends nothing and replaces nothing.
+/// What is set for the panels alone is not sent, but several columns without "number-up" send the
+/// smallest one that has them.
 [[nodiscard]] JobOptions jobOptions(const JobSettings &settings);
 
-/// Marks that a print setting replaces in the job.
+/// Marks that a print setting replaces in the job by something else.
 [[nodiscard]] Choices replacedMarks(const JobSettings &settings);
-
-/// Name and reason of the first option that would get lost on its way to the printer without an
-/// error from anybody; null when every option will arrive.
-[[nodiscard]] QString unsendableReason(const JobOptions &options);
 
 } // namespace dialog

@@ -1,6 +1,6 @@
 #include "dialog/jobs/document.h"
 #include "dialog/jobs/job_folder.h"
-#include "dialog/printers/job_options.h"
+#include "dialog/printers/unsendable.h"
 #include "tests/dialog/program_run.h"
 #include "tests/dialog/staged_driver.h"
 #include "tests/support/print_to.h"
@@ -82,8 +82,37 @@ TEST(JobOptions, JoinTheChoicesOfAPickManyOption)
 TEST(JobOptions, ThatWouldGetLostAreFoundBeforeSending)
 {
     EXPECT_NULL(unsendableReason({{q("A"), q("x{")}, {q("B"), QString(32'767, u'x')}}));
-    EXPECT_TRUE(unsendableReason({{q("A"), q("{x")}}).startsWith(q("A:")));
-    EXPECT_TRUE(unsendableReason({{q("B"), QString(32'768, u'x')}}).startsWith(q("B:")));
+    const std::pair<QString, QString> table[] = {
+        {q("A"), q("{x")},
+        {q("A"), QString(32'768, u'x')},
+        {q("A"), QString(16'384, QChar(0xe4))},
+        {q("A"), q("")},
+        {q("A"), QString()},
+        {q("A"), q("x\ny")},
+        {q("A"), QString(u'x') + QChar(u'\0')},
+        {QString(256, u'N'), q("x")},
+        {q("A=B"), q("x")},
+        {q("A B"), q("x")},
+        {q("A/B"), q("x")},
+        {q("A\tB"), q("x")},
+        {q("normal"), q("TRUE")},
+    };
+    for (const auto &option : table) {
+        const QString reason = unsendableReason({{q("Fine"), q("x")}, option});
+        EXPECT_TRUE(reason.startsWith(option.first.left(1))) << testing::PrintToString(reason);
+        EXPECT_LT(reason.size(), 130) << "a long name is cut";
+    }
+    EXPECT_FALSE(unsendableReason({{q(""), q("x")}}).isNull());
+}
+
+TEST(JobOptions, ThatAreTooLongTogetherAreFoundBeforeSending)
+{
+    JobOptions options;
+    for (int i = 0; i < 5; ++i)
+        options.emplace_back(q("Option%1").arg(i), QString(25'000, u'x'));
+    EXPECT_NULL(unsendableReason(options));
+    options.front().second += QString(1'000, u'"');
+    EXPECT_FALSE(unsendableReason(options).isNull()) << "each quote counts twice";
 }
 
 Ticket ticketFor(const QString &id)
