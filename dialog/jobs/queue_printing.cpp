@@ -59,12 +59,14 @@ void QueuePrinting::send(const QueueDocument &document)
     QueueJobRequest request{document.title, document.path, document.options, trace,
                             openAttempts(document.path)};
     request.limits = limits_;
+    request.signInBy = signInBy_;
     request.remember = [journal = journal_, entry](const JobTrace &now) {
         return journal->write({now, entry.server, entry.title, entry.time});
     };
     attempts_.push_back({trace.token, document.path});
     job_ = new QueueJob(this);
     connect(job_, &QueueJob::progressed, this, &QueuePrinting::progressed);
+    connect(job_, &QueueJob::signInWanted, this, &QueuePrinting::signInWanted);
     connect(job_, &QueueJob::finished, this, &QueuePrinting::finish);
     job_->start(request);
 }
@@ -73,6 +75,12 @@ void QueuePrinting::cancel()
 {
     if (job_)
         job_->cancel();
+}
+
+void QueuePrinting::signIn(std::unique_ptr<Credentials> credentials)
+{
+    if (job_)
+        job_->signIn(std::move(credentials));
 }
 
 void QueuePrinting::finish(const QueueJobResult &result)

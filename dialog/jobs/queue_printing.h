@@ -33,9 +33,14 @@ public:
     /// Does nothing while another document is being sent.
     void send(const QueueDocument &document);
     void cancel();
+    /// Whether signInWanted() finds somebody who asks a person; nobody at first.
+    void setSignInBy(SignInBy who) { signInBy_ = who; }
+    void signIn(std::unique_ptr<Credentials> credentials);
 
 Q_SIGNALS:
     void progressed(qint64 sentBytes, qint64 totalBytes);
+    /// The job waits for signIn() or cancel(). The question is void when the job ends.
+    void signInWanted(const dialog::SignInQuestion &question);
     void finished(const dialog::QueueJobResult &result);
     void earlierSettled(const QString &message);
 
@@ -56,6 +61,7 @@ private:
     const std::shared_ptr<JobJournal> journal_; ///< shared with workers, which may stay longer
     std::vector<Attempt> attempts_;
     QueueJob *job_ = nullptr;
+    SignInBy signInBy_ = SignInBy::Nobody;
 };
 
 } // namespace dialog

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <condition_variable>
 #include <mutex>
 #include <optional>
 #include <thread>
@@ -31,6 +32,9 @@ struct QueueJob::Shared
     Lifeline lifeline;
     std::atomic<bool> isCancelled = false;
     std::atomic<bool> isAbandoned = false;
+    std::condition_variable answered; ///< or nobody waits for the answer any more
+    bool hasAnswer = false;
+    std::unique_ptr<Credentials> answer;
 
     template <class Call>
     void tell(Call call)
@@ -41,6 +45,37 @@ struct QueueJob::Shared
             QMetaObject::invokeMethod(
                 to, [to, call] { call(*to); }, Qt::QueuedConnection);
     }
+
+    /// On the worker's thread.
+    [[nodiscard]] std::unique_ptr<Credentials> askPerson(const SignInQuestion &question,
+                                                         std::chrono::milliseconds limit)
+    {
+        if (isCancelled)
+            return nullptr;
+        tell([question](QueueJob &job) { job.askPerson(question); });
+        std::unique_lock lock(mutex);
+        answered.wait_for(lock, limit, [this] { return hasAnswer || isCancelled || isAbandoned; });
+        hasAnswer = false;
+        return std::move(answer);
+    }
+    void give(std::unique_ptr<Credentials> credentials)
+    {
+        {
+            const std::lock_guard lock(mutex);
+            answer = std::move(credentials);
+            hasAnswer = true;
+        }
+        answered.notify_all();
+    }
+    /// Wakes a worker that waits for a person; which of both flags is set tells why.
+    void stop(std::atomic<bool> &flag)
+    {
+        {
+            const std::lock_guard lock(mutex);
+            flag = true;
+        }
+        answered.notify_all();
+    }
 };
 
 namespace {
@@ -50,9 +85,10 @@ class Sender
 {
 public:
     Sender(const QueueJobRequest &request, Lifeline &lifeline, const std::atomic<bool> &isCancelled,
-           const std::atomic<bool> &isAbandoned, std::function<void(qint64, qint64)> stepped)
+           const std::atomic<bool> &isAbandoned, std::function<void(qint64, qint64)> stepped,
+           AskPerson ask)
         : request_(request), lifeline_(lifeline), isCancelled_(isCancelled),
-          isAbandoned_(isAbandoned), stepped_(std::move(stepped))
+          isAbandoned_(isAbandoned), stepped_(std::move(stepped)), signIn_(std::move(ask))
     {
     }
 
@@ -62,7 +98,7 @@ public:
         if (!document.open(QIODevice::ReadOnly))
             return ended(JobFault::DocumentLost, document.errorString());
         total_ = document.size();
-        http_ = connectToServer(request_.limits, &lifeline_);
+        http_ = connect();
         if (!http_)
             return ended(JobFault::NoServer, lastServerError());
         if (auto known = earlierJob())
@@ -73,7 +109,17 @@ public:
     }
 
 private:
-    void step(qint64 sent) { stepped_(sent, total_); }
+    [[nodiscard]] Connection connect()
+    {
+        return connectToServer(request_.limits, &lifeline_, &signIn_);
+    }
+
+    void step(qint64 sent)
+    {
+        if (http_)
+            lifeline_.hold(httpGetFd(http_.get())); // libcups connects anew to sign in
+        stepped_(sent, total_);
+    }
 
     bool remember(SendStage stage)
     {
@@ -146,7 +192,7 @@ private:
             return undecided(fault, detail);
         lifeline_.mend();
         step(0);
-        http_ = connectToServer(request_.limits, &lifeline_);
+        http_ = connect();
         if (!http_)
             return undecided(fault, detail);
         if (isCancelled_)
@@ -191,6 +237,7 @@ private:
     const std::atomic<bool> &isCancelled_;
     const std::atomic<bool> &isAbandoned_;
     std::function<void(qint64, qint64)> stepped_;
+    SignIn signIn_;
     JobTrace trace_ = request_.trace;
     QStringList settled_;
     Connection http_;
@@ -209,7 +256,7 @@ QueueJob::~QueueJob()
 {
     if (!shared_)
         return;
-    shared_->isAbandoned = true;
+    shared_->stop(shared_->isAbandoned);
     const std::lock_guard lock(shared_->mutex);
     shared_->receiver = nullptr;
     shared_->lifeline.cut();
@@ -224,9 +271,15 @@ void QueueJob::start(const QueueJobRequest &request)
         const auto stepped = [&shared](qint64 sent, qint64 total) {
             shared->tell([sent, total](QueueJob &job) { job.takeStep(sent, total); });
         };
-        const QueueJobResult result =
-            Sender(request, shared->lifeline, shared->isCancelled, shared->isAbandoned, stepped)
-                .run();
+        const auto ask = [&shared, &request](const SignInQuestion &question) {
+            return request.signInBy == SignInBy::Nobody
+                       ? nullptr
+                       : shared->askPerson(question, std::chrono::milliseconds(
+                                                         request.limits.signInMilliseconds));
+        };
+        const QueueJobResult result = Sender(request, shared->lifeline, shared->isCancelled,
+                                             shared->isAbandoned, stepped, ask)
+                                          .run();
         shared->tell([result](QueueJob &job) { job.finish(result); });
     }).detach();
 }
@@ -240,11 +293,29 @@ void QueueJob::takeStep(qint64 sentBytes, qint64 totalBytes)
     Q_EMIT progressed(sentBytes, totalBytes);
 }
 
-void QueueJob::cancel()
+/// A person may take longer than a server.
+void QueueJob::askPerson(const SignInQuestion &question)
 {
-    if (!shared_ || shared_->isCancelled.exchange(true))
+    if (!shared_)
+        return;
+    patience_.stop();
+    Q_EMIT signInWanted(question);
+}
+
+void QueueJob::signIn(std::unique_ptr<Credentials> credentials)
+{
+    if (!shared_)
         return;
     patience_.start();
+    shared_->give(std::move(credentials));
+}
+
+void QueueJob::cancel()
+{
+    if (!shared_ || shared_->isCancelled)
+        return;
+    patience_.start();
+    shared_->stop(shared_->isCancelled);
     shared_->lifeline.cut();
 }
 
@@ -260,7 +331,7 @@ void QueueJob::finish(const QueueJobResult &result)
     if (!shared_)
         return;
     patience_.stop();
-    shared_->isAbandoned = true;
+    shared_->stop(shared_->isAbandoned);
     {
         const std::lock_guard lock(shared_->mutex);
         shared_->receiver = nullptr;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/printers/server_job.h"
+#include "dialog/printers/sign_in.h"
 
 #include <QObject>
 #include <QTimer>
@@ -10,6 +11,9 @@
 #include <vector>
 
 namespace dialog {
+
+/// Who gives a name and password where the server wants them.
+enum class SignInBy { Nobody, Person };
 
 struct QueueJobRequest
 {
@@ -22,6 +26,7 @@ struct QueueJobRequest
     /// thread. Without it, or when it answers false, nothing is sent.
     std::function<bool(const JobTrace &)> remember = {};
     ServerLimits limits = {};
+    SignInBy signInBy = SignInBy::Nobody;
 };
 
 struct QueueJobResult
@@ -51,16 +56,21 @@ public:
     void start(const QueueJobRequest &request);
     /// Takes the job back; finished() follows within the limit.
     void cancel();
+    /// What a person answered to signInWanted().
+    void signIn(std::unique_ptr<Credentials> credentials);
 
 Q_SIGNALS:
     // On the main thread.
     void progressed(qint64 sentBytes, qint64 totalBytes);
+    /// The job waits for signIn() or cancel(), and goes on without when nothing comes in time.
+    void signInWanted(const dialog::SignInQuestion &question);
     /// Once per start().
     void finished(const dialog::QueueJobResult &result);
 
 private:
     struct Shared;
     void takeStep(qint64 sentBytes, qint64 totalBytes);
+    void askPerson(const SignInQuestion &question);
     void abandon();
     void finish(const QueueJobResult &result);
 

@@ -1,5 +1,7 @@
 #include "dialog/printers/server_connection.h"
 
+#include "dialog/printers/sign_in.h"
+
 #include <cups/cups.h>
 
 #include <fcntl.h>
@@ -66,11 +68,14 @@ void ConnectionCloser::operator()(http_t *http) const
     httpClose(http);
 }
 
-Connection connectToServer(const ServerLimits &limits, Lifeline *lifeline)
+Connection connectToServer(const ServerLimits &limits, Lifeline *lifeline, SignIn *signIn)
 {
     if (lifeline && lifeline->isCut())
         return nullptr;
-    cupsSetPasswordCB2(knowNoPassword, nullptr);
+    if (signIn)
+        signIn->beginConnection();
+    else
+        cupsSetPasswordCB2(knowNoPassword, nullptr);
     Connection http(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
                                  limits.answerMilliseconds, nullptr));
     if (!http)

@@ -9,10 +9,14 @@ typedef struct _http_s http_t;
 
 namespace dialog {
 
+class SignIn;
+
 /// How long a print server gets for one step of a talk before a person is told that it is silent.
 struct ServerLimits
 {
     int answerMilliseconds = 3'500;
+    /// For a person who is asked for a name and password.
+    int signInMilliseconds = 600'000;
 };
 
 /// Breaks a blocked call on another thread: the call's socket is shut down, so that the call
@@ -39,8 +43,9 @@ struct ConnectionCloser
 using Connection = std::unique_ptr<http_t, ConnectionCloser>;
 
 /// A connection of this thread's own to the print server of the environment; null when there is
-/// none or the lifeline is cut. No call on it asks for a password.
-[[nodiscard]] Connection connectToServer(const ServerLimits &limits, Lifeline *lifeline = nullptr);
+/// none or the lifeline is cut. Without @p signIn, no call on it asks for a password.
+[[nodiscard]] Connection connectToServer(const ServerLimits &limits, Lifeline *lifeline = nullptr,
+                                         SignIn *signIn = nullptr);
 
 /// What went wrong in this thread's last call, in libcups' words.
 [[nodiscard]] QString lastServerError();

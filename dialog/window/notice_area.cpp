@@ -80,7 +80,6 @@ NoticeArea::NoticeArea(QWidget *parent) : QWidget(parent), layout_(new QVBoxLayo
 
 void NoticeArea::show(const Notice &notice)
 {
-    dismiss(notice.key);
     QFrame *frame = frameFor(this);
     frame->setAccessibleName(notice.text);
     auto *row = new QHBoxLayout;
@@ -92,9 +91,15 @@ void NoticeArea::show(const Notice &notice)
         row->addWidget(makeDismissButton(notice.key, frame), 0, Qt::AlignTop);
     else
         column->addLayout(makeActionRow(notice, frame));
-    standing_.push_back({notice.key, notice.text, frame});
-    insert(frame);
-    Q_EMIT shown(notice.text);
+    place(notice.key, notice.text, frame);
+}
+
+void NoticeArea::place(const QString &key, const QString &text, QWidget *view)
+{
+    dismiss(key);
+    standing_.push_back({key, text, view});
+    insert(view);
+    Q_EMIT shown(text);
 }
 
 QWidget *NoticeArea::makeDismissButton(const QString &key, QWidget *parent)

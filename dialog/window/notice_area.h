@@ -38,6 +38,8 @@ public:
     explicit NoticeArea(QWidget *parent = nullptr);
 
     void show(const Notice &notice);
+    /// Puts a view that says @p text in the place of a notice; the view becomes the area's.
+    void place(const QString &key, const QString &text, QWidget *view);
     void dismiss(const QString &key);
     /// Dismisses every notice whose key begins so.
     void dismissGroup(const QString &prefix);

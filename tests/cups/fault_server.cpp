@@ -96,6 +96,18 @@ void FaultServer::misbehave(const Fault &fault)
     answerBytes_ = 0;
 }
 
+void FaultServer::demand(const QByteArray &user, const QByteArray &password)
+{
+    const std::lock_guard lock(mutex_);
+    demanded_ = "Authorization: Basic " + (user + ':' + password).toBase64() + "\r\n";
+}
+
+QByteArray FaultServer::demanded()
+{
+    const std::lock_guard lock(mutex_);
+    return demanded_;
+}
+
 /// Whether the fault's byte is among those that have just come.
 bool FaultServer::takesPlace(FaultKind kind, std::int64_t bytes)
 {
@@ -153,6 +165,25 @@ void FaultServer::acceptClient()
     links_.push_back({client, server});
 }
 
+bool FaultServer::letIn(Link &link, const QByteArray &requests)
+{
+    static const QByteArray refusal = "HTTP/1.1 401 Unauthorized\r\n"
+                                      "WWW-Authenticate: Basic realm=\"CUPS\"\r\n"
+                                      "Content-Length: 0\r\n\r\n";
+    const QByteArray wanted = demanded();
+    link.held += requests;
+    if (!wanted.isEmpty() && !link.held.contains("\r\n\r\n"))
+        return false;
+    link.isLetIn = wanted.isEmpty() || link.held.contains(wanted);
+    if (!link.isLetIn) {
+        ++refusals_;
+        link.isDeaf = true; // whoever signs in connects anew
+        static_cast<void>(
+            sendAll(link.client, refusal.constData(), static_cast<std::size_t>(refusal.size())));
+    }
+    return link.isLetIn;
+}
+
 bool FaultServer::passRequests(Link &link)
 {
     std::array<char, kBlock> block;
@@ -161,13 +192,21 @@ bool FaultServer::passRequests(Link &link)
         return false;
     if (link.isDeaf)
         return true;
+    QByteArray requests(block.data(), static_cast<qsizetype>(got));
+    if (!link.isLetIn) {
+        if (!letIn(link, requests))
+            return true;
+        requests = std::exchange(link.held, {});
+    }
+    if (const QByteArray wanted = demanded(); !wanted.isEmpty())
+        requests.replace(wanted, QByteArray());
     const std::int64_t before = requestBytes_;
-    requestBytes_ += got;
+    requestBytes_ += requests.size();
     const bool isCut = takesPlace(FaultKind::CutRequests, requestBytes_);
     link.isDeaf = takesPlace(FaultKind::Deafness, requestBytes_);
     const std::int64_t passed =
-        isCut || link.isDeaf ? std::max<std::int64_t>(fault_.atByte - before, 0) : got;
-    return sendAll(link.server, block.data(), static_cast<std::size_t>(passed)) && !isCut;
+        isCut || link.isDeaf ? std::max<std::int64_t>(fault_.atByte - before, 0) : requests.size();
+    return sendAll(link.server, requests.constData(), static_cast<std::size_t>(passed)) && !isCut;
 }
 
 bool FaultServer::passAnswers(Link &link)

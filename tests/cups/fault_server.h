@@ -48,6 +48,11 @@ public:
     [[nodiscard]] QString address() const;
     /// Of the connections from now on; bytes are counted from here.
     void misbehave(const Fault &fault);
+    /// From now on connections get nothing through before they have sent this name and password,
+    /// which the healthy server never sees.
+    void demand(const QByteArray &user, const QByteArray &password);
+    /// Requests that were sent away for want of a name and password.
+    [[nodiscard]] int refusals() const { return refusals_; }
     [[nodiscard]] bool hasMisbehaved() const { return hasHappened_; }
     [[nodiscard]] std::int64_t requestBytes() const { return requestBytes_; }
     [[nodiscard]] std::int64_t answerBytes() const { return answerBytes_; }
@@ -60,6 +65,8 @@ private:
         bool isSilent = false;
         bool isDeaf = false;
         bool isTrickling = false;
+        bool isLetIn = false;
+        QByteArray held = {};    ///< requests, until they show who sends them
         QByteArray waiting = {}; ///< answers that trickle
     };
 
@@ -69,6 +76,9 @@ private:
     [[nodiscard]] bool passRequests(Link &link);
     [[nodiscard]] bool passAnswers(Link &link);
     void trickle(Link &link);
+    /// Whether the link's requests go through; false also while nobody knows yet.
+    [[nodiscard]] bool letIn(Link &link, const QByteArray &requests);
+    [[nodiscard]] QByteArray demanded();
     [[nodiscard]] bool takesPlace(FaultKind kind, std::int64_t bytes);
 
     int listener_ = -1;
@@ -77,8 +87,10 @@ private:
     std::vector<Link> links_;
     std::mutex mutex_;
     Fault fault_;
+    QByteArray demanded_; ///< a line of HTTP; empty without demand
     std::atomic<bool> hasHappened_ = false;
     std::atomic<bool> isOver_ = false;
+    std::atomic<int> refusals_ = 0;
     std::atomic<std::int64_t> requestBytes_ = 0;
     std::atomic<std::int64_t> answerBytes_ = 0;
     std::thread thread_;

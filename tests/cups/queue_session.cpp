@@ -36,10 +36,14 @@ dialog::JobOptions QueueSession::options()
         {q("MediaType"), q("IronOn")}, {q("PrintQuality"), q("Best")}, {q("mirror"), q("true")}};
 }
 
-std::unique_ptr<dialog::QueuePrinting> QueueSession::printing(int limitMilliseconds) const
+std::unique_ptr<dialog::QueuePrinting> QueueSession::printing(int limitMilliseconds)
 {
-    return std::make_unique<dialog::QueuePrinting>(queue(),
-                                                   dialog::ServerLimits{limitMilliseconds});
+    return printing(dialog::ServerLimits{limitMilliseconds});
+}
+
+std::unique_ptr<dialog::QueuePrinting> QueueSession::printing(const dialog::ServerLimits &limits)
+{
+    return std::make_unique<dialog::QueuePrinting>(queue(), limits);
 }
 
 QStringList QueueSession::journal() const

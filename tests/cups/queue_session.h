@@ -33,7 +33,9 @@ public:
     [[nodiscard]] QString document() const { return files_.filePath(QStringLiteral("page.pdf")); }
     [[nodiscard]] QString stateFolder() const { return files_.filePath(QStringLiteral("state")); }
     [[nodiscard]] static dialog::JobOptions options();
-    [[nodiscard]] std::unique_ptr<dialog::QueuePrinting> printing(int limitMilliseconds) const;
+    [[nodiscard]] static std::unique_ptr<dialog::QueuePrinting> printing(int limitMilliseconds);
+    [[nodiscard]] static std::unique_ptr<dialog::QueuePrinting>
+    printing(const dialog::ServerLimits &limits);
     /// Names of the files in the journal.
     [[nodiscard]] QStringList journal() const;
 

@@ -251,7 +251,9 @@ void PrivateCupsd::start()
 bool PrivateCupsd::comesUp()
 {
     write(folder() + QStringLiteral("/server.conf"),
-          QByteArray(kConfiguration).replace("@PORT@", QByteArray::number(port_)), 0644);
+          QByteArray(kConfiguration).replace("@PORT@", QByteArray::number(port_)) +
+              moreConfiguration_,
+          0644);
     server_ = std::make_unique<QProcess>();
     server_->setStandardOutputFile(folder() + QStringLiteral("/log/output"));
     server_->setStandardErrorFile(folder() + QStringLiteral("/log/errors"));
@@ -290,6 +292,12 @@ void PrivateCupsd::restart()
 {
     stop();
     ASSERT_TRUE(comesUp()) << "the print server does not come back";
+}
+
+void PrivateCupsd::configure(const QByteArray &lines)
+{
+    moreConfiguration_ = lines;
+    restart();
 }
 
 bool PrivateCupsd::isRunning() const

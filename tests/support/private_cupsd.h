@@ -52,6 +52,8 @@ public:
     /// Starts it at the same address, with the queues and jobs that it had; fails the test if it
     /// cannot.
     void restart();
+    /// Starts it anew with these lines of configuration besides its own.
+    void configure(const QByteArray &lines);
 
     /// A queue that takes PDF files, idle and accepting. The PPD's filters give way to the one that
     /// keeps the options.
@@ -81,6 +83,7 @@ private:
     bool gaveUpRights_;
     QTemporaryDir folder_;
     int port_ = 0;
+    QByteArray moreConfiguration_;
     std::unique_ptr<QProcess> server_;
     QByteArray formerServer_;
 };
