@@ -3,12 +3,14 @@
 #include "dialog/replay/input.h"
 #include "dialog/window/print_window.h"
 #include "tests/dialog/staged_driver.h"
+#include "tests/endtoend/panel_hands.h"
 #include "tests/support/print_to.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QEventLoop>
 #include <QJsonDocument>
+#include <QPushButton>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -16,29 +18,18 @@
 #include <stdexcept>
 
 namespace test {
+
+namespace input = dialog::replay::input;
+
 namespace {
 
 constexpr int kPatienceMilliseconds = 20'000;
-
-struct PopUpOfOption
-{
-    const char *option;
-    const char *popUp;
-};
-
-// clang-format off
-constexpr PopUpOfOption kPopUps[] = {
-    {"PrintQuality", "ibPrintQuality"},
-    {"MediaType",    "ibPaperType"},
-    {"PaperSource",  "ibPaperSource"},
-};
-// clang-format on
 
 PrintedJob jobOf(const dialog::JobRecord &record)
 {
     const QJsonDocument ticket = QJsonDocument::fromJson(fileBytes(record.ticketPath));
     EXPECT_TRUE(ticket.isObject()) << record.ticketPath.toStdString();
-    return {record.id.toInt(), record.options, ticket.object()};
+    return {record.id.toInt(), record.options, ticket.object(), false};
 }
 
 } // namespace
@@ -83,41 +74,47 @@ void DialogRun::preset(const dialog::Choices &choices)
 void DialogRun::showPanels()
 {
     dialog_->showPanels();
-    ASSERT_EQ(dialog_->panels().size(), 1U) << "the plug-in has not been loaded";
+    ASSERT_FALSE(dialog_->panels().empty()) << "the plug-in has not been loaded";
     QCoreApplication::processEvents();
 }
 
-QStringList DialogRun::options()
+void DialogRun::showPanelOf(const QString &option)
 {
-    QStringList names;
-    for (const PopUpOfOption &row : kPopUps)
-        names.append(q(row.option));
-    return names;
+    const QString kind = panelKindOf(option);
+    for (const dialog::PrintDialog::Panel &panel : dialog_->panels()) {
+        auto *popUp = dialog_->window()->findChild<QComboBox *>(q("panelPopUp"));
+        if (panel.kind != kind || popUp->currentText() == panel.title)
+            continue;
+        EXPECT_NULL(input::choose(popUp, popUp->findText(panel.title)));
+        QCoreApplication::processEvents();
+    }
 }
 
 void DialogRun::choose(const dialog::Choice &choice)
 {
-    QComboBox *control = popUp(choice.option);
-    ASSERT_TRUE(control && control->isVisible() && control->isEnabled());
-    const int index = control->findData(choice.choice);
-    ASSERT_GE(index, 0) << "no item " << choice.choice.toStdString();
-    EXPECT_NULL(dialog::replay::input::choose(control, index));
-    QCoreApplication::processEvents(); // what a person does next is another action
+    showPanelOf(choice.option);
+    test::choose(dialog_->window(), choice);
 }
 
-QComboBox *DialogRun::popUp(const QString &option) const
+QString DialogRun::obstacleTo(const dialog::Choice &choice)
 {
-    for (const auto &[name, control] : kPopUps) {
-        if (option == q(name))
-            return dialog_->window()->findChild<QComboBox *>(q(control));
-    }
-    return nullptr;
+    showPanelOf(choice.option);
+    return test::obstacleTo(dialog_->window(), choice);
 }
 
 QString DialogRun::shown(const QString &option) const
 {
-    const QComboBox *control = popUp(option);
-    return control ? control->currentData().toString() : QString();
+    const auto *popUp = qobject_cast<QComboBox *>(controlOf(dialog_->window(), option));
+    return popUp ? popUp->currentData().toString() : QString();
+}
+
+bool DialogRun::answerReview()
+{
+    auto *anyway = dialog_->window()->findChild<QPushButton *>(q("printAnywayButton"));
+    if (!anyway || !anyway->isVisible())
+        return false;
+    EXPECT_NULL(input::click(anyway));
+    return true;
 }
 
 std::optional<PrintedJob> DialogRun::print()
@@ -140,9 +137,12 @@ std::optional<PrintedJob> DialogRun::print()
                      });
     QObject::connect(dialog_.get(), &dialog::PrintDialog::jobFailed, &loop, fail);
     QTimer::singleShot(kPatienceMilliseconds, &loop, [&] { fail(q("no job in time")); });
-    dialog_->print(dialog::PrintDialog::Review::Skip);
+    EXPECT_NULL(input::click(dialog_->window()->findChild<QPushButton *>(q("printButton"))));
+    const bool wasReviewed = !hasEnded && answerReview();
     if (!hasEnded)
         loop.exec();
+    if (job)
+        job->wasReviewed = wasReviewed;
     return job;
 }
 

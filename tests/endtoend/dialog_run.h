@@ -9,8 +9,6 @@
 #include <memory>
 #include <optional>
 
-class QComboBox;
-
 namespace test {
 
 /// A sample printer of the staged driver root.
@@ -23,6 +21,7 @@ struct PrintedJob
     int id = 0; ///< at the print server; 0 for a job folder
     dialog::JobOptions options;
     QJsonObject ticket;
+    bool wasReviewed = false; ///< whether the dialog asked before it printed
 };
 
 /// What the panels offered, in order, with the dialog's answers.
@@ -34,8 +33,8 @@ struct AnsweredOffer
     bool operator==(const AnsweredOffer &) const = default;
 };
 
-/// The print dialog with the real panels of the staged driver root, used as a person uses it: the
-/// controls of the Quality & Media panel get events as from the window system.
+/// The print dialog with the real panels of the staged driver root, used as a person uses it: with
+/// events as from the window system.
 class DialogRun
 {
 public:
@@ -48,19 +47,22 @@ public:
     /// Marks choices as a preset does, before the panels restore their values.
     void preset(const dialog::Choices &choices);
     void showPanels();
-    /// The options that choose() knows.
-    [[nodiscard]] static QStringList options();
-    /// Picks the choice's item in the option's pop-up.
+    /// Shows the panel with the option's control first, and what is behind the disclosure triangle.
     void choose(const dialog::Choice &choice);
-    [[nodiscard]] QComboBox *popUp(const QString &option) const;
+    /// Shows the panel; why a person could not choose that now, or null.
+    [[nodiscard]] QString obstacleTo(const dialog::Choice &choice);
     /// Keyword of the item that the option's pop-up shows.
     [[nodiscard]] QString shown(const QString &option) const;
     [[nodiscard]] const std::vector<AnsweredOffer> &offers() const { return offers_; }
 
-    /// Saves the panels' values and prints; nothing, with a failure, when no job comes of it.
+    /// Clicks Print, and "Print Anyway" where the dialog asks; nothing, with a failure, when no job
+    /// comes of it.
     [[nodiscard]] std::optional<PrintedJob> print();
 
 private:
+    void showPanelOf(const QString &option);
+    [[nodiscard]] bool answerReview();
+
     QTemporaryDir jobs_;
     std::unique_ptr<dialog::PrintDialog> dialog_;
     std::vector<AnsweredOffer> offers_;

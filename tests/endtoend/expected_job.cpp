@@ -2,8 +2,6 @@
 
 #include "tests/support/print_to.h"
 
-#include <QStringList>
-
 #include <algorithm>
 #include <set>
 
@@ -14,50 +12,144 @@ using dialog::Choices;
 
 namespace {
 
+/// A null choice stands for each one.
 struct KeywordPair
 {
     const char *option;
     const char *choice;
 };
 
-enum class Effect {
-    Excludes, ///< of both, in either order, the one that is chosen last is refused
-    Brings,   ///< the job carries the other one too, while this one stands or where a preset had it
-    Loses, ///< the other one, refused while this one was chosen, takes away what this one brought
-};
-
-struct Rule
+struct Excluded
 {
-    Effect effect;
     KeywordPair one;
     KeywordPair other;
-    int firstVersion = 0;
-    int lastVersion = 0xFFFF;
+    const char *reason;
 };
 
-// Every difference between what a person chooses and what the job carries.
+/// One setting that a choice of another one changes.
+struct Follower
+{
+    enum class Turn { Ahead, Behind }; ///< of the choice itself
+    KeywordPair picked;
+    KeywordPair changed;
+    Turn turn;
+    const char *reason;
+};
+
+struct NamedRule
+{
+    const char *option;
+    const char *reason;
+};
+
+/// A window that asks about two settings; the first of its answers, and the second where that is
+/// more than instructions.
+struct Conflict
+{
+    const char *window;
+    KeywordPair one;
+    KeywordPair other;
+    std::vector<KeywordPair> first;
+    std::vector<KeywordPair> second;
+};
+
+// These tables are every difference between what a person chooses and what the job carries.
 // clang-format off
-constexpr Rule kRules[] = {
-    {Effect::Excludes, {"PrintQuality", "Draft"},  {"MediaType", "IronOn"}},
-    {Effect::Excludes, {"PrintQuality", "Draft"},  {"MediaType", "Transparency"}},
-    {Effect::Excludes, {"PageSize", "Letter"},     {"MediaType", "Envelope"}},
-    {Effect::Excludes, {"PageSize", "EnvelopeDL"}, {"MediaType", "Plain"}},
-    {Effect::Excludes, {"PageSize", "EnvelopeDL"}, {"MediaType", "IronOn"}},
-    {Effect::Excludes, {"PageSize", "EnvelopeDL"}, {"MediaType", "Transparency"}},
-    {Effect::Excludes, {"PageSize", "EnvelopeDL"}, {"MediaType", "Greeting"}},
-    {Effect::Excludes, {"PageSize", "EnvelopeDL"}, {"MediaType", "PremiumGlossy"}},
-    {Effect::Excludes, {"PageSize", "EnvelopeDL"}, {"MediaType", "InkjetGlossyBrochure"}},
-    {Effect::Excludes, {"PageSize", "EnvelopeDL"}, {"MediaType", "InkjetGlossyLight"}},
-    {Effect::Brings,   {"MediaType", "IronOn"},    {"Mirror", "On"},   0,        kSystem105},
-    {Effect::Brings,   {"MediaType", "IronOn"},    {"mirror", "true"}, kSystem106, 0xFFFF},
-    {Effect::Brings,   {"Mirror", "On"},           {"mirror", "true"}, kSystem106, 0xFFFF},
-    {Effect::Loses,    {"MediaType", "IronOn"},    {"MediaType", "Envelope"}},
+
+// From 10.5 on the dialog refuses the one that comes last. Where both are in a job all the same,
+// the dialog asks before it prints.
+constexpr Excluded kExcluded[] = {
+    {{"PrintQuality", "Draft"},  {"MediaType", "IronOn"},               "needs a full layer of ink"},
+    {{"PrintQuality", "Draft"},  {"MediaType", "Transparency"},         "needs a full layer of ink"},
+    {{"PageSize", "Letter"},     {"MediaType", "Envelope"},             "no envelope has that size"},
+    {{"PageSize", "EnvelopeDL"}, {"MediaType", "Plain"},                "envelopes only"},
+    {{"PageSize", "EnvelopeDL"}, {"MediaType", "IronOn"},               "envelopes only"},
+    {{"PageSize", "EnvelopeDL"}, {"MediaType", "Transparency"},         "envelopes only"},
+    {{"PageSize", "EnvelopeDL"}, {"MediaType", "Greeting"},             "envelopes only"},
+    {{"PageSize", "EnvelopeDL"}, {"MediaType", "PremiumGlossy"},        "envelopes only"},
+    {{"PageSize", "EnvelopeDL"}, {"MediaType", "InkjetGlossyBrochure"}, "envelopes only"},
+    {{"PageSize", "EnvelopeDL"}, {"MediaType", "InkjetGlossyLight"},    "envelopes only"},
+    {{"InkToUse", "BlackOnly"},  {"MediaType", "PremiumGlossy"},        "black ink does not dry there"},
+    {{"InkToUse", "ColorBlack"}, {"MediaType", "PremiumGlossy"},        "black ink does not dry there"},
+    {{"InkToUse", "BlackColor"}, {"MediaType", "PremiumGlossy"},        "black ink does not dry there"},
+    {{"InkToUse", "BlackOnly"},  {"ColorOutput", "Color"},              "begins with the other output's ink"},
+    {{"InkToUse", "BlackColor"}, {"ColorOutput", "Color"},              "begins with the other output's ink"},
+    {{"InkToUse", "ColorOnly"},  {"ColorOutput", "Black"},              "begins with the other output's ink"},
+    {{"InkToUse", "ColorBlack"}, {"ColorOutput", "Black"},              "begins with the other output's ink"},
+    {{"TonerSave", "On"},        {"PrintQuality", "Best"},              "best quality takes toner"},
+    {{"TonerSave", "On"},        {"PrintDensity", "On"},                "density takes toner"},
+};
+
+// Refused, these stay as they were. Every other choice stays in its panel, which hands it over when
+// the job is made, refused or not.
+constexpr NamedRule kUndone[] = {
+    {"PrintQuality",  "asks before it takes the choice"},
+    {"HalftoneLevel", "asks before it takes the choice"},
+    {"MediaType",     "takes the choice back"},
+    {"Mirror",        "takes the choice back"},
+};
+
+constexpr Follower kFollowers[] = {
+    {{"ColorOutput", nullptr}, {"InkToUse", "Automatic"},         Follower::Turn::Ahead,  "each output has inks of its own"},
+    {{"ColorOutput", nullptr}, {"ColorPreferences", "Automatic"}, Follower::Turn::Behind, "preferences are an output's own"},
+    {{"ColorOutput", "Black"}, {"ICCTestChartProcess", "Off"},    Follower::Turn::Behind, "test charts are in colour"},
+    {{"ColorOutput", "Gray"},  {"ICCTestChartProcess", "Off"},    Follower::Turn::Behind, "test charts are in colour"},
+};
+
+// After each choice of colour output the panel offers these once more, as it holds them.
+constexpr NamedRule kOfferedAgain[] = {
+    {"ICCTestChartProcess", "depends on colour output"},
+    {"Threshold",           "depends on colour output; what was typed is offered here only"},
+    {"TonerSave",           "depends on colour output"},
+    {"HalftoneLevel",       "depends on colour output"},
+};
+
+// The dialog hears of these when the job is made, not when they are chosen.
+constexpr NamedRule kNeverOffered[] = {
+    {kTypedThreshold,       "a typed one stays in the panel"},
+    {"ImprovementSettings", "the second panel offers nothing"},
+    {"ImprovePrintQuality", "the second panel offers nothing"},
+    {"ReduceGhosting",      "the second panel offers nothing"},
+    {"PrintDensity",        "the second panel offers nothing"},
+};
+
+// After these the panel looks for conflicts itself, on systems before 10.5.
+constexpr const char *kChecked[] = {"PrintQuality", "MediaType", "ColorOutput", "Mirror", "HalftoneLevel"};
+
+const Conflict kConflicts[] = {
+    {"ibMsgOneWindow",  {"PrintQuality", "Draft"},  {"MediaType", "IronOn"},
+     {{"PrintQuality", "Normal"}}, {{"MediaType", "Plain"}}},
+    {"ibMsgFiveWindow", {"InkToUse", "BlackOnly"},  {"MediaType", "PremiumGlossy"}, {{"InkToUse", "Automatic"}},  {}},
+    {"ibMsgFiveWindow", {"InkToUse", "ColorBlack"}, {"MediaType", "PremiumGlossy"}, {{"InkToUse", "Automatic"}},  {}},
+    {"ibMsgFiveWindow", {"InkToUse", "BlackColor"}, {"MediaType", "PremiumGlossy"}, {{"InkToUse", "Automatic"}},  {}},
+    {"ibMsgFiveWindow", {"PageSize", "Letter"},     {"MediaType", "Envelope"},      {{"MediaType", "Automatic"}}, {}},
 };
 // clang-format on
+
+constexpr const char *kInstructions = "ibInstructionWindow";
 
 Choice choiceOf(const KeywordPair &pair)
 {
     return choice(pair.option, pair.choice);
+}
+
+bool matches(const KeywordPair &pattern, const Choice &picked)
+{
+    return picked.option == q(pattern.option) &&
+           (!pattern.choice || picked.choice == q(pattern.choice));
+}
+
+template <class Rules>
+bool names(const Rules &rules, const QString &option)
+{
+    return std::any_of(std::begin(rules), std::end(rules),
+                       [&](const auto &rule) { return option == q(rule.option); });
+}
+
+bool isChecked(const QString &option)
+{
+    return std::any_of(std::begin(kChecked), std::end(kChecked),
+                       [&](const char *checked) { return option == q(checked); });
 }
 
 bool holds(const Values &values, const Choice &pair)
@@ -68,85 +160,272 @@ bool holds(const Values &values, const Choice &pair)
 
 bool isExcluded(const Choice &picked, const Values &marks)
 {
-    return std::any_of(std::begin(kRules), std::end(kRules), [&](const Rule &rule) {
+    return std::any_of(std::begin(kExcluded), std::end(kExcluded), [&](const Excluded &rule) {
         const Choice one = choiceOf(rule.one);
         const Choice other = choiceOf(rule.other);
-        return rule.effect == Effect::Excludes &&
-               ((one == picked && holds(marks, other)) || (other == picked && holds(marks, one)));
+        return (one == picked && holds(marks, other)) || (other == picked && holds(marks, one));
     });
 }
 
-bool contains(const Choices &choices, const Choice &wanted)
+bool hasConflict(const Values &marks)
 {
-    return std::find(choices.begin(), choices.end(), wanted) != choices.end();
+    return std::any_of(marks.begin(), marks.end(), [&](const auto &mark) {
+        return isExcluded({mark.first, mark.second}, marks);
+    });
 }
 
-/// Presets are marked whatever the constraints say. Answers which choices have lost what they
-/// bring.
-Choices follow(ExpectedJob &job, const Story &story)
+bool isOnOff(const Choice &picked)
 {
-    Choices losers;
-    for (const Choice &marked : story.preset)
-        job.marked[marked.option] = marked.choice;
-    for (const Choice &picked : story.chosen) {
-        const bool isRefused = isExcluded(picked, job.marked);
-        job.refused.erase(picked.option);
-        (isRefused ? job.refused : job.marked)[picked.option] = picked.choice;
-        if (!isRefused)
-            std::erase(losers, picked);
-        for (const Rule &rule : kRules) {
-            if (isRefused && rule.effect == Effect::Loses && choiceOf(rule.other) == picked)
-                losers.push_back(choiceOf(rule.one));
+    static const std::set<QString> words{q("On"), q("Off"), q("True"), q("False")};
+    return words.contains(picked.choice) && picked.option != q("Sharpen");
+}
+
+QString opposite(const QString &word)
+{
+    static const std::map<QString, QString> opposites{
+        {q("On"), q("Off")}, {q("Off"), q("On")}, {q("True"), q("False")}, {q("False"), q("True")}};
+    return opposites.at(word);
+}
+
+/// The dialog with what it has marked, and the panels with what they hold.
+class Desk
+{
+public:
+    Desk(const Choices &defaults, const Story &story) : story_(story)
+    {
+        for (const Choice &marked : defaults)
+            defaults_[marked.option] = marked.choice;
+        marked_ = defaults_;
+        for (const Choice &marked : story.preset)
+            marked_[marked.option] = marked.choice;
+        for (const auto &[option, keyword] : marked_) {
+            if (keyword != defaults_.at(option))
+                chosen_[option] = keyword;
+        }
+        held_ = marked_;
+        const bool wasMirrored = holds(held_, choice("Mirror", "On"));
+        if (wasMirrored || isIronOn())
+            setMirror(true);
+    }
+
+    /// A box that is so already is clicked twice.
+    void pick(const Choice &picked)
+    {
+        if (isOnOff(picked) && holds(held_, picked))
+            act({picked.option, opposite(picked.choice)});
+        act(picked);
+    }
+
+    [[nodiscard]] ExpectedJob job() const
+    {
+        ExpectedJob job;
+        job.marked = marksOfJob();
+        job.printSettings = printSettings_;
+        job.windows = windows_;
+        for (const auto &[option, keyword] : chosen_) {
+            if (job.marked.at(option) != keyword)
+                job.refused[option] = keyword;
+        }
+        job.isReviewed = !job.refused.empty() || hasConflict(job.marked);
+        replace(job);
+        job.options = optionsOf(job);
+        return job;
+    }
+
+private:
+    [[nodiscard]] bool asksTheDialog() const { return story_.systemVersion >= kSystem105; }
+    [[nodiscard]] bool mirrorsTheJob() const { return story_.systemVersion >= kSystem106; }
+    [[nodiscard]] bool isIronOn() const { return holds(held_, choice("MediaType", "IronOn")); }
+    [[nodiscard]] bool isMirrored() const
+    {
+        return mirrorsTheJob() ? printSettings_.contains(q("mirror"))
+                               : holds(held_, choice("Mirror", "On"));
+    }
+
+    void act(const Choice &picked)
+    {
+        hasOffered_ = false;
+        if (picked.option == q(kTypedThreshold))
+            held_[q("Threshold")] = picked.choice;
+        else if (names(kNeverOffered, picked.option))
+            held_[picked.option] = picked.choice;
+        else
+            actAndOffer(picked);
+    }
+
+    void actAndOffer(const Choice &picked)
+    {
+        follow(picked, Follower::Turn::Ahead);
+        if (picked.option == q("MediaType"))
+            takePaper(picked);
+        else
+            take(picked);
+        follow(picked, Follower::Turn::Behind);
+        if (!asksTheDialog() && isChecked(picked.option))
+            settleConflicts();
+        if (picked.option != q("ColorOutput"))
+            return;
+        for (const NamedRule &again : kOfferedAgain)
+            offerHeld(q(again.option));
+    }
+
+    void take(const Choice &picked)
+    {
+        const QString before = held_.at(picked.option);
+        held_[picked.option] = picked.choice;
+        if (picked.option == q("Mirror"))
+            isMirroredByHand_ = picked.choice == q("On");
+        if (!offer(picked) && names(kUndone, picked.option))
+            held_[picked.option] = before;
+    }
+
+    /// Iron-on paper brings mirror with it, where that is not on yet, and takes it away again, also
+    /// when it is left for a paper that is refused then.
+    void takePaper(const Choice &picked)
+    {
+        const bool becomesIronOn = picked.choice == q("IronOn");
+        if (becomesIronOn && !isMirrored())
+            bringMirror(true);
+        else if (!becomesIronOn && bringsMirror_)
+            bringMirror(false);
+        if (!offer(picked)) {
+            if (bringsMirror_)
+                bringMirror(false);
+            return;
+        }
+        held_[picked.option] = picked.choice;
+        if (bringsMirror_)
+            offerHeld(q("Mirror"));
+    }
+
+    void bringMirror(bool isOn)
+    {
+        setMirror(isOn);
+        bringsMirror_ = isOn;
+    }
+
+    void setMirror(bool isOn)
+    {
+        const QString option = q("Mirror");
+        if (mirrorsTheJob() && isOn)
+            printSettings_[q("mirror")] = q("true");
+        else if (mirrorsTheJob())
+            printSettings_.erase(q("mirror"));
+        else if (held_.contains(option))
+            held_[option] = isOn ? q("On") : q("Off");
+    }
+
+    void follow(const Choice &picked, Follower::Turn turn)
+    {
+        for (const Follower &rule : kFollowers) {
+            const Choice changed = choiceOf(rule.changed);
+            if (rule.turn != turn || !matches(rule.picked, picked) ||
+                !held_.contains(changed.option))
+                continue;
+            held_[changed.option] = changed.choice;
+            offer(changed);
         }
     }
-    return losers;
-}
 
-bool isInForce(const Rule &rule, const Story &story, const Values &marks, const Choices &losers)
-{
-    const Choice one = choiceOf(rule.one);
-    const bool stands = holds(marks, one) && !contains(losers, one);
-    return rule.effect == Effect::Brings && (stands || contains(story.preset, one)) &&
-           story.systemVersion >= rule.firstVersion && story.systemVersion <= rule.lastVersion;
-}
-
-void bring(ExpectedJob &job, const Story &story, const Choices &losers)
-{
-    for (const Rule &rule : kRules) {
-        if (!isInForce(rule, story, job.marked, losers))
-            continue;
-        const Choice other = choiceOf(rule.other);
-        (job.marked.contains(other.option) ? job.marked : job.printSettings)[other.option] =
-            other.choice;
+    void offerHeld(const QString &option)
+    {
+        if (held_.contains(option))
+            offer({option, held_.at(option)});
     }
-}
 
-/// To CUPS names that differ in case only are one.
-void replace(ExpectedJob &job)
-{
-    for (const auto &[name, value] : job.printSettings) {
-        const auto found =
-            std::find_if(job.marked.begin(), job.marked.end(), [name = name](const auto &mark) {
-                return mark.first.compare(name, Qt::CaseInsensitive) == 0;
-            });
-        if (found != job.marked.end())
-            job.replaced.insert(job.marked.extract(found));
+    /// Whether the panel hears a yes. The first offer of an action counts as what a person chose,
+    /// whatever the dialog answers.
+    bool offer(const Choice &offered)
+    {
+        if (!asksTheDialog())
+            return true;
+        if (!std::exchange(hasOffered_, true))
+            chosen_[offered.option] = offered.choice;
+        if (isExcluded(offered, marked_))
+            return false;
+        marked_[offered.option] = offered.choice;
+        return true;
     }
-}
 
-/// The choices that differ from the printer's defaults or were made, then the print settings.
-Values optionsOf(const ExpectedJob &job, const Values &defaults, const Story &story)
-{
-    std::set<QString> chosen;
-    for (const Choice &picked : story.chosen)
-        chosen.insert(picked.option);
-    Values options = job.printSettings;
-    for (const auto &[option, keyword] : job.marked) {
-        if (keyword != defaults.at(option) || chosen.contains(option))
-            options[option] = keyword;
+    void settleConflicts()
+    {
+        std::set<QString> instructed; // silent for the rest
+        for (const Conflict *conflict; (conflict = firstConflict(instructed));) {
+            windows_.append(q(conflict->window));
+            const auto &answer =
+                story_.answer == Answer::First ? conflict->first : conflict->second;
+            for (const KeywordPair &change : answer)
+                held_[q(change.option)] = q(change.choice);
+            if (answer.empty()) {
+                windows_.append(q(kInstructions));
+                instructed.insert(q(conflict->one.option));
+            } else if (answer.front().option == std::string_view("MediaType")) {
+                setMirror(isMirroredByHand_);
+            }
+        }
     }
-    return options;
-}
+
+    [[nodiscard]] const Conflict *firstConflict(const std::set<QString> &instructed) const
+    {
+        for (const Conflict &conflict : kConflicts) {
+            if (holds(held_, choiceOf(conflict.one)) && holds(held_, choiceOf(conflict.other)) &&
+                !instructed.contains(q(conflict.one.option)))
+                return &conflict;
+        }
+        return nullptr;
+    }
+
+    /// The panels hand over everything they hold but the threshold, and the improvement only while
+    /// improving is on.
+    [[nodiscard]] Values marksOfJob() const
+    {
+        Values marks = held_;
+        marks[q("Threshold")] = QString();
+        if (!holds(held_, choice("ImprovementSettings", "On")))
+            marks[q("ImprovePrintQuality")] = QString();
+        for (auto &[option, keyword] : marks) {
+            if (keyword.isNull() && marked_.contains(option))
+                keyword = marked_.at(option);
+        }
+        std::erase_if(marks, [](const auto &mark) { return mark.second.isNull(); });
+        return marks;
+    }
+
+    /// To CUPS names that differ in case only are one.
+    static void replace(ExpectedJob &job)
+    {
+        for (const auto &[name, value] : job.printSettings) {
+            const auto found =
+                std::find_if(job.marked.begin(), job.marked.end(), [name = name](const auto &mark) {
+                    return mark.first.compare(name, Qt::CaseInsensitive) == 0;
+                });
+            if (found != job.marked.end())
+                job.replaced.insert(job.marked.extract(found));
+        }
+    }
+
+    /// The choices that differ from the printer's defaults or were made, then the print settings.
+    [[nodiscard]] Values optionsOf(const ExpectedJob &job) const
+    {
+        Values options = job.printSettings;
+        for (const auto &[option, keyword] : job.marked) {
+            if (keyword != defaults_.at(option) || chosen_.contains(option))
+                options[option] = keyword;
+        }
+        return options;
+    }
+
+    const Story &story_;
+    Values defaults_;
+    Values marked_;
+    Values held_;
+    Values chosen_;
+    Values printSettings_;
+    QStringList windows_;
+    bool hasOffered_ = false;
+    bool bringsMirror_ = false;
+    bool isMirroredByHand_ = false;
+};
 
 } // namespace
 
@@ -157,11 +436,13 @@ Choice choice(const char *option, const char *keyword)
 
 QString described(const Story &story)
 {
-    QStringList words;
+    QStringList words{q("0x") + QString::number(story.systemVersion, 16)};
     for (const Choice &marked : story.preset)
         words << q("preset") << marked.option + u'=' + marked.choice;
     for (const Choice &picked : story.chosen)
         words << q("chosen") << picked.option + u'=' + picked.choice;
+    if (story.answer == Answer::Second)
+        words << q("with the second answers");
     return words.join(u' ');
 }
 
@@ -172,15 +453,24 @@ QString ExpectedJob::stands(const QString &option) const
 
 ExpectedJob expectedJob(const Choices &defaults, const Story &story)
 {
-    ExpectedJob job;
-    for (const Choice &marked : defaults)
-        job.marked[marked.option] = marked.choice;
-    const Values before = job.marked;
-    const Choices losers = follow(job, story);
-    bring(job, story, losers);
-    replace(job);
-    job.options = optionsOf(job, before, story);
-    return job;
+    Desk desk(defaults, story);
+    for (const Choice &picked : story.chosen)
+        desk.pick(picked);
+    return desk.job();
+}
+
+QByteArray constraintLines()
+{
+    QByteArray lines;
+    const auto add = [&](const KeywordPair &one, const KeywordPair &other) {
+        lines += QByteArray("*UIConstraints: *") + one.option + ' ' + one.choice + " *" +
+                 other.option + ' ' + other.choice + '\n';
+    };
+    for (const Excluded &rule : kExcluded) {
+        add(rule.one, rule.other);
+        add(rule.other, rule.one);
+    }
+    return lines;
 }
 
 } // namespace test

@@ -32,6 +32,8 @@ class Printing
 {
 public:
     explicit Printing(const Edition &edition, PrivateCupsd::User user = PrivateCupsd::User::Own);
+    explicit Printing(const QByteArray &ppd, const char *language = "en",
+                      PrivateCupsd::User user = PrivateCupsd::User::Own);
     /// Expects what has not arrived yet.
     ~Printing();
     Printing(const Printing &) = delete;
@@ -61,7 +63,7 @@ private:
         QString description;
     };
 
-    Edition edition_;
+    QString language_;
     PrivateCupsd server_;
     std::set<QString> serversOwn_;
     std::vector<Sent> sent_;
