@@ -24,6 +24,7 @@ struct Excluded
     KeywordPair one;
     KeywordPair other;
     const char *reason;
+    const char *onlyWith = nullptr; ///< an option, on whose printers alone this is so
 };
 
 /// One setting that a choice of another one changes.
@@ -60,7 +61,7 @@ struct Conflict
 // the dialog asks before it prints.
 constexpr Excluded kExcluded[] = {
     {{"PrintQuality", "Draft"},  {"MediaType", "IronOn"},               "needs a full layer of ink"},
-    {{"PrintQuality", "Draft"},  {"MediaType", "Transparency"},         "needs a full layer of ink"},
+    {{"PrintQuality", "Draft"},  {"MediaType", "Transparency"},         "needs a full layer of ink", "InkToUse"},
     {{"PageSize", "Letter"},     {"MediaType", "Envelope"},             "no envelope has that size"},
     {{"PageSize", "EnvelopeDL"}, {"MediaType", "Plain"},                "envelopes only"},
     {{"PageSize", "EnvelopeDL"}, {"MediaType", "IronOn"},               "envelopes only"},
@@ -163,6 +164,8 @@ bool isExcluded(const Choice &picked, const Values &marks)
     return std::any_of(std::begin(kExcluded), std::end(kExcluded), [&](const Excluded &rule) {
         const Choice one = choiceOf(rule.one);
         const Choice other = choiceOf(rule.other);
+        if (rule.onlyWith && !marks.contains(q(rule.onlyWith)))
+            return false;
         return (one == picked && holds(marks, other)) || (other == picked && holds(marks, one));
     });
 }
