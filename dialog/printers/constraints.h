@@ -17,7 +17,12 @@ using Constraints = std::vector<Constraint>;
 /// The value of a cupsUIConstraints line: "*Option Choice *Option ...".
 [[nodiscard]] Constraint parseConstraint(const QString &value);
 
-/// Whether a marked choice fulfils a part of a constraint.
+/// Whether a choice is another than None, Off and False.
+[[nodiscard]] bool switchesOn(const QString &choice);
+
+/// Whether a choice of its option fulfils a part of a constraint.
+[[nodiscard]] bool isFulfilledBy(const Choice &part, const QString &choice);
+/// The same for a mark of any option.
 [[nodiscard]] bool matches(const Choice &part, const Choice &mark);
 
 /// Marked choices that would be forbidden beside @p choice, were it marked. Names are compared

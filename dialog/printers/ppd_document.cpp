@@ -7,7 +7,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <span>
 
 #include <sys/mman.h>
@@ -56,7 +58,7 @@ const ppd_option_t *findOption(ppd_file_t *ppd, const QString &option)
     return option.isNull() ? nullptr : ppdFindOption(ppd, option.toUtf8().constData());
 }
 
-const ppd_choice_t *findChoice(ppd_file_t *ppd, const Choice &choice)
+ppd_choice_t *findChoice(ppd_file_t *ppd, const Choice &choice)
 {
     ppd_option_t *option = const_cast<ppd_option_t *>(findOption(ppd, choice.option));
     return option && !choice.choice.isNull()
@@ -64,10 +66,68 @@ const ppd_choice_t *findChoice(ppd_file_t *ppd, const Choice &choice)
                : nullptr;
 }
 
+/// Whether marking it sets more in libcups' record than the mark.
+bool hasOtherEffects(const ppd_choice_t &choice)
+{
+    const char *option = choice.option->keyword;
+    return std::strcmp(option, "PageSize") == 0 || std::strcmp(option, "PageRegion") == 0 ||
+           std::strcmp(choice.choice, "Custom") == 0;
+}
+
 QString textOr(const char *text, const QString &keyword)
 {
     const QString decoded = decodedUtf8(text);
     return decoded.isEmpty() ? keyword : decoded;
+}
+
+OptionKind kindOf(const ppd_option_t &option)
+{
+    switch (option.ui) {
+    case PPD_UI_BOOLEAN:
+        return OptionKind::Boolean;
+    case PPD_UI_PICKMANY:
+        return OptionKind::PickMany;
+    case PPD_UI_PICKONE:
+        break;
+    }
+    return OptionKind::PickOne;
+}
+
+/// libcups adds a choice for values that a person types; it is none of the PPD's.
+bool isForTypedValues(ppd_file_t *ppd, const ppd_option_t &option, const ppd_choice_t &choice)
+{
+    return std::strcmp(choice.choice, "Custom") == 0 && ppdFindCustomOption(ppd, option.keyword);
+}
+
+PrinterOption optionFrom(ppd_file_t *ppd, const ppd_option_t &option, const Choices &defaults)
+{
+    PrinterOption made;
+    made.keyword = decodedUtf8(option.keyword);
+    made.text = textOr(option.text, made.keyword);
+    made.kind = kindOf(option);
+    for (const ppd_choice_t &choice : choicesOf(option)) {
+        const QString keyword = decodedUtf8(choice.choice);
+        if (!isForTypedValues(ppd, option, choice))
+            made.choices.push_back({keyword, textOr(choice.text, keyword)});
+    }
+    for (const Choice &mark : defaults) {
+        if (mark.option == made.keyword)
+            made.defaults.append(mark.choice);
+    }
+    return made;
+}
+
+OptionGroup groupFrom(ppd_file_t *ppd, const ppd_group_t &group, const Choices &defaults)
+{
+    OptionGroup made;
+    made.name = decodedUtf8(group.name);
+    made.text = textOr(group.text, made.name);
+    if (made.name.compare(QStringLiteral("InstallableOptions"), Qt::CaseInsensitive) == 0)
+        made.kind = GroupKind::Installable;
+    visitOptions(std::span(&group, 1), [&](const ppd_option_t &option) {
+        made.options.push_back(optionFrom(ppd, option, defaults));
+    });
+    return made;
 }
 
 Choices markedChoices(const ppd_file_t *ppd)
@@ -93,6 +153,11 @@ std::optional<PpdError> unreadable(const QString &path)
     if (!info.isReadable())
         return PpdError{path, 0, QStringLiteral("the file may not be read")};
     return std::nullopt;
+}
+
+bool isNamed(const Choice &mark, const QString &option)
+{
+    return mark.option.compare(option, Qt::CaseInsensitive) == 0;
 }
 
 PpdError lastError(const QString &path)
@@ -167,6 +232,7 @@ PpdDocument::PpdDocument(const QString &path, Handle ppd) : path_(path), ppd_(st
     ppdMarkDefaults(ppd_.get());
     defaults_ = markedChoices(ppd_.get());
     constraints_ = readConstraints(attributeValues("cupsUIConstraints"), ppd_.get());
+    rules_ = ConstraintTable(constraints_);
 }
 
 PpdDocument::~PpdDocument() = default;
@@ -198,6 +264,14 @@ QStringList PpdDocument::attributeValues(const char *name) const
          attribute = ppdFindNextAttr(ppd_.get(), name, nullptr))
         values.append(decodedUtf8(attribute->value));
     return values;
+}
+
+OptionGroups PpdDocument::groups() const
+{
+    OptionGroups groups;
+    for (const ppd_group_t &group : groupsOf(ppd_.get()))
+        groups.push_back(groupFrom(ppd_.get(), group, defaults_));
+    return groups;
 }
 
 QStringList PpdDocument::options() const
@@ -264,21 +338,73 @@ void PpdDocument::mark(const Choice &choice)
                       choice.choice.toUtf8().constData());
 }
 
+void PpdDocument::setMarked(const QString &option, const QStringList &choices)
+{
+    Choices others = marks();
+    std::erase_if(others, [&](const Choice &mark) { return isNamed(mark, option); });
+    markExactly(others);
+    for (const QString &choice : choices)
+        mark({option, choice});
+}
+
 void PpdDocument::setMarks(const Choices &marks)
 {
-    ppdMarkDefaults(ppd_.get());
-    for (const Choice &choice : marks)
-        mark(choice);
+    Choices known;
+    std::copy_if(marks.begin(), marks.end(), std::back_inserter(known),
+                 [&](const Choice &mark) { return hasChoice(mark); });
+    Choices all = defaults_;
+    std::erase_if(all, [&](const Choice &standing) {
+        return std::any_of(known.begin(), known.end(),
+                           [&](const Choice &mark) { return isNamed(mark, standing.option); });
+    });
+    all.insert(all.end(), known.begin(), known.end());
+    markExactly(all);
+}
+
+/// libcups cannot take a mark back, other than by another one of the same option. It also looks at
+/// every constraint after each single mark, which would take part of a second for a large printer.
+void PpdDocument::markExactly(const Choices &marks)
+{
+    cupsArrayClear(ppd_->marked);
+    visitOptions(groupsOf(ppd_.get()), [](const ppd_option_t &option) {
+        for (ppd_choice_t &choice : choicesOf(option))
+            choice.marked = 0;
+    });
+    for (const Choice &mark : marks) {
+        ppd_choice_t *choice = findChoice(ppd_.get(), mark);
+        if (!choice || hasOtherEffects(*choice)) {
+            this->mark(mark);
+        } else if (!choice->marked) {
+            choice->marked = 1;
+            cupsArrayAdd(ppd_->marked, choice);
+        }
+    }
+    ppdConflicts(ppd_.get()); // tells each option whether it is in conflict
 }
 
 Choices PpdDocument::conflictsWith(const Choice &choice) const
 {
-    return dialog::conflictsWith(choice, marks(), constraints_);
+    return rules_.conflictsWith(choice, MarkTable(marks()));
+}
+
+Choices PpdDocument::libcupsResolution(const Choice &wanted) const
+{
+    int count = 0;
+    cups_option_t *options = nullptr;
+    const int isFound = cupsResolveConflicts(ppd_.get(), wanted.option.toUtf8().constData(),
+                                             wanted.choice.toUtf8().constData(), &count, &options);
+    Choices choices;
+    for (const cups_option_t &option : std::span(options, static_cast<std::size_t>(count))) {
+        if (isFound)
+            choices.push_back({decodedUtf8(option.name), decodedUtf8(option.value)});
+    }
+    cupsFreeOptions(count, options);
+    return choices;
 }
 
 std::vector<Conflict> PpdDocument::conflicts() const
 {
-    return activeConflicts(marks(), constraints_);
+    return rules_.conflicts(MarkTable(marks()));
 }
 
 } // namespace dialog

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "dialog/printers/constraints.h"
+#include "dialog/printers/constraint_table.h"
+#include "dialog/printers/option_groups.h"
 
 #include <QStringList>
 
@@ -47,6 +48,9 @@ public:
     /// Values of every attribute line of that name, in the file's order.
     [[nodiscard]] QStringList attributeValues(const char *name) const;
 
+    /// Every option in its group; subgroups count to the group that they stand in. Values that a
+    /// person can type are not among the choices.
+    [[nodiscard]] OptionGroups groups() const;
     [[nodiscard]] QStringList options() const;
     [[nodiscard]] QStringList choices(const QString &option) const;
     [[nodiscard]] bool hasOption(const QString &option) const;
@@ -63,16 +67,22 @@ public:
     [[nodiscard]] Choices marks() const;
     /// The same for the defaults; independent of what is marked.
     [[nodiscard]] const Choices &defaults() const { return defaults_; }
-    /// Does nothing for an unknown option or choice.
+    /// Does nothing for an unknown option or choice. Adds to what is marked of a pick-many option.
     void mark(const Choice &choice);
-    /// Marks these, and of the options that they do not name the defaults. Unknown ones are left
-    /// out.
+    /// Marks these choices of an option and no others of it; the unknown ones are left out.
+    void setMarked(const QString &option, const QStringList &choices);
+    /// Marks these and no others of the options that they name; the other options get their
+    /// defaults. The unknown ones are left out.
     void setMarks(const Choices &marks);
 
     /// Marked choices that would be forbidden beside this one; what is forbidden without it does
     /// not count. Marks nothing.
     [[nodiscard]] Choices conflictsWith(const Choice &choice) const;
     [[nodiscard]] const Constraints &constraints() const { return constraints_; }
+    [[nodiscard]] const ConstraintTable &rules() const { return rules_; }
+    /// What libcups would choose, beside what is marked, to make way for a choice; nothing where it
+    /// knows no way.
+    [[nodiscard]] Choices libcupsResolution(const Choice &wanted) const;
     /// Every forbidden pair among what is marked, each pair once.
     [[nodiscard]] std::vector<Conflict> conflicts() const;
 
@@ -84,11 +94,13 @@ private:
     using Handle = std::unique_ptr<ppd_file_t, Closer>;
 
     PpdDocument(const QString &path, Handle ppd);
+    void markExactly(const Choices &marks);
 
     QString path_;
     Handle ppd_;
     Choices defaults_;
     Constraints constraints_;
+    ConstraintTable rules_; ///< the same
 };
 
 } // namespace dialog
