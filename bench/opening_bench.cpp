@@ -50,7 +50,8 @@ int probeOurs(int queues)
     dialog::QueueDialog dialog(printCase, dialog::serverSources());
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, [&] {
-        const bool isThere = dialog.printDialog() && !dialog.printDialog()->panels().empty();
+        const bool isThere =
+            dialog.printDialog() && !dialog.printDialog()->panels().loaded().empty();
         if (isThere && dialog.picker().offered().size() == queues) {
             dialog.window().repaint();
             tellUsable();

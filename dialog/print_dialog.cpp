@@ -1,20 +1,18 @@
 #include "dialog/print_dialog.h"
 
+#include "dialog/choice_words.h"
 #include "dialog/jobs/document.h"
-#include "dialog/jobs/job_folder.h"
-#include "dialog/jobs/job_messages.h"
-#include "dialog/jobs/queue_printing.h"
+#include "dialog/panels/summary_panel.h"
 #include "dialog/printers/queue_job.h"
-#include "dialog/printers/standard_options.h"
-#include "dialog/printers/unsendable.h"
 #include "dialog/window/help_window.h"
 #include "dialog/window/print_window.h"
-#include "dialog/window/summary_view.h"
 #include "platform/controls/modal_session.h"
 #include "platform/values.h"
 
 #include <QFile>
 #include <QFileInfo>
+
+#include <utility>
 
 namespace dialog {
 namespace {
@@ -43,16 +41,7 @@ PpdDocument::Opened openPrinter(const PrintCase &printCase)
     return opened;
 }
 
-/// The name inside the job folder keeps the document's kind and nothing else of its name.
-QString documentFileName(const QString &path)
-{
-    const QString suffix = QFileInfo(path).suffix();
-    return suffix.isEmpty() ? QStringLiteral("document") : QStringLiteral("document.") + suffix;
-}
-
 const QString kOfferGroup = QStringLiteral("offer:");
-const QString kReviewKey = QStringLiteral("review");
-const QString kJobKey = QStringLiteral("job");
 const QString kHelpKey = QStringLiteral("help");
 
 } // namespace
@@ -83,36 +72,13 @@ PrintDialog::Opened PrintDialog::open(const PrintCase &printCase)
 }
 
 PrintDialog::PrintDialog(const PrintCase &printCase, std::unique_ptr<PpdDocument> printer)
-    : case_(printCase), printer_(std::move(printer)), host_(*printer_)
+    : case_(printCase), printer_(std::move(printer)), host_(*printer_),
+      desk_(case_, *printer_, host_), panels_(host_)
 {
     host_.followPageSize();
     formerHelpOpener_ = platform::setHelpOpener(
         [this](const platform::HelpRequest &request) { showBook(request); });
-    connect(&host_, &DialogHost::judged, this, &PrintDialog::showOutcome);
-    if (!case_.queue.isNull())
-        makeQueuePrinting();
-}
-
-void PrintDialog::makeQueuePrinting()
-{
-    constexpr int kShortJobMilliseconds = 500;
-    constexpr int kWhole = 100;
-    queuePrinting_ = new QueuePrinting(case_.queue, case_.serverLimits, this);
-    progressDelay_.setSingleShot(true);
-    progressDelay_.setInterval(kShortJobMilliseconds);
-    connect(&progressDelay_, &QTimer::timeout, this, [this] {
-        if (window_)
-            showProgress();
-    });
-    connect(queuePrinting_, &QueuePrinting::progressed, this, [this](qint64 sent, qint64 total) {
-        const int percent = total > 0 ? static_cast<int>(kWhole * sent / total) : 0;
-        const bool isNews = std::exchange(sentPercent_, percent) != percent;
-        if (isNews && window_ && !progressDelay_.isActive())
-            showProgress();
-    });
-    connect(queuePrinting_, &QueuePrinting::earlierSettled, this, [this](const QString &message) {
-        notify({QStringLiteral("earlier:") + message, Severity::Warning, message, {}});
-    });
+    connectParts();
 }
 
 PrintDialog::~PrintDialog()
@@ -125,7 +91,20 @@ PrintDialog::~PrintDialog()
         window_->clearPanels();
     }
     ownWindow_.reset();
-    panels_.clear();
+}
+
+void PrintDialog::connectParts()
+{
+    connect(&host_, &DialogHost::judged, this, &PrintDialog::showOutcome);
+    connect(&host_, &DialogHost::stateChanged, this, &PrintDialog::takeChange);
+    connect(&panels_, &PanelStack::noticed, this, &PrintDialog::notify);
+    connect(&desk_, &JobDesk::noticed, this, &PrintDialog::notify);
+    connect(&desk_, &JobDesk::jobMade, this, &PrintDialog::jobMade);
+    connect(&desk_, &JobDesk::jobFailed, this, &PrintDialog::jobFailed);
+    connect(&desk_, &JobDesk::idle, this, [this] {
+        if (leavesAfterJob_)
+            Q_EMIT left();
+    });
 }
 
 void PrintDialog::showPanels()
@@ -140,141 +119,61 @@ void PrintDialog::showPanelsIn(PrintWindow &window)
 {
     Q_EMIT aboutToShowPanels();
     host_.takeMarksAsChosen();
-    loadPanels();
+    panels_.load(*printer_,
+                 case_.root.isNull() ? TrustedOwner::RootOnly : TrustedOwner::RootAndUser);
     window_ = &window;
     connectWindow();
-    restorePanels();
-    if (!panels_.empty())
-        bringForward(0);
+    buildPanels();
     window_->fitContents();
     window_->show();
     window_->activateWindow();
     for (const Notice &notice : std::exchange(early_, {}))
         notify(notice);
-    if (queuePrinting_)
-        queuePrinting_->settleEarlier();
-}
-
-void PrintDialog::loadPanels()
-{
-    const QStringList paths = printer_->attributeValues("APDialogExtension");
-    if (paths.isEmpty())
-        notify({QStringLiteral("panels"),
-                Severity::Information,
-                text(printer_->path().isNull() ? Text::QueueWithoutPpd : Text::PanelsMissing),
-                {}});
-    for (const QString &path : paths)
-        loadPanelsOf(path);
-    PDEPanelList list;
-    for (const Panel &panel : panels_)
-        list.push_back(panel.panel);
-    host_.setPanels(list);
-}
-
-void PrintDialog::loadPanelsOf(const QString &literalBundlePath)
-{
-    const TrustedOwner owner =
-        case_.root.isNull() ? TrustedOwner::RootOnly : TrustedOwner::RootAndUser;
-    const QString key = QStringLiteral("plug-in:") + literalBundlePath;
-    auto loaded = loadPlugIn(literalBundlePath, owner);
-    if (const auto *failure = std::get_if<PlugInFailure>(&loaded)) {
-        notify({key, Severity::Warning, failure->notice, {}});
-        return;
-    }
-    plugIns_.push_back(std::move(std::get<PlugIn>(loaded)));
-    const auto panels =
-        plugIns_.back().principal->PDEPanelsForType(kPDEPrintDialogType.toString(), &host_);
-    if (!panels || panels->empty())
-        notify({key, Severity::Information, text(Text::NoPanelsForPrinter), {}});
-    else
-        for (const auto &panel : *panels)
-            panels_.push_back({panel, {}, {}});
+    desk_.settleEarlier();
 }
 
 void PrintDialog::connectWindow()
 {
-    connect(window_, &PrintWindow::panelPicked, this, &PrintDialog::bringForward);
+    connect(window_, &PrintWindow::panelPicked, &panels_, &PanelStack::bringForward);
     connect(window_, &PrintWindow::helpRequested, this, &PrintDialog::showHelp);
-    connect(window_, &PrintWindow::printRequested, this, [this] { print(Review::Ask); });
+    connect(window_, &PrintWindow::printRequested, &desk_, [this] { print(Review::Ask); });
     connect(window_, &PrintWindow::left, this, &PrintDialog::leave);
+    connect(&desk_, &JobDesk::sendingChanged, window_, &PrintWindow::setSending);
+    connect(&desk_, &JobDesk::progressed, &window_->notices(),
+            qOverload<const Notice &>(&NoticeArea::show));
+    connect(&desk_, &JobDesk::dismissed, &window_->notices(), &NoticeArea::dismiss);
     connect(&host_, &DialogHost::panelResized, window_, &PrintWindow::fitContents);
     // What an earlier action was refused is told, and past, once a person tries something else.
     connect(&host_, &DialogHost::actionBegan, &window_->notices(),
             [this] { window_->notices().dismissGroup(kOfferGroup); });
 }
 
-void PrintDialog::restorePanels()
+void PrintDialog::buildPanels()
 {
-    for (Panel &entry : panels_) {
-        host_.callPanel(entry.panel.get(), [&](PDEPanel &panel) {
-            QWidget *view = panel.panelView();
-            entry.title = panel.panelName();
-            entry.kind = panel.panelKind();
-            window_->addPanel(entry.title, view);
-            panel.restoreValuesAndReturnError(nullptr);
-        });
-    }
-    if (panels_.empty())
-        return;
-    summary_ = new SummaryView;
-    window_->addPanel(text(Text::Summary), summary_);
+    panels_.showIn(*window_, {}, {new SummaryPanel(panels_, host_)});
+    panels_.bringForward(panels_.firstIndex());
 }
 
-int PrintDialog::frontIndex() const
+/// Everything that shows what is set follows here.
+void PrintDialog::takeChange()
 {
-    return window_ ? window_->frontIndex() : -1;
-}
-
-PDEPanel *PrintDialog::panelAt(int index) const
-{
-    return index >= 0 && index < static_cast<int>(panels_.size())
-               ? panels_[static_cast<std::size_t>(index)].panel.get()
-               : nullptr;
-}
-
-void PrintDialog::bringForward(int index)
-{
-    if (index == frontIndex() || index < 0 || index > static_cast<int>(panels_.size()))
-        return;
-    if (!hideFront()) {
-        window_->bringForward(frontIndex());
-        return;
-    }
-    PDEPanel *panel = panelAt(index);
-    host_.setFrontPanel(panel);
-    if (panel)
-        host_.callPanel(panel, [](PDEPanel &shown) { shown.willShow(); });
-    else
-        showSummary();
-    window_->bringForward(index);
-}
-
-/// False when the panel in front wants to stay.
-bool PrintDialog::hideFront()
-{
-    bool hides = true;
-    if (PDEPanel *panel = panelAt(frontIndex()))
-        host_.callPanel(panel, [&](PDEPanel &hidden) { hides = hidden.shouldHide(); });
-    return hides;
-}
-
-void PrintDialog::showSummary()
-{
-    std::vector<SummarySection> sections;
-    for (const Panel &entry : panels_)
-        host_.callPanel(entry.panel.get(), [&](PDEPanel &panel) {
-            sections.push_back({entry.title, panel.summaryInfo()});
-        });
-    summary_->show(sections);
+    panels_.refreshFront();
 }
 
 void PrintDialog::showHelp()
 {
-    bool showsOwn = true;
-    if (PDEPanel *panel = panelAt(frontIndex()))
-        host_.callPanel(panel, [&](PDEPanel &front) { showsOwn = front.shouldShowHelp(); });
-    if (showsOwn)
-        notify({kHelpKey, Severity::Information, text(Text::HelpPage), {}});
+    if (panels_.wantsOwnHelp())
+        showOwnHelp();
+}
+
+void PrintDialog::showOwnHelp()
+{
+    notify({kHelpKey,
+            Severity::Information,
+            tr("Choose a group of settings from the pop-up menu, change what you need, and press "
+               "Print. A choice that the printer cannot combine with another one is refused, and "
+               "a notice says which one is in the way."),
+            {}});
 }
 
 /// A book that cannot be found leaves the dialog's own page.
@@ -285,7 +184,7 @@ void PrintDialog::showBook(const platform::HelpRequest &request)
         return;
     const QString page = helpPagePath(request.bookPath, request.page);
     if (page.isNull()) {
-        notify({kHelpKey, Severity::Information, text(Text::HelpPage), {}});
+        showOwnHelp();
         return;
     }
     if (!helpWindow_)
@@ -300,20 +199,10 @@ void PrintDialog::showOutcome(const OfferOutcome &outcome)
     if (outcome.verdict == OfferVerdict::Conflicts)
         notify({key,
                 Severity::Warning,
-                pairText(Text::OfferConflicts, offered, outcome.inTheWay.front()),
+                forbiddenWords(*printer_, offered, outcome.inTheWay.front()),
                 {}});
     else if (outcome.verdict == OfferVerdict::Refused)
-        notify({key,
-                Severity::Warning,
-                text(Text::OfferRefused,
-                     {printer_->optionText(offered.option), printer_->choiceText(offered)}),
-                {}});
-}
-
-QString PrintDialog::pairText(Text id, const Choice &one, const Choice &other) const
-{
-    return text(id, {printer_->optionText(one.option), printer_->choiceText(one),
-                     printer_->optionText(other.option), printer_->choiceText(other)});
+        notify({key, Severity::Warning, refusedWords(*printer_, offered), {}});
 }
 
 void PrintDialog::notify(const Notice &notice)
@@ -326,161 +215,12 @@ void PrintDialog::notify(const Notice &notice)
     Q_EMIT noticeShown(notice.text);
 }
 
-void PrintDialog::fail(const QString &notice)
-{
-    notify({kJobKey, Severity::Critical, notice, {}});
-    Q_EMIT jobFailed(notice);
-}
-
 void PrintDialog::setDocument(const QString &path)
 {
     case_.document = path;
+    desk_.setDocument(path);
     if (window_)
         window_->setDocument(documentName(path));
-}
-
-QString PrintDialog::problemBeforePrinting() const
-{
-    if (!case_.document.isNull())
-        return documentProblem(case_.document);
-    return case_.queue.isNull() ? QString() : text(Text::DocumentNeeded);
-}
-
-void PrintDialog::print(Review review)
-{
-    if (queuePrinting_ && queuePrinting_->isSending())
-        return; // one job at a time: a second press of Print prints nothing twice
-    const QString problem = problemBeforePrinting();
-    if (!problem.isNull()) {
-        fail(problem);
-        return;
-    }
-    const CommitResult result = commit();
-    if (review == Review::Ask && !result.isClean()) {
-        askForReview(result);
-        return;
-    }
-    const Ticket ticket = makeTicket(result);
-    if (case_.queue.isNull())
-        printToFolder(ticket);
-    else
-        printToQueue(ticket);
-}
-
-void PrintDialog::askForReview(const CommitResult &result)
-{
-    notify({kReviewKey,
-            Severity::Warning,
-            reviewText(result),
-            {{text(Text::GoBack), QStringLiteral("goBackButton"), [] {}},
-             {text(Text::PrintAnyway), QStringLiteral("printAnywayButton"),
-              [this] { print(Review::Skip); }}}});
-}
-
-QString PrintDialog::reviewText(const CommitResult &result) const
-{
-    QStringList lines{text(Text::ReviewHeading)};
-    for (const Conflict &conflict : result.conflicts)
-        lines.append(pairText(Text::ReviewConflict, conflict.one, conflict.other));
-    for (const Difference &difference : result.differences)
-        lines.append(text(Text::ReviewDifference,
-                          {printer_->optionText(difference.option),
-                           printer_->choiceText({difference.option, difference.chosen}),
-                           printer_->choiceText({difference.option, difference.marked})}));
-    return lines.join(u'\n');
-}
-
-JobSettings PrintDialog::jobSettings() const
-{
-    JobSettings settings{
-        printer_->defaults(), printer_->marks(), {}, {}, host_.explicitPaperName()};
-    settings.counterparts = standardCounterparts(*printer_);
-    for (const auto &[option, choice] : host_.ledger().chosen())
-        settings.chosen.append(option);
-    settings.printSettings = host_.settings().all();
-    return settings;
-}
-
-Ticket PrintDialog::makeTicket(const CommitResult &result) const
-{
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    Ticket ticket;
-    ticket.id = newJobId(now);
-    ticket.time = now;
-    ticket.printerName = printer_->nickName();
-    ticket.ppdFile = QFileInfo(printer_->path()).fileName();
-    ticket.queue = case_.queue;
-    ticket.documentName = documentName(case_.document);
-    ticket.settings = jobSettings();
-    ticket.differences = result.differences;
-    return ticket;
-}
-
-void PrintDialog::printToFolder(const Ticket &made)
-{
-    Ticket ticket = made;
-    if (!case_.document.isNull())
-        ticket.documentFile = documentFileName(case_.document);
-    const QString folder = jobsFolder(case_.jobFolder);
-    const JobFolderResult written = writeJobFolder(folder, ticket, case_.document);
-    if (written.ticketPath.isNull())
-        fail(text(Text::JobFolderFailed, {folder, written.error}));
-    else
-        Q_EMIT jobMade({ticket.id, jobOptions(ticket.settings), written.ticketPath});
-}
-
-void PrintDialog::printToQueue(const Ticket &ticket)
-{
-    const JobOptions options = jobOptions(ticket.settings);
-    const QString reason = unsendableReason(options);
-    if (!reason.isNull()) {
-        fail(text(Text::JobUnsendable, {reason}));
-        return;
-    }
-    if (window_)
-        window_->setSending(true);
-    sentPercent_ = 0;
-    progressDelay_.start();
-    connect(
-        queuePrinting_, &QueuePrinting::finished, this,
-        [this, ticket](const QueueJobResult &result) { finishQueueJob(ticket, result); },
-        Qt::SingleShotConnection);
-    queuePrinting_->send({ticket.documentName, case_.document, options});
-}
-
-void PrintDialog::showProgress()
-{
-    window_->notices().show(
-        {kJobKey,
-         Severity::Information,
-         text(Text::SendingProgress, {case_.queue, QString::number(sentPercent_)}),
-         {{text(Text::CancelJob), QStringLiteral("cancelJobButton"),
-           [this] { queuePrinting_->cancel(); }}}});
-}
-
-void PrintDialog::finishQueueJob(Ticket ticket, const QueueJobResult &result)
-{
-    progressDelay_.stop();
-    if (window_) {
-        window_->setSending(false);
-        window_->notices().dismiss(kJobKey);
-    }
-    if (result.jobId == 0) {
-        fail(faultMessage(result, case_.queue));
-    } else {
-        ticket.jobId = result.jobId;
-        // The job is printing: a ticket that cannot be written is no reason to send it again.
-        const JobFolderResult written = writeJobFolder(jobsFolder(case_.jobFolder), ticket, {});
-        const QString number = QString::number(result.jobId);
-        const QStringList told = remarks(result, case_.queue);
-        notify({kJobKey,
-                told.isEmpty() ? Severity::Information : Severity::Warning,
-                QStringList(QStringList{text(Text::JobSent, {number})} + told).join(u'\n'),
-                {}});
-        Q_EMIT jobMade({number, jobOptions(ticket.settings), written.ticketPath, told});
-    }
-    if (leavesAfterJob_)
-        Q_EMIT left();
 }
 
 /// Modal windows of panels end first; the panels' calls return before anything is destroyed.
@@ -490,9 +230,9 @@ void PrintDialog::leave()
     window_->hide();
     if (helpWindow_)
         helpWindow_->hide();
-    leavesAfterJob_ = queuePrinting_ && queuePrinting_->isSending();
+    leavesAfterJob_ = desk_.isSending();
     if (leavesAfterJob_)
-        queuePrinting_->cancel(); // nothing half is left behind
+        desk_.cancel(); // nothing half is left behind
     else
         Q_EMIT left();
 }

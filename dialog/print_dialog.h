@@ -1,16 +1,14 @@
 #pragma once
 
 #include "dialog/host/dialog_host.h"
-#include "dialog/jobs/ticket.h"
-#include "dialog/plugins/plugin_loader.h"
+#include "dialog/job_desk.h"
+#include "dialog/panel_stack.h"
 #include "dialog/print_case.h"
 #include "dialog/printers/ppd_document.h"
-#include "dialog/texts.h"
 #include "dialog/window/notice_area.h"
 #include "platform/help_viewer.h"
 
 #include <QObject>
-#include <QTimer>
 
 #include <memory>
 #include <variant>
@@ -20,20 +18,9 @@ namespace dialog {
 
 class HelpWindow;
 class PrintWindow;
-class QueuePrinting;
-struct QueueJobResult;
-class SummaryView;
 
-/// A job that has been handed over.
-struct JobRecord
-{
-    QString id; ///< the job folder's name, or the number at the print server
-    JobOptions options;
-    QString ticketPath;
-    QStringList remarks = {}; ///< what a person should know of it, shown in the window
-};
-
-/// The print dialog as a whole: one printer, the panels of its plug-ins, the window, the job.
+/// The print dialog as a whole: one printer, the panels of its plug-ins, the window, the job. It
+/// owns the parts and carries words between them; what each does stands in its own file.
 ///
 /// Must not be destroyed from inside a panel's call or a modal window of one: left() and jobMade()
 /// are the moments to quit the event loop, after which it may go.
@@ -42,14 +29,6 @@ class PrintDialog : public QObject
     Q_OBJECT
 
 public:
-    struct Panel
-    {
-        std::shared_ptr<PDEPanel> panel;
-        QString title;
-        QString kind;
-    };
-    /// Whether a person is asked before a job prints with conflicts or other choices than made.
-    enum class Review { Ask, Skip };
     using Opened = std::variant<std::unique_ptr<PrintDialog>, QString>;
 
     /// Sets the platform values, checks the document and opens the printer; without panels so far.
@@ -71,16 +50,16 @@ public:
     [[nodiscard]] const PrintCase &printCase() const { return case_; }
     [[nodiscard]] PpdDocument &printer() const { return *printer_; }
     [[nodiscard]] DialogHost &host() { return host_; }
-    [[nodiscard]] const std::vector<Panel> &panels() const { return panels_; }
-    /// Index of the panel in front, the number of panels for the summary behind them, -1 for none.
-    [[nodiscard]] int frontIndex() const;
+    [[nodiscard]] PanelStack &panels() { return panels_; }
+    [[nodiscard]] const PanelStack &panels() const { return panels_; }
+    [[nodiscard]] JobDesk &desk() { return desk_; }
     /// Null before showPanels().
     [[nodiscard]] PrintWindow *window() const { return window_; }
 
     CommitResult commit() { return host_.commitPanels(); }
     void setDocument(const QString &path);
     /// Commits and prints, or shows a notice that says why not.
-    void print(Review review);
+    void print(Review review) { desk_.print(review); }
 
 Q_SIGNALS:
     /// What is marked and set by now is what the panels will see.
@@ -94,46 +73,27 @@ Q_SIGNALS:
 private:
     PrintDialog(const PrintCase &printCase, std::unique_ptr<PpdDocument> printer);
 
-    void loadPanels();
-    void loadPanelsOf(const QString &literalBundlePath);
+    void connectParts();
     void connectWindow();
-    void restorePanels();
-    void bringForward(int index);
-    [[nodiscard]] PDEPanel *panelAt(int index) const;
-    [[nodiscard]] bool hideFront();
-    void showSummary();
+    void buildPanels();
     void showHelp();
+    void showOwnHelp();
     void showBook(const platform::HelpRequest &request);
     void showOutcome(const OfferOutcome &outcome);
     void notify(const Notice &notice);
-    void fail(const QString &notice);
-    [[nodiscard]] QString problemBeforePrinting() const;
-    void askForReview(const CommitResult &result);
-    [[nodiscard]] QString reviewText(const CommitResult &result) const;
-    [[nodiscard]] QString pairText(Text id, const Choice &one, const Choice &other) const;
-    [[nodiscard]] JobSettings jobSettings() const;
-    [[nodiscard]] Ticket makeTicket(const CommitResult &result) const;
-    void printToFolder(const Ticket &ticket);
-    void printToQueue(const Ticket &ticket);
-    void finishQueueJob(Ticket ticket, const QueueJobResult &result);
-    void makeQueuePrinting();
-    void showProgress();
+    void takeChange();
     void leave();
 
     // In the order of their dependence: the views go first, then the panels, at last the PPD.
     PrintCase case_;
     std::unique_ptr<PpdDocument> printer_;
     DialogHost host_;
-    std::vector<PlugIn> plugIns_;
-    std::vector<Panel> panels_;
-    SummaryView *summary_ = nullptr; ///< the window's; null without panels
+    JobDesk desk_;
+    PanelStack panels_;
     std::unique_ptr<PrintWindow> ownWindow_;
-    PrintWindow *window_ = nullptr;          ///< this or another's; null until the panels are shown
-    std::vector<Notice> early_;              ///< shown as soon as there is a window
-    HelpWindow *helpWindow_ = nullptr;       ///< belongs to the window
-    QueuePrinting *queuePrinting_ = nullptr; ///< null without a queue
-    QTimer progressDelay_;                   ///< a short job shows none
-    int sentPercent_ = 0;
+    PrintWindow *window_ = nullptr;    ///< this or another's; null until the panels are shown
+    std::vector<Notice> early_;        ///< shown as soon as there is a window
+    HelpWindow *helpWindow_ = nullptr; ///< belongs to the window
     bool leavesAfterJob_ = false;
     platform::HelpOpener formerHelpOpener_;
 };

@@ -147,9 +147,7 @@ QString Recorder::nameOfPanel(const QString &item) const
 {
     if (!item.startsWith(u'#'))
         return item;
-    const auto index = item.mid(1).toUInt();
-    const auto &panels = dialog_.panels();
-    return index < panels.size() ? panels[index].kind : QStringLiteral("summary");
+    return dialog_.panels().kind(item.mid(1).toInt());
 }
 
 void Recorder::writeLeaving()

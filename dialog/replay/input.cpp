@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QWheelEvent>
@@ -118,6 +119,15 @@ void typeCharacter(QWindow *window, QChar character)
             QString(character));
 }
 
+/// As a person does before a click.
+void scrollTo(QWidget *control)
+{
+    for (QWidget *outer = control->parentWidget(); outer; outer = outer->parentWidget()) {
+        if (auto *scrolled = qobject_cast<QScrollArea *>(outer))
+            scrolled->ensureWidgetVisible(control);
+    }
+}
+
 QString selectAll(QLineEdit *field)
 {
     const QString error = click(field);
@@ -132,6 +142,7 @@ QString click(QWidget *control)
 {
     QWidget *window = control->window();
     activate(window);
+    scrollTo(control);
     const QPoint point = control->mapTo(window, clickPoint(control));
     if (!isReachable(control, point))
         return QStringLiteral("something covers it");

@@ -3,7 +3,6 @@
 #include "dialog/replay/input.h"
 #include "dialog/replay/nearest_name.h"
 #include "dialog/replay/snapshot.h"
-#include "dialog/texts.h"
 #include "dialog/window/print_window.h"
 #include "platform/console.h"
 #include "platform/controls/controls.h"
@@ -372,15 +371,14 @@ QString Player::mark(const Choice &choice)
 QString Player::show(const QString &panel)
 {
     QStringList names;
-    for (const PrintDialog::Panel &entry : dialog_->panels())
-        names << entry.title << entry.kind;
-    if (!names.isEmpty())
-        names << text(Text::Summary) << QStringLiteral("summary");
+    const PanelStack &panels = dialog_->panels();
+    for (int i = 0; i < panels.count(); ++i)
+        names << panels.title(i) << panels.kind(i);
     const qsizetype found = names.indexOf(panel);
     if (found < 0)
         return noSuchName(QStringLiteral("panel"), panel, names);
     const int index = static_cast<int>(found) / 2;
-    if (index == dialog_->frontIndex())
+    if (index == panels.frontIndex())
         return {};
     if (frontWindow() != dialog_->window())
         return frontWindow()->objectName() + QStringLiteral(" must be closed first");
@@ -441,7 +439,7 @@ QString Player::print(const QStringList &arguments)
     if (!arguments.isEmpty())
         dialog_->setDocument(pathBesideScenario(arguments.first()));
     awaitsJob_ = &scenario_.steps[next_ - 1];
-    dialog_->print(PrintDialog::Review::Skip);
+    dialog_->print(Review::Skip);
     if (awaitsJob_)
         turn_.stop();
     return {};
@@ -479,7 +477,7 @@ std::vector<QWidget *> Player::reachableControls() const
     std::vector<QWidget *> controls;
     for (QWidget *widget : window->findChildren<QWidget *>()) {
         bool isElsewhere = widget->objectName().isEmpty() || widget->window() != window;
-        for (int i = 0; window == main && i < static_cast<int>(dialog_->panels().size()); ++i)
+        for (int i = 0; window == main && i < dialog_->panels().count(); ++i)
             isElsewhere =
                 isElsewhere || (i != main->frontIndex() && isInside(widget, main->view(i)));
         if (!isElsewhere)

@@ -76,7 +76,7 @@ QJsonArray summaryJson(const SummaryInfo &summary)
     return entries;
 }
 
-QJsonObject panelJson(const PrintDialog::Panel &entry, PDEPanel &panel, const QWidget *view)
+QJsonObject panelJson(const LoadedPanel &entry, PDEPanel &panel)
 {
     PDEPanelDiagnostics *diagnostics = panel.diagnostics();
     return {
@@ -85,28 +85,23 @@ QJsonObject panelJson(const PrintDialog::Panel &entry, PDEPanel &panel, const QW
         {QStringLiteral("supported"), QJsonArray::fromStringList(panel.supportedPPDOptionKeys())},
         {QStringLiteral("summary"), summaryJson(panel.summaryInfo())},
         {QStringLiteral("model"), diagnostics ? diagnostics->model() : QJsonObject()},
-        {QStringLiteral("controls"), controlsOf(view)},
+        {QStringLiteral("controls"), controlsOf(entry.view)},
         {QStringLiteral("frames"), diagnostics ? diagnostics->frames() : QJsonObject()}};
 }
 
 QJsonArray panelsJson(PrintDialog &dialog)
 {
     QJsonArray panels;
-    int index = 0;
-    for (const PrintDialog::Panel &entry : dialog.panels()) {
-        const QWidget *view = dialog.window()->view(index++);
-        dialog.host().callPanel(entry.panel.get(), [&](PDEPanel &panel) {
-            panels.append(panelJson(entry, panel, view));
-        });
-    }
+    for (const LoadedPanel &entry : dialog.panels().loaded())
+        dialog.host().callPanel(entry.panel.get(),
+                                [&](PDEPanel &panel) { panels.append(panelJson(entry, panel)); });
     return panels;
 }
 
 QJsonValue frontTitle(const PrintDialog &dialog)
 {
-    const int front = dialog.frontIndex();
-    return front < 0 ? QJsonValue(QJsonValue::Null)
-                     : textJson(dialog.window()->panelPopUp()->itemText(front));
+    const int front = dialog.panels().frontIndex();
+    return front < 0 ? QJsonValue(QJsonValue::Null) : textJson(dialog.panels().title(front));
 }
 
 QJsonValue childOf(const QJsonValue &parent, const QString &token)

@@ -1,17 +1,20 @@
 #include "dialog/window/print_window.h"
 
-#include "dialog/texts.h"
+#include "dialog/window/content_scroll.h"
 #include "dialog/window/notice_area.h"
 #include "platform/controls/pop_up_button.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QFrame>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
-#include <QStyle>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -20,7 +23,7 @@ namespace dialog {
 namespace {
 
 // Notices wrap at this width where no panel asks for more.
-constexpr int kMinimumWidth = 440;
+constexpr int kMinimumSettingsWidth = 440;
 
 QLabel *literalLabel(const QString &text)
 {
@@ -48,86 +51,139 @@ PrintWindow::PrintWindow(const QString &printer, const QString &document)
 PrintWindow::PrintWindow(QWidget *printer, const QString &document) : printer_(printer)
 {
     setObjectName(QStringLiteral("printWindow"));
-    setWindowTitle(text(Text::WindowTitle));
-    setMinimumWidth(kMinimumWidth);
-    panelPlace_ = new QWidget(this);
-    panelLayout_ = new QVBoxLayout(panelPlace_);
+    setWindowTitle(tr("Print"));
+    auto *columns = new QHBoxLayout;
+    previewPlace_ = new QVBoxLayout;
+    columns->addLayout(previewPlace_, 1);
+    columns->addWidget(makeSettings(printer, document));
+    auto *rows = new QVBoxLayout(this);
+    rows->addLayout(columns, 1);
+    rows->addWidget(makeButtons());
+    connect(notices_, &NoticeArea::heightChanged, this, &PrintWindow::fitContents);
+}
+
+QWidget *PrintWindow::makeSettings(QWidget *printer, const QString &document)
+{
+    auto *settings = new QWidget(this);
+    settings->setMinimumWidth(kMinimumSettingsWidth);
+    notices_ = new NoticeArea(settings);
+    generalPlace_ = new QVBoxLayout;
+    auto *column = new QVBoxLayout(settings);
+    column->setContentsMargins({});
+    column->addWidget(makeHeading(printer, document));
+    column->addLayout(generalPlace_);
+    column->addWidget(separator());
+    column->addWidget(makeChooser());
+    column->addWidget(panelPlace_, 1);
+    column->addWidget(notices_);
+    return settings;
+}
+
+QWidget *PrintWindow::makeHeading(QWidget *printer, const QString &document)
+{
+    auto *heading = new QWidget(this);
+    heading_ = new QFormLayout(heading);
+    heading_->setContentsMargins({});
+    document_ = literalLabel({});
+    setDocument(document);
+    heading_->addRow(literalLabel(tr("Printer:")), printer);
+    heading_->addRow(literalLabel(tr("Document:")), document_);
+    return heading;
+}
+
+QWidget *PrintWindow::makeChooser()
+{
+    chooser_ = new QWidget(this);
+    auto *form = new QFormLayout(chooser_);
+    form->setContentsMargins({});
+    popUp_ = new PopUpButton;
+    popUp_->setObjectName(QStringLiteral("panelPopUp"));
+    popUp_->setAccessibleName(tr("Settings:"));
+    form->addRow(literalLabel(tr("Settings:")), popUp_);
+    chooser_->hide();
+    connect(popUp_, &QComboBox::activated, this, &PrintWindow::panelPicked);
+
+    auto *panels = new QWidget;
+    panelLayout_ = new QVBoxLayout(panels);
     panelLayout_->setContentsMargins({});
     waiting_ = literalLabel({});
     waiting_->setObjectName(QStringLiteral("waiting"));
     waiting_->setAlignment(Qt::AlignCenter);
     waiting_->hide();
     panelLayout_->addWidget(waiting_);
-    notices_ = new NoticeArea(this);
-    auto *column = new QVBoxLayout(this);
-    column->addWidget(makeHeading(printer, document));
-    column->addWidget(separator());
-    column->addWidget(panelPlace_);
-    column->addStretch(1);
-    column->addWidget(notices_);
-    column->addWidget(makeButtons());
-    connect(notices_, &NoticeArea::heightChanged, this, &PrintWindow::fitContents);
-}
-
-QWidget *PrintWindow::makeHeading(QWidget *printer, const QString &document)
-{
-    auto *heading = new QWidget(this);
-    auto *form = new QFormLayout(heading);
-    form->setContentsMargins({});
-    document_ = literalLabel({});
-    setDocument(document);
-    popUp_ = new PopUpButton;
-    popUp_->setObjectName(QStringLiteral("panelPopUp"));
-    popUpLabel_ = literalLabel(text(Text::Settings));
-    popUpLabel_->setBuddy(popUp_);
-    popUp_->setAccessibleName(text(Text::Settings));
-    form->addRow(literalLabel(text(Text::Printer)), printer);
-    form->addRow(literalLabel(text(Text::Document)), document_);
-    form->addRow(popUpLabel_, popUp_);
-    popUpLabel_->hide();
-    popUp_->hide();
-    connect(popUp_, &QComboBox::activated, this, &PrintWindow::panelPicked);
-    return heading;
+    panelLayout_->addStretch(1);
+    panelPlace_ = new ContentScroll(panels, this);
+    return chooser_;
 }
 
 QWidget *PrintWindow::makeButtons()
 {
     auto *buttons = new QDialogButtonBox(this);
-    QPushButton *help = buttons->addButton(text(Text::Help), QDialogButtonBox::HelpRole);
-    QPushButton *cancel = buttons->addButton(text(Text::Cancel), QDialogButtonBox::RejectRole);
-    print_ = buttons->addButton(text(Text::Print), QDialogButtonBox::AcceptRole);
-    help->setObjectName(QStringLiteral("helpButton"));
-    cancel->setObjectName(QStringLiteral("cancelButton"));
-    print_->setObjectName(QStringLiteral("printButton"));
-    help->setAutoDefault(false);
-    cancel->setAutoDefault(false);
+    const auto add = [&](const QString &title, QDialogButtonBox::ButtonRole role,
+                         const char *name) {
+        QPushButton *button = buttons->addButton(title, role);
+        button->setObjectName(QString::fromLatin1(name));
+        button->setAutoDefault(false);
+        return button;
+    };
+    QPushButton *help = add(tr("Help"), QDialogButtonBox::HelpRole, "helpButton");
+    reset_ = add(tr("Reset to Defaults"), QDialogButtonBox::ResetRole, "resetButton");
+    save_ = add(tr("Save"), QDialogButtonBox::ActionRole, "saveButton");
+    QPushButton *cancel = add(tr("Cancel"), QDialogButtonBox::RejectRole, "cancelButton");
+    print_ = add(tr("Print"), QDialogButtonBox::AcceptRole, "printButton");
     print_->setDefault(true);
+    save_->setMenu(new QMenu(save_));
+    save_->hide();
     connect(help, &QPushButton::clicked, this, &PrintWindow::helpRequested);
+    connect(reset_, &QPushButton::clicked, this, &PrintWindow::resetRequested);
     connect(cancel, &QPushButton::clicked, this, &PrintWindow::leave);
     connect(print_, &QPushButton::clicked, this, &PrintWindow::printRequested);
     return buttons;
+}
+
+void PrintWindow::setPreview(QWidget *preview)
+{
+    previewPlace_->addWidget(preview);
+}
+
+void PrintWindow::setPresets(QWidget *presets)
+{
+    presets_ = presets;
+    heading_->insertRow(1, literalLabel(tr("Presets:")), presets);
+}
+
+void PrintWindow::setGeneral(QWidget *general)
+{
+    general_ = general;
+    generalPlace_->addWidget(separator());
+    generalPlace_->addWidget(general);
 }
 
 void PrintWindow::addPanel(const QString &title, QWidget *view)
 {
     if (view) {
         view->hide();
-        panelLayout_->addWidget(view);
+        panelLayout_->insertWidget(panelLayout_->count() - 1, view);
     }
     views_.emplace_back(view);
     popUp_->addItem(title);
-    popUpLabel_->show();
-    popUp_->show();
+    chooser_->show();
 }
 
 void PrintWindow::clearPanels()
 {
     for (const QPointer<QWidget> &view : std::exchange(views_, {}))
         delete view;
+    if (presets_)
+        heading_->removeRow(presets_);
+    while (QLayoutItem *item = generalPlace_->takeAt(0)) {
+        delete item->widget();
+        delete item;
+    }
     popUp_->clear();
-    popUpLabel_->hide();
-    popUp_->hide();
+    chooser_->hide();
     front_ = -1;
+    setPrintProblem({});
     notices_->dismissGroup({});
 }
 
@@ -162,7 +218,7 @@ QWidget *PrintWindow::view(int index) const
 
 void PrintWindow::setDocument(const QString &document)
 {
-    document_->setText(document.isNull() ? text(Text::NoDocument) : document);
+    document_->setText(document.isNull() ? tr("None") : document);
 }
 
 void PrintWindow::fitContents()
@@ -171,24 +227,56 @@ void PrintWindow::fitContents()
     setUpdatesEnabled(false);
     // What has changed inside tells its parents by events, which must have arrived.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    for (QWidget *inner = panelPlace_; inner != this; inner = inner->parentWidget())
+        inner->updateGeometry(); // a scroll area keeps such news from its parents
     layout()->activate();
-    const QSize hint = sizeHint().expandedTo(minimumSize());
-    resize(hint.width(), layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(hint.width())
-                                                       : hint.height());
+    resize(neededSize().expandedTo(personsSize_).boundedTo(screen()->availableSize()));
     setUpdatesEnabled(updates);
+}
+
+QSize PrintWindow::neededSize() const
+{
+    const QSize hint = sizeHint().expandedTo(minimumSize());
+    return {hint.width(), layout()->hasHeightForWidth()
+                              ? layout()->totalHeightForWidth(hint.width())
+                              : hint.height()};
+}
+
+void PrintWindow::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    if (event->spontaneous()) // from the window system, for a person or for its own reasons
+        personsSize_ = event->size();
 }
 
 void PrintWindow::setSending(bool isSending)
 {
     isSending_ = isSending;
-    print_->setText(text(isSending ? Text::Sending : Text::Print));
+    print_->setText(isSending ? tr("Sending…") : tr("Print"));
     allowPrinting();
+}
+
+void PrintWindow::setPrintProblem(const QString &reason)
+{
+    printProblem_ = reason;
+    print_->setToolTip(reason);
+    print_->setAccessibleDescription(reason);
+    allowPrinting();
+}
+
+QAction *PrintWindow::addSaving(const QString &title, const QString &objectName)
+{
+    QAction *action = save_->menu()->addAction(title);
+    action->setObjectName(objectName);
+    save_->show();
+    return action;
 }
 
 /// A job on its way keeps its printer.
 void PrintWindow::allowPrinting()
 {
-    print_->setEnabled(!isSending_ && !isWaiting_);
+    print_->setEnabled(!isSending_ && !isWaiting_ && printProblem_.isNull());
+    reset_->setEnabled(!isSending_ && !isWaiting_);
     printer_->setEnabled(!isSending_);
 }
 

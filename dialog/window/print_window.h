@@ -6,16 +6,21 @@
 #include <vector>
 
 class PopUpButton;
+class QAction;
+class QFormLayout;
 class QLabel;
+class QMenu;
 class QPushButton;
 class QVBoxLayout;
 
 namespace dialog {
 
+class ContentScroll;
 class NoticeArea;
 
-/// The dialog's window: printer and document, the pop-up of panels, the front panel's view,
-/// notices, Help, Cancel and Print. It knows panels as titles and views only.
+/// The dialog's window. At the left the preview; at the right printer, presets, document, the
+/// general section, the chooser of panels, the front panel's view and notices; below Help, Save,
+/// Reset, Cancel and Print. It knows what stands in its places as titles and widgets only.
 class PrintWindow : public QDialog
 {
     Q_OBJECT
@@ -25,10 +30,16 @@ public:
     /// With a control in the printer's place, which becomes the window's.
     PrintWindow(QWidget *printer, const QString &document);
 
-    /// Adds a panel; a null view shows as an empty panel. The window becomes the view's parent.
+    // The places. What is put there becomes the window's. The preview stays; the others belong to
+    // one printer, and clearPanels() destroys them.
+    void setPreview(QWidget *preview);
+    void setPresets(QWidget *presets);
+    void setGeneral(QWidget *general);
+    /// A null view shows as an empty panel.
     void addPanel(const QString &title, QWidget *view);
-    /// Destroys the views of all panels, whose printer goes, and dismisses what was said of it.
+    /// Destroys what belongs to one printer, which goes, and dismisses what was said of it.
     void clearPanels();
+
     /// Says in the panels' place what is waited for; an empty text says nothing. Until a null one
     /// there is nothing to print.
     void setWaiting(const QString &text);
@@ -36,10 +47,15 @@ public:
     void bringForward(int index);
     [[nodiscard]] int frontIndex() const { return front_; }
     void setDocument(const QString &document);
-    /// Fits the window to what it shows, in one repaint.
+    /// Makes room for what is shown, in one repaint: the window is as large as a person made it, or
+    /// as its contents need, but no larger than the screen.
     void fitContents();
     /// While a job is on its way, Print cannot be pressed again.
     void setSending(bool isSending);
+    /// Print cannot be pressed for this reason; null: it can.
+    void setPrintProblem(const QString &reason);
+    /// An entry of the menu of Save, which shows as soon as it has one.
+    QAction *addSaving(const QString &title, const QString &objectName);
 
     [[nodiscard]] NoticeArea &notices() const { return *notices_; }
     [[nodiscard]] PopUpButton *panelPopUp() const { return popUp_; }
@@ -48,6 +64,7 @@ public:
 Q_SIGNALS:
     void panelPicked(int index);
     void helpRequested();
+    void resetRequested();
     void printRequested();
     /// Cancel, Escape or the close button; once.
     void left();
@@ -55,26 +72,40 @@ Q_SIGNALS:
 protected:
     void reject() override;
     void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    [[nodiscard]] QWidget *makeSettings(QWidget *printer, const QString &document);
     [[nodiscard]] QWidget *makeHeading(QWidget *printer, const QString &document);
+    [[nodiscard]] QWidget *makeChooser();
     [[nodiscard]] QWidget *makeButtons();
+    void showChooser(bool isShown);
     void leave();
     void allowPrinting();
+    [[nodiscard]] QSize neededSize() const;
 
     QWidget *printer_ = nullptr;
+    QFormLayout *heading_ = nullptr;
     QLabel *document_ = nullptr;
-    QLabel *popUpLabel_ = nullptr;
+    QPointer<QWidget> presets_;
+    QPointer<QWidget> general_;
+    QVBoxLayout *generalPlace_ = nullptr;
+    QVBoxLayout *previewPlace_ = nullptr;
+    QWidget *chooser_ = nullptr;
     PopUpButton *popUp_ = nullptr;
-    QWidget *panelPlace_ = nullptr;
+    ContentScroll *panelPlace_ = nullptr;
     QVBoxLayout *panelLayout_ = nullptr;
     QLabel *waiting_ = nullptr;
     NoticeArea *notices_ = nullptr;
+    QPushButton *save_ = nullptr;
+    QPushButton *reset_ = nullptr;
     QPushButton *print_ = nullptr;
     std::vector<QPointer<QWidget>> views_;
     int front_ = -1;
+    QSize personsSize_; ///< invalid until a person has made the window larger or smaller
     bool isSending_ = false;
     bool isWaiting_ = false;
+    QString printProblem_;
     bool hasLeft_ = false;
 };
 

@@ -48,11 +48,11 @@ protected:
 
 TEST_F(OpenDialog, ListsThePanelsInTheirOrder)
 {
-    ASSERT_EQ(dialog->panels().size(), 2U);
-    EXPECT_TEXT(dialog->panels()[0].title, "Basics");
-    EXPECT_TEXT(dialog->panels()[1].kind, "com.example.extras");
+    ASSERT_EQ(dialog->panels().loaded().size(), 2U);
+    EXPECT_TEXT(dialog->panels().loaded()[0].title, "Basics");
+    EXPECT_TEXT(dialog->panels().loaded()[1].kind, "com.example.extras");
     EXPECT_EQ(dialog->window()->panelPopUp()->count(), 3) << "two panels and the summary";
-    EXPECT_EQ(dialog->frontIndex(), 0);
+    EXPECT_EQ(dialog->panels().frontIndex(), 0);
     EXPECT_TRUE(notices().isEmpty());
 }
 
@@ -74,14 +74,14 @@ TEST_F(OpenDialog, TheReviewNamesConflictsAndDroppedChoices)
     dialog->host().changeFromElsewhere({q("DupDryTime"), q("Long")});
     dialog->printer().mark({q("DupDryTime"), q("Automatic")});
     QSignalSpy made(dialog.get(), &PrintDialog::jobMade);
-    dialog->print(PrintDialog::Review::Ask);
+    dialog->print(Review::Ask);
     EXPECT_EQ(made.count(), 0);
     const QString review = notices().last();
     EXPECT_TRUE(review.contains(q("“Paper Type: Iron-On Transfer” and “Print Quality: Quick”")))
         << review.toStdString();
     EXPECT_TRUE(review.contains(q("Dry Time: you chose “Long Time”, the job has “Auto Time”")))
         << review.toStdString();
-    dialog->print(PrintDialog::Review::Skip);
+    dialog->print(Review::Skip);
     EXPECT_EQ(made.count(), 1);
 }
 
@@ -91,7 +91,7 @@ TEST_F(OpenDialog, ADocumentThatVanishedIsToldAndNothingIsWritten)
     open(document);
     ASSERT_TRUE(QFile::remove(document));
     QSignalSpy failed(dialog.get(), &PrintDialog::jobFailed);
-    dialog->print(PrintDialog::Review::Ask);
+    dialog->print(Review::Ask);
     EXPECT_EQ(failed.count(), 1);
     EXPECT_TRUE(notices().last().contains(q("There is no document")));
     EXPECT_FALSE(QFileInfo::exists(driver.path(q("jobs"))));
@@ -100,12 +100,12 @@ TEST_F(OpenDialog, ADocumentThatVanishedIsToldAndNothingIsWritten)
 TEST_F(OpenDialog, AFolderThatCannotBeWrittenIsToldAndPrintCanBePressedAgain)
 {
     const QString inTheWay = driver.write(q("jobs"), "a file");
-    dialog->print(PrintDialog::Review::Ask);
+    dialog->print(Review::Ask);
     ASSERT_EQ(notices().size(), 1);
     EXPECT_TRUE(notices().first().contains(inTheWay)) << notices().first().toStdString();
     ASSERT_TRUE(QFile::remove(inTheWay));
     QSignalSpy made(dialog.get(), &PrintDialog::jobMade);
-    dialog->print(PrintDialog::Review::Ask);
+    dialog->print(Review::Ask);
     EXPECT_EQ(made.count(), 1);
 }
 
@@ -119,11 +119,11 @@ TEST_F(OpenDialog, PanelsOutliveAViewThatTheWindowDestroyed)
 
 TEST_F(OpenDialog, CanBeOpenedAgainAfterItIsGone)
 {
-    const std::weak_ptr<PDEPanel> panel = dialog->panels()[0].panel;
+    const std::weak_ptr<PDEPanel> panel = dialog->panels().loaded()[0].panel;
     dialog.reset();
     EXPECT_TRUE(panel.expired()) << "the panels die with the dialog, before its PPD";
     open({});
-    EXPECT_EQ(dialog->panels().size(), 2U);
+    EXPECT_EQ(dialog->panels().loaded().size(), 2U);
 }
 
 } // namespace

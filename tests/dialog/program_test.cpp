@@ -156,7 +156,7 @@ TEST_F(Program, ReplayOfNothingIsDone)
 TEST_F(Program, OpensWithoutPanelsWhereTheLibraryIsTruncated)
 {
     driver.replaceLibrary(test::fileBytes(q(DIALOG_TEST_MODULE)).left(5000));
-    const ProgramRun run = replay("expect /front null\nexpect /panels []\nclick printButton\n");
+    const ProgramRun run = replay("expect /panels []\nclick printButton\n");
     EXPECT_EQ(run.status, 0) << run.errors.constData();
     EXPECT_TRUE(run.errors.contains("is damaged")) << run.errors.constData();
 }
@@ -164,7 +164,7 @@ TEST_F(Program, OpensWithoutPanelsWhereTheLibraryIsTruncated)
 TEST_F(Program, OpensWithoutPanelsWhereTheInterfaceIsForeign)
 {
     driver.replaceLibraryBy(q(DIALOG_FOREIGN_MODULE));
-    const ProgramRun run = replay("expect /front null\n");
+    const ProgramRun run = replay("expect /panels []\n");
     EXPECT_EQ(run.status, 0) << run.errors.constData();
     EXPECT_TRUE(run.errors.contains("made for another version")) << run.errors.constData();
 }
@@ -175,7 +175,7 @@ TEST_F(Program, OpensWithoutPanelsWhereThePathLeadsOutside)
         driver.write(q("outside.ppd"),
                      test::p1().withAttribute("APDialogExtension", "/tmp/Panels.bundle").bytes());
     const ProgramRun run = runPrint(
-        {q("replay"), driver.write(q("a.txt"), "expect /front null\n"), q("--ppd"), printer});
+        {q("replay"), driver.write(q("a.txt"), "expect /panels []\n"), q("--ppd"), printer});
     EXPECT_EQ(run.status, 0) << run.errors.constData();
     EXPECT_TRUE(run.errors.contains("outside /Library/Printers")) << run.errors.constData();
 }
@@ -184,7 +184,7 @@ TEST_F(Program, OpensWithoutPanelsWhereThePpdNamesNone)
 {
     const QString printer = driver.write(q("bare.ppd"), test::p1().bytes());
     const ProgramRun run = runPrint(
-        {q("replay"), driver.write(q("a.txt"), "expect /front null\n"), q("--ppd"), printer});
+        {q("replay"), driver.write(q("a.txt"), "expect /panels []\n"), q("--ppd"), printer});
     EXPECT_EQ(run.status, 0) << run.errors.constData();
     EXPECT_TRUE(run.errors.contains("names no panels")) << run.errors.constData();
 }
@@ -486,7 +486,7 @@ TEST_F(Program, SpeaksTheFirstPreferredLanguage)
 {
     driver.write(q("sheet.pdf"), "%PDF-1.4");
     const QString printer = driver.write(q("bare.ppd"), test::p1().bytes());
-    const QString scenario = driver.write(q("a.txt"), "expect /front null\n");
+    const QString scenario = driver.write(q("a.txt"), "expect /panels []\n");
     EXPECT_TRUE(runPrint({q("replay"), scenario, q("--ppd"), printer, q("--language"), q("de-AT")})
                     .errors.contains("nennt keine Einstellungsseiten"));
     EXPECT_TRUE(runPrint({q("replay"), scenario, q("--ppd"), printer, q("--language"), q("ja")})

@@ -1,7 +1,7 @@
+#include "dialog/panels/summary_panel.h"
 #include "dialog/print_dialog.h"
 #include "dialog/replay/input.h"
 #include "dialog/window/print_window.h"
-#include "dialog/window/summary_view.h"
 #include "platform/controls/pop_up_button.h"
 #include "tests/support/print_to.h"
 
@@ -30,7 +30,10 @@ QStringList shownIn(const QTreeWidget &rows)
 
 TEST(Summary, ShowsASectionForEachPanelAndARowForEachEntry)
 {
-    dialog::SummaryView view;
+    const auto printer = dialog::PpdDocument::withoutOptions(q("Printer"));
+    dialog::DialogHost host(*printer);
+    dialog::PanelStack panels(host);
+    dialog::SummaryPanel view(panels, host);
     view.show({{q("One"), {{q("a"), q("1")}, {q("b"), q("2")}}}, {q("Two"), {}}});
     const auto *rows = view.findChild<QTreeWidget *>();
     EXPECT_EQ(shownIn(*rows), QStringList({q("One"), q("One: a = 1"), q("One: b = 2"), q("Two")}));
@@ -52,12 +55,12 @@ TEST(Summary, OfTheTonerPrinterHasBothPanelsAsTheyStand)
     EXPECT_NULL(dialog::replay::input::choose(window.panelPopUp(), 1));
     EXPECT_NULL(dialog::replay::input::click(window.findChild<QCheckBox *>(q("ibReduceGhosting"))));
     EXPECT_NULL(dialog::replay::input::choose(window.panelPopUp(), 2));
-    EXPECT_EQ(print->frontIndex(), 2);
+    EXPECT_EQ(print->panels().frontIndex(), 2);
     const QStringList lines = shownIn(*window.findChild<QTreeWidget *>(q("summaryRows")));
     EXPECT_TRUE(lines.contains(q("Quality & Media: Color Output = Grayscale")));
     EXPECT_TRUE(lines.contains(q("Other: Reduce Ghosting = On")));
     EXPECT_NULL(dialog::replay::input::choose(window.panelPopUp(), 0));
-    EXPECT_EQ(print->frontIndex(), 0);
+    EXPECT_EQ(print->panels().frontIndex(), 0);
 }
 
 } // namespace

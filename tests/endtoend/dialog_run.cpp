@@ -74,7 +74,7 @@ void DialogRun::preset(const dialog::Choices &choices)
 void DialogRun::showPanels()
 {
     dialog_->showPanels();
-    ASSERT_FALSE(dialog_->panels().empty()) << "the plug-in has not been loaded";
+    ASSERT_FALSE(dialog_->panels().loaded().empty()) << "the plug-in has not been loaded";
     QCoreApplication::processEvents();
 }
 

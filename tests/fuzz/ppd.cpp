@@ -47,7 +47,7 @@ void live(const QString &path)
     if (!dialog)
         return;
     (*dialog)->showPanels();
-    for (const auto &entry : (*dialog)->panels())
+    for (const auto &entry : (*dialog)->panels().loaded())
         static_cast<void>(entry.panel->summaryInfo());
     const auto options = (*dialog)->printer().options();
     for (qsizetype i = 0; i < std::min<qsizetype>(options.size(), 30); ++i) {

@@ -133,7 +133,7 @@ TEST_F(QueueDialogs, OpenAtOnceAndShowTheDefaultPrintersPanels)
     EXPECT_FALSE(run.button("printButton")->isEnabled());
     ASSERT_TRUE(run.untilReady("toner"));
     EXPECT_NULL(run.waiting());
-    EXPECT_FALSE(run.dialog().printDialog()->panels().empty());
+    EXPECT_FALSE(run.dialog().printDialog()->panels().loaded().empty());
     EXPECT_EQ(run.dialog().picker().offered(), (QStringList{q("toner"), q("ink"), q("raw")}));
 }
 
@@ -156,7 +156,7 @@ TEST_F(QueueDialogs, RememberTheQueueThatPrinted)
     const Visit run(Visit::quick(), q("ink"));
     ASSERT_TRUE(run.untilReady("ink"));
     QSignalSpy made(&run.dialog(), &QueueDialog::jobMade);
-    run.dialog().printDialog()->print(PrintDialog::Review::Skip);
+    run.dialog().printDialog()->print(Review::Skip);
     ASSERT_TRUE(run.until([&] { return !made.isEmpty(); }))
         << run.notices().join(u'\n').toStdString();
     EXPECT_TEXT(lastUsedQueue(), "ink");
@@ -169,7 +169,7 @@ TEST_F(QueueDialogs, PrintToAQueueWithoutPpdAndSayThatThereAreNoPanels)
     const Visit run(Visit::quick(), q("raw"));
     ASSERT_TRUE(run.untilReady("raw"));
     EXPECT_TRUE(run.notices().join(u'\n').contains(q("This printer has no PPD")));
-    EXPECT_FALSE(run.window().panelPopUp()->isVisible());
+    EXPECT_TRUE(run.dialog().printDialog()->panels().loaded().empty());
     QSignalSpy made(&run.dialog(), &QueueDialog::jobMade);
     run.button("printButton")->click();
     ASSERT_TRUE(run.until([&] { return !made.isEmpty(); }))

@@ -1,6 +1,7 @@
-#include "dialog/window/summary_view.h"
+#include "dialog/panels/summary_panel.h"
 
-#include "dialog/texts.h"
+#include "dialog/host/dialog_host.h"
+#include "dialog/panel_stack.h"
 
 #include <QHeaderView>
 #include <QTreeWidget>
@@ -26,11 +27,12 @@ void addSection(QTreeWidget *rows, const SummarySection &section)
 
 } // namespace
 
-SummaryView::SummaryView(QWidget *parent) : QWidget(parent), rows_(new QTreeWidget(this))
+SummaryPanel::SummaryPanel(PanelStack &panels, DialogHost &host, QWidget *parent)
+    : OwnPanel(parent), panels_(panels), host_(host), rows_(new QTreeWidget(this))
 {
     setObjectName(QStringLiteral("summaryView"));
     rows_->setObjectName(QStringLiteral("summaryRows"));
-    rows_->setAccessibleName(text(Text::Summary));
+    rows_->setAccessibleName(title());
     rows_->setColumnCount(2);
     rows_->setHeaderHidden(true);
     rows_->setRootIsDecorated(false);
@@ -40,7 +42,17 @@ SummaryView::SummaryView(QWidget *parent) : QWidget(parent), rows_(new QTreeWidg
     column->addWidget(rows_);
 }
 
-void SummaryView::show(const std::vector<SummarySection> &sections)
+void SummaryPanel::refresh()
+{
+    std::vector<SummarySection> sections;
+    for (const LoadedPanel &entry : panels_.loaded())
+        host_.callPanel(entry.panel.get(), [&](PDEPanel &panel) {
+            sections.push_back({entry.title, panel.summaryInfo()});
+        });
+    show(sections);
+}
+
+void SummaryPanel::show(const std::vector<SummarySection> &sections)
 {
     rows_->clear();
     for (const SummarySection &section : sections)

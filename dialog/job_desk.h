@@ -1,0 +1,86 @@
+#pragma once
+
+#include "dialog/host/dialog_host.h"
+#include "dialog/jobs/ticket.h"
+#include "dialog/print_case.h"
+#include "dialog/window/notice_area.h"
+
+#include <QObject>
+#include <QTimer>
+
+namespace dialog {
+
+class PpdDocument;
+class QueuePrinting;
+struct QueueJobResult;
+
+/// A job that has been handed over.
+struct JobRecord
+{
+    QString id; ///< the job folder's name, or the number at the print server
+    JobOptions options;
+    QString ticketPath;
+    QStringList remarks = {}; ///< what a person should know of it, shown in the window
+};
+
+/// Whether a person is asked before a job prints with conflicts or other choices than made.
+enum class Review { Ask, Skip };
+
+/// What Print leads to: the panels commit, a person reviews what rules have changed, and the job
+/// goes into its folder or to its queue. One job at a time.
+class JobDesk : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Borrows printer and host. The case says where jobs go.
+    JobDesk(const PrintCase &printCase, const PpdDocument &printer, DialogHost &host,
+            QObject *parent = nullptr);
+
+    void setDocument(const QString &path) { case_.document = path; }
+    [[nodiscard]] const QString &document() const { return case_.document; }
+
+    /// Does nothing while a job is on its way.
+    void print(Review review);
+    [[nodiscard]] bool isSending() const;
+    /// Takes the job on its way back; idle() follows.
+    void cancel();
+    /// Finds out what became of jobs of programs that are gone.
+    void settleEarlier();
+    /// What Print would make now. Commits the panels.
+    [[nodiscard]] Ticket ticket();
+
+Q_SIGNALS:
+    void noticed(const dialog::Notice &notice);
+    /// The same, of news that nobody need be told but in the window.
+    void progressed(const dialog::Notice &notice);
+    /// The notice with that key is past.
+    void dismissed(const QString &key);
+    void sendingChanged(bool isSending);
+    void jobMade(const dialog::JobRecord &job);
+    void jobFailed(const QString &notice);
+    /// The job that was on its way has ended, either way.
+    void idle();
+
+private:
+    void makeQueuePrinting();
+    [[nodiscard]] QString problemBeforePrinting() const;
+    void askForReview(const CommitResult &result);
+    [[nodiscard]] QString reviewText(const CommitResult &result) const;
+    [[nodiscard]] JobSettings jobSettings() const;
+    [[nodiscard]] Ticket makeTicket(const CommitResult &result) const;
+    void printToFolder(const Ticket &ticket);
+    void printToQueue(const Ticket &ticket);
+    void finishQueueJob(Ticket ticket, const QueueJobResult &result);
+    void showProgress();
+    void fail(const QString &words);
+
+    PrintCase case_;
+    const PpdDocument &printer_;
+    DialogHost &host_;
+    QueuePrinting *queuePrinting_ = nullptr; ///< null without a queue
+    QTimer progressDelay_;                   ///< a short job shows none
+    int sentPercent_ = 0;
+};
+
+} // namespace dialog
