@@ -81,7 +81,7 @@ void DialogRun::showPanels()
 void DialogRun::showPanelOf(const QString &option)
 {
     const QString kind = panelKindOf(option);
-    for (const dialog::PrintDialog::Panel &panel : dialog_->panels()) {
+    for (const dialog::LoadedPanel &panel : dialog_->panels().loaded()) {
         auto *popUp = dialog_->window()->findChild<QComboBox *>(q("panelPopUp"));
         if (panel.kind != kind || popUp->currentText() == panel.title)
             continue;
