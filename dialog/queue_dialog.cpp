@@ -24,7 +24,7 @@ const QString kLeftBehindKey = QStringLiteral("left-behind");
 
 QueueSources serverSources(const ServerTimes &times)
 {
-    return {[times] { return listQueues(times); },
+    return {[times](const ListingHeard &heard) { return listQueues(times, heard); },
             [times](const QString &queue) { return openQueuePrinter(queue, times); },
             {times.list, kPollInterval},
             times.printer};
@@ -55,6 +55,10 @@ void QueueDialog::takeListing(const QueueListing &listing)
         takeProblem(listing.problem);
         return;
     }
+    if (!listing.isWhole) {
+        takeSoFar(listing);
+        return;
+    }
     queues_ = inOrderOfUse(listing.queues, lastUsedQueue());
     picker_->setQueues(queues_);
     if (queues_.empty()) {
@@ -65,10 +69,36 @@ void QueueDialog::takeListing(const QueueListing &listing)
     retract(kServerKey);
     if (queue_.isNull())
         chooseQueue();
-    else if (dialog_ && !findQueue(queues_, queue_))
+    else
+        followQueue();
+}
+
+/// Queues known from before stay until it is certain that they are gone.
+void QueueDialog::takeSoFar(const QueueListing &listing)
+{
+    if (queue_.isNull() && queues_.empty() && !listing.defaultName.isNull()) {
+        isRemembered_ = true;
+        connectTo(listing.defaultName);
+    }
+    std::vector<Queue> known = listing.queues;
+    for (const Queue &queue : queues_) {
+        if (!findQueue(listing.queues, queue.name))
+            known.push_back(queue);
+    }
+    queues_ = inOrderOfUse(std::move(known), lastUsedQueue());
+    picker_->setQueues(queues_);
+}
+
+/// The chosen queue may go, come back, or answer again.
+void QueueDialog::followQueue()
+{
+    const bool isThere = findQueue(queues_, queue_) != nullptr;
+    if (dialog_ && !isThere)
         tell(kPrinterKey, text(Text::QueueGone, {queue_}), {});
     else if (dialog_)
         retract(kPrinterKey);
+    else if (isThere && !connecting_ && automaticTries_ > 0)
+        connectTo(queue_, automaticTries_ - 1);
 }
 
 /// What was known of the queues stays, but none can be reached.
@@ -78,6 +108,7 @@ void QueueDialog::takeProblem(const ServerProblem &problem)
         queue.state = QueueState::Unreachable;
         queue.reason = QString();
     }
+    automaticTries_ = kAutomaticTries; // who comes back is asked as often as at first
     picker_->setQueues(queues_);
     if (queue_.isNull())
         window_->setWaiting(QLatin1String(""));
@@ -129,9 +160,10 @@ void QueueDialog::switchTo(const QString &queue)
     connectTo(queue);
 }
 
-void QueueDialog::connectTo(const QString &queue)
+void QueueDialog::connectTo(const QString &queue, int automaticTries)
 {
     delete connecting_;
+    automaticTries_ = automaticTries;
     dialog_.reset();
     told_.clear();
     window_->clearPanels();
@@ -145,6 +177,7 @@ void QueueDialog::connectTo(const QString &queue)
 
 void QueueDialog::takePrinter(std::optional<QueuePrinter> answer)
 {
+    connecting_.clear();
     if (!answer)
         answer.emplace(
             QueuePrinter{QueuePrinter::Outcome::ServerFailed, {}, {ServerFault::Silent}, {}});
@@ -157,6 +190,7 @@ void QueueDialog::takePrinter(std::optional<QueuePrinter> answer)
         missQueue();
         break;
     case QueuePrinter::Outcome::BrokenPpd:
+        automaticTries_ = 0; // whether somebody has repaired it, only a person knows
         failPrinter(text(Text::QueuePpdBroken, {queue_, answer->reason}));
         break;
     case QueuePrinter::Outcome::ServerFailed:

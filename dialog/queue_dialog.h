@@ -19,7 +19,7 @@ class PrinterPicker;
 /// other threads.
 struct QueueSources
 {
-    std::function<QueueListing()> list;
+    QueueWatch::Source list;
     std::function<QueuePrinter(const QString &queue)> printer;
     QueueWatch::Times listTimes;
     std::chrono::milliseconds printerDeadline;
@@ -63,13 +63,17 @@ Q_SIGNALS:
     void left();
 
 private:
+    static constexpr int kAutomaticTries = 3;
+
     void takeListing(const QueueListing &listing);
+    void takeSoFar(const QueueListing &listing);
     void takeProblem(const ServerProblem &problem);
+    void followQueue();
     void chooseQueue();
     void missQueue();
     void tryAgain();
     void switchTo(const QString &queue);
-    void connectTo(const QString &queue);
+    void connectTo(const QString &queue, int automaticTries = kAutomaticTries);
     void takePrinter(std::optional<QueuePrinter> answer);
     void show(std::unique_ptr<PpdDocument> printer);
     void rememberChoices();
@@ -85,7 +89,8 @@ private:
     PrintCase case_;
     QueueSources sources_;
     QString queue_;             ///< null before any is chosen
-    bool isRemembered_ = false; ///< chosen because it was used last, and may be gone
+    bool isRemembered_ = false; ///< not chosen by the person today, and may be gone
+    int automaticTries_ = 0;    ///< left; of getting a printer that the server did not give
     std::vector<Queue> queues_;
     PrinterPicker *picker_; ///< belongs to the window
     std::unique_ptr<PrintWindow> window_;

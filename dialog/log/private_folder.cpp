@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -205,6 +206,32 @@ std::optional<Refusal> PrivateFolder::replace(const QString &name, const QByteAr
     const Refusal refused = failure(pathOf(name));
     ::unlinkat(descriptor_.get(), fresh.constData(), 0);
     return refused;
+}
+
+std::vector<PrivateFolder::File> PrivateFolder::files() const
+{
+    constexpr qint64 kNanoseconds = 1'000'000'000;
+    std::vector<File> files;
+    // Of its own, since closedir() closes it.
+    const int own = ::openat(descriptor_.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    DIR *list = own < 0 ? nullptr : ::fdopendir(own);
+    while (const dirent *entry = list ? ::readdir(list) : nullptr) {
+        const QString name = QFile::decodeName(entry->d_name);
+        const auto status = statusOf(name);
+        if (status && S_ISREG(status->st_mode))
+            files.push_back({name, status->st_size,
+                             status->st_mtim.tv_sec * kNanoseconds + status->st_mtim.tv_nsec});
+    }
+    if (list)
+        ::closedir(list);
+    std::sort(files.begin(), files.end(),
+              [](const File &one, const File &other) { return one.time < other.time; });
+    return files;
+}
+
+void PrivateFolder::touch(const QString &name) const
+{
+    ::utimensat(descriptor_.get(), encoded(name).constData(), nullptr, AT_SYMLINK_NOFOLLOW);
 }
 
 std::optional<Refusal> PrivateFolder::remove(const QString &name) const

@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 #include <variant>
+#include <vector>
 
 #include <sys/stat.h>
 
@@ -66,6 +67,17 @@ public:
     [[nodiscard]] std::optional<Refusal> replace(const QString &name,
                                                  const QByteArray &bytes) const;
     [[nodiscard]] std::optional<Refusal> remove(const QString &name) const;
+
+    struct File
+    {
+        QString name;
+        qint64 bytes = 0;
+        qint64 time = 0; ///< of the last change or touch(), in nanoseconds since 1970
+    };
+    /// Ordinary files of this folder, the oldest first.
+    [[nodiscard]] std::vector<File> files() const;
+    /// Makes the file the newest one.
+    void touch(const QString &name) const;
 
 private:
     PrivateFolder(Descriptor descriptor, QString path)

@@ -21,21 +21,23 @@ struct ErrandBox
     QObject *errand = nullptr; ///< null once nobody waits any more
     std::optional<Result> result = {};
     bool isTold = false; ///< main thread only
+
+    /// From the errand's thread to the main thread, while somebody waits.
+    template <class Call>
+    void post(Call call)
+    {
+        const std::lock_guard lock(mutex);
+        if (errand)
+            QMetaObject::invokeMethod(errand, std::move(call), Qt::QueuedConnection);
+    }
 };
 
-/// Does work that may block for as long as a server likes, on a thread of its own that shares
-/// nothing with the main thread. @p done is called once on the main thread: with the result, or
-/// with nothing when the deadline comes first. Nobody can interrupt the thread; it is left to end
-/// by itself and its result is dropped.
-///
-/// The answer is the errand as an object that belongs to @p parent. Deleting it abandons the
-/// errand: @p done is not called any more.
 template <class Result>
-QObject *runErrand(QObject *parent, std::chrono::milliseconds deadline,
-                   std::function<Result()> work, std::function<void(std::optional<Result>)> done)
+QObject *startErrand(const std::shared_ptr<ErrandBox<Result>> &box, QObject *parent,
+                     std::chrono::milliseconds deadline, std::function<Result()> work,
+                     std::function<void(std::optional<Result>)> done)
 {
     auto *errand = new QObject(parent);
-    const auto box = std::make_shared<ErrandBox<Result>>();
     box->errand = errand;
     QObject::connect(errand, &QObject::destroyed, [box] {
         const std::lock_guard lock(box->mutex);
@@ -53,13 +55,48 @@ QObject *runErrand(QObject *parent, std::chrono::milliseconds deadline,
     QTimer::singleShot(deadline, errand, tell);
     std::thread([box, tell, work = std::move(work)] {
         std::optional<Result> result = work();
-        const std::lock_guard lock(box->mutex);
-        if (!box->errand)
-            return;
-        box->result = std::move(result);
-        QMetaObject::invokeMethod(box->errand, tell, Qt::QueuedConnection);
+        {
+            const std::lock_guard lock(box->mutex);
+            box->result = std::move(result);
+        }
+        box->post(tell);
     }).detach();
     return errand;
+}
+
+/// Does work that may block for as long as a server likes, on a thread of its own that shares
+/// nothing with the main thread. @p done is called once on the main thread: with the result, or
+/// with nothing when the deadline comes first. Nobody can interrupt the thread; it is left to end
+/// by itself and its result is dropped.
+///
+/// The answer is the errand as an object that belongs to @p parent. Deleting it abandons the
+/// errand: @p done is not called any more.
+template <class Result>
+QObject *runErrand(QObject *parent, std::chrono::milliseconds deadline,
+                   std::function<Result()> work, std::function<void(std::optional<Result>)> done)
+{
+    return startErrand(std::make_shared<ErrandBox<Result>>(), parent, deadline, std::move(work),
+                       std::move(done));
+}
+
+/// The same for work that has something to tell before its end: @p heard is called with it on the
+/// main thread, in order, until @p done is.
+template <class Result, class News>
+QObject *runErrand(QObject *parent, std::chrono::milliseconds deadline,
+                   std::function<Result(const std::function<void(const News &)> &)> work,
+                   std::function<void(const News &)> heard,
+                   std::function<void(std::optional<Result>)> done)
+{
+    const auto box = std::make_shared<ErrandBox<Result>>();
+    const auto tell = [box, heard = std::move(heard)](const News &news) {
+        box->post([box, heard, news] {
+            if (!box->isTold)
+                heard(news);
+        });
+    };
+    return startErrand<Result>(
+        box, parent, deadline, [work = std::move(work), tell] { return work(tell); },
+        std::move(done));
 }
 
 } // namespace dialog

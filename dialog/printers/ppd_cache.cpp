@@ -201,7 +201,7 @@ private:
 
 } // namespace
 
-PpdCache::PpdCache() : folder_(ppdFolder()) {}
+PpdCache::PpdCache(const PpdCacheLimits &limits) : folder_(ppdFolder()), limits_(limits) {}
 
 QString PpdCache::fileName(const QString &server, const QString &queue)
 {
@@ -219,8 +219,10 @@ std::optional<PpdCache::Entry> PpdCache::find(const QString &server, const QStri
         return std::nullopt;
     const auto bytes = folder_->read(name, kLargestPpd);
     const auto modified = bytes ? sealOf(*bytes) : std::nullopt;
-    if (modified)
+    if (modified) {
+        folder_->touch(name);
         return Entry{folder_->pathOf(name), *modified};
+    }
     drop(server, queue);
     return std::nullopt;
 }
@@ -231,7 +233,26 @@ QString PpdCache::keep(const QString &server, const QString &queue, const QByteA
     const QString name = fileName(server, queue);
     if (!folder_ || folder_->replace(name, sealed(ppd, modified)))
         return {};
+    prune(name);
     return folder_->pathOf(name);
+}
+
+void PpdCache::prune(const QString &spared) const
+{
+    const std::vector<PrivateFolder::File> files = folder_->files();
+    auto count = static_cast<int>(files.size());
+    qint64 bytes = 0;
+    for (const auto &file : files)
+        bytes += file.bytes;
+    for (const auto &file : files) {
+        if (count <= limits_.files && bytes <= limits_.bytes)
+            return;
+        if (file.name == spared)
+            continue;
+        static_cast<void>(folder_->remove(file.name));
+        --count;
+        bytes -= file.bytes;
+    }
 }
 
 void PpdCache::drop(const QString &server, const QString &queue) const

@@ -13,8 +13,15 @@
 
 namespace dialog {
 
+struct PpdCacheLimits
+{
+    int files = 200;
+    qint64 bytes = 64 * 1024 * 1024;
+};
+
 /// The PPDs of queues in the user's cache: one file per server and queue, a PPD as it stands with a
-/// comment at its end that tells its time at the server and its checksum.
+/// comment at its end that tells its time at the server and its checksum. Bounded: what was used
+/// longest ago goes first.
 class PpdCache
 {
 public:
@@ -25,7 +32,7 @@ public:
     };
 
     /// A cache that cannot be had keeps nothing.
-    PpdCache();
+    explicit PpdCache(const PpdCacheLimits &limits = {});
 
     /// An entry that is damaged is removed and not answered.
     [[nodiscard]] std::optional<Entry> find(const QString &server, const QString &queue) const;
@@ -38,7 +45,10 @@ public:
     [[nodiscard]] static QString fileName(const QString &server, const QString &queue);
 
 private:
+    void prune(const QString &spared) const;
+
     std::optional<PrivateFolder> folder_;
+    PpdCacheLimits limits_;
 };
 
 /// What came of opening the printer behind a queue.

@@ -6,6 +6,7 @@
 #include <cups/cups.h>
 
 #include <QCollator>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -31,13 +32,18 @@ struct AnswerDeleter
 };
 using Answer = std::unique_ptr<ipp_t, AnswerDeleter>;
 
-Answer askForQueues(http_t *http)
+/// @p count of them from @p first on, or from the beginning where that is null.
+Answer askForQueues(http_t *http, int count, const QString &first)
 {
     ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
                  cupsUser());
     ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(kAttributes.size()), nullptr, kAttributes.data());
+    ippAddInteger(request, IPP_TAG_OPERATION, IPP_TAG_INTEGER, "limit", count);
+    if (!first.isNull())
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "first-printer-name", nullptr,
+                     first.toUtf8().constData());
     return Answer(cupsDoRequest(http, request, "/"));
 }
 
@@ -120,13 +126,71 @@ std::vector<Queue> queuesIn(ipp_t *answer)
     return queues;
 }
 
-/// The user's own default stands above the server's.
-void markDefault(http_t *http, std::vector<Queue> &queues)
+/// One listing, piece by piece.
+class Listing
 {
-    const QString name = platform::decodedUtf8(cupsGetDefault2(http));
-    for (Queue &queue : queues)
-        queue.isDefault = queue.name == name;
-}
+public:
+    Listing(const ServerConnection &connection, const ListingHeard &heard)
+        : connection_(connection), heard_(heard)
+    {
+    }
+
+    [[nodiscard]] QueueListing run()
+    {
+        // The user's own default stands above the server's.
+        const char *name = cupsGetDefault2(connection_.http());
+        listing_.defaultName = name ? platform::decodedUtf8(name) : QString();
+        if (connection_.problem().fault == ServerFault::Silent)
+            return {{}, connection_.problem()};
+        if (!listing_.defaultName.isNull())
+            tellSoFar();
+        if (const ServerProblem problem = take(kFirstQueues, {}))
+            return {{}, problem};
+        // A server that knows no limit has sent all of them.
+        if (listing_.queues.size() == kFirstQueues) {
+            tellSoFar();
+            if (const ServerProblem problem = take(kMostQueues, listing_.queues.back().name))
+                return {{}, problem};
+        }
+        listing_.isWhole = true;
+        return listing_;
+    }
+
+private:
+    void tellSoFar()
+    {
+        listing_.isWhole = false;
+        if (heard_)
+            heard_(listing_);
+    }
+
+    [[nodiscard]] ServerProblem take(int count, const QString &first)
+    {
+        const Answer answer = askForQueues(connection_.http(), count, first);
+        // A server without any queue says that none is found.
+        if (cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND)
+            return {};
+        if (!answer || cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE)
+            return connection_.problem();
+        for (Queue &queue : queuesIn(answer.get()))
+            take(std::move(queue));
+        return {};
+    }
+
+    void take(Queue queue)
+    {
+        if (names_.contains(queue.name) || names_.size() == kMostQueues)
+            return;
+        names_.insert(queue.name);
+        queue.isDefault = queue.name == listing_.defaultName;
+        listing_.queues.push_back(std::move(queue));
+    }
+
+    const ServerConnection &connection_;
+    const ListingHeard &heard_;
+    QueueListing listing_;
+    QSet<QString> names_;
+};
 
 bool isOffline(const QString &reason)
 {
@@ -151,20 +215,12 @@ QueueState queueStateOf(const QueueAttributes &attributes)
     return attributes.isProcessing ? QueueState::Printing : QueueState::Idle;
 }
 
-QueueListing listQueues(const ServerTimes &times)
+QueueListing listQueues(const ServerTimes &times, const ListingHeard &heard)
 {
     const ServerConnection connection(times);
     if (!connection.http())
         return {{}, connection.problem()};
-    const Answer answer = askForQueues(connection.http());
-    // A server without any queue says that none is found.
-    if (cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND)
-        return {};
-    if (!answer || cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE)
-        return {{}, connection.problem()};
-    QueueListing listing{queuesIn(answer.get())};
-    markDefault(connection.http(), listing.queues);
-    return listing;
+    return Listing(connection, heard).run();
 }
 
 std::vector<Queue> inOrderOfUse(std::vector<Queue> queues, const QString &lastUsed)
@@ -211,8 +267,10 @@ void QueueWatch::ask()
 {
     delete errand_;
     next_.stop();
-    errand_ = runErrand<QueueListing>(this, times_.deadline, source_,
-                                      [this](auto listing) { take(std::move(listing)); });
+    errand_ = runErrand<QueueListing, QueueListing>(
+        this, times_.deadline, source_,
+        [this](const QueueListing &soFar) { Q_EMIT answered(soFar); },
+        [this](auto listing) { take(std::move(listing)); });
 }
 
 void QueueWatch::take(std::optional<QueueListing> listing)

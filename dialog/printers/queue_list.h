@@ -34,10 +34,21 @@ struct QueueListing
 {
     std::vector<Queue> queues = {};
     ServerProblem problem = {};
+    QString defaultName = {}; ///< may name a queue that is not there; null without
+    bool isWhole = true;      ///< false: more queues follow
 };
 
-/// Asks the print server of the environment; blocks. Two requests.
-[[nodiscard]] QueueListing listQueues(const ServerTimes &times);
+/// Hears what is known before a listing is whole; each time everything so far.
+using ListingHeard = std::function<void(const QueueListing &)>;
+
+/// So many queues are asked for at first, so that a person sees some before all have come.
+inline constexpr int kFirstQueues = 100;
+/// More are not listed.
+inline constexpr int kMostQueues = 10'000;
+
+/// Asks the print server of the environment; blocks. Two requests: for the default, of which
+/// @p heard is told at once, and for the queues; with more than kFirstQueues three.
+[[nodiscard]] QueueListing listQueues(const ServerTimes &times, const ListingHeard &heard = {});
 
 /// What the server's attributes of a queue amount to.
 struct QueueAttributes
@@ -64,7 +75,7 @@ class QueueWatch : public QObject
     Q_OBJECT
 
 public:
-    using Source = std::function<QueueListing()>;
+    using Source = std::function<QueueListing(const ListingHeard &)>;
     struct Times
     {
         std::chrono::milliseconds deadline;
@@ -78,6 +89,7 @@ public:
     void ask();
 
 Q_SIGNALS:
+    /// Also with what is known before a listing is whole.
     void answered(const dialog::QueueListing &listing);
 
 private:

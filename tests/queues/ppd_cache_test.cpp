@@ -119,6 +119,29 @@ TEST_F(Cache, NamesLeadNowhereAndDifferForEveryServerAndQueue)
     EXPECT_TRUE(names.first().startsWith(q("ink-")));
 }
 
+TEST_F(Cache, GivesUpWhatWasUsedLongestAgoWhenItGetsTooLarge)
+{
+    const PpdCache few({3, 1'000'000});
+    const auto keepAs = [&](const char *queue) {
+        ASSERT_FALSE(few.keep(q("s"), q(queue), "*PPD-Adobe: \"4.3\"\n", 1).isNull());
+        QThread::msleep(20); // files' times have steps
+    };
+    for (const char *queue : {"a", "b", "c"})
+        keepAs(queue);
+    EXPECT_EQ(files().size(), 3);
+    ASSERT_TRUE(few.find(q("s"), q("a"))) << "used again";
+    QThread::msleep(20);
+    keepAs("d");
+    EXPECT_EQ(files().size(), 3);
+    EXPECT_TRUE(few.find(q("s"), q("a")));
+    EXPECT_FALSE(few.find(q("s"), q("b")));
+
+    const PpdCache small({100, 1});
+    ASSERT_FALSE(small.keep(q("s"), q("e"), QByteArray(1'000, '*'), 1).isNull());
+    EXPECT_EQ(files().size(), 1) << "one is kept, however large";
+    EXPECT_TRUE(small.find(q("s"), q("e")));
+}
+
 TEST_F(Cache, IsDoneWithoutWhereThereCanBeNone)
 {
     write(user.path("cache"), "a file where the folder would be");

@@ -8,10 +8,14 @@
 #include "tests/queues/user_folders.h"
 #include "tests/support/private_cupsd.h"
 
+#include <QAbstractItemView>
 #include <QEventLoop>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalSpy>
+#include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -316,6 +320,111 @@ TEST(QueueDialogFaults, AreToldWithARemedyAndTriedAgain)
     ASSERT_TRUE(run.untilNotice("No print server answers"));
 }
 
+TEST(QueueDialogFaults, EndByThemselvesWhenTheServerComesBack)
+{
+    const UserFolders user;
+    const auto isDown = std::make_shared<std::atomic<bool>>(true);
+    const auto tries = std::make_shared<std::atomic<int>>(0);
+    const QueueSources sources{
+        [isDown](const ListingHeard &) {
+            return *isDown ? QueueListing{{}, {ServerFault::Unreachable, q("gone")}}
+                           : QueueListing{{{q("ink")}}};
+        },
+        [isDown, tries](const QString &queue) {
+            ++*tries;
+            if (*isDown)
+                return QueuePrinter{
+                    QueuePrinter::Outcome::ServerFailed, {}, {ServerFault::Unreachable}};
+            return QueuePrinter{QueuePrinter::Outcome::NoPpd, PpdDocument::withoutOptions(queue)};
+        },
+        {std::chrono::seconds(10), std::chrono::milliseconds(1)},
+        std::chrono::seconds(10)};
+    const Visit run(sources, q("ink"));
+    ASSERT_TRUE(run.untilNotice("No print server answers"));
+    EXPECT_FALSE(run.button("printButton")->isEnabled());
+    EXPECT_EQ(*tries, 1) << "a server that is away is not asked for printers";
+    *isDown = false;
+    EXPECT_TRUE(run.untilReady("ink"));
+    EXPECT_EQ(*tries, 2);
+}
+
+TEST(QueueDialogFaults, OfAPrinterThatCannotBeHadAreNotTriedForEver)
+{
+    const UserFolders user;
+    const auto tries = std::make_shared<std::atomic<int>>(0);
+    const auto listings = std::make_shared<std::atomic<int>>(0);
+    const QueueSources sources{[listings](const ListingHeard &) {
+                                   ++*listings;
+                                   return QueueListing{{{q("ink")}}};
+                               },
+                               [tries](const QString &) {
+                                   ++*tries;
+                                   return QueuePrinter{QueuePrinter::Outcome::ServerFailed,
+                                                       {},
+                                                       {ServerFault::Refused, q("Forbidden")}};
+                               },
+                               {std::chrono::seconds(10), std::chrono::milliseconds(1)},
+                               std::chrono::seconds(10)};
+    const Visit run(sources, q("ink"));
+    ASSERT_TRUE(run.until([&] { return *tries == 4; })) << "at first, and three times by itself";
+    const int before = *listings;
+    ASSERT_TRUE(run.until([&] { return *listings > before + 5; }));
+    EXPECT_EQ(*tries, 4);
+    EXPECT_TRUE(run.untilNotice("Forbidden"));
+    run.button("tryAgainButton")->click();
+    EXPECT_TRUE(run.until([&] { return *tries > 4; }));
+}
+
+TEST(QueueDialogs500, ShowTheFirstQueuesBeforeTheLastHaveCome)
+{
+    const UserFolders user;
+    const auto isOpen = std::make_shared<std::atomic<bool>>(false);
+    const auto queues = [](int count) {
+        std::vector<Queue> made;
+        for (int i = 1; i <= count; ++i)
+            made.push_back({QStringLiteral("room%1").arg(i), QStringLiteral("Room %1").arg(i)});
+        return made;
+    };
+    const QueueSources sources{
+        [=](const ListingHeard &heard) {
+            QueueListing soFar{{}, {}, q("room300"), false};
+            heard(soFar);
+            soFar.queues = queues(kFirstQueues);
+            heard(soFar);
+            while (!*isOpen)
+                QThread::msleep(1);
+            return QueueListing{queues(500), {}, q("room300")};
+        },
+        [](const QString &queue) {
+            return QueuePrinter{QueuePrinter::Outcome::NoPpd, PpdDocument::withoutOptions(queue)};
+        },
+        {std::chrono::seconds(20), std::chrono::hours(1)},
+        std::chrono::seconds(20)};
+    const Visit run(sources);
+    ASSERT_TRUE(run.untilReady("room300")) << "the default needs no list";
+    ASSERT_TRUE(run.until([&] { return run.dialog().picker().offered().size() == 101; }));
+    *isOpen = true;
+    ASSERT_TRUE(run.until([&] { return run.dialog().picker().offered().size() == 500; }));
+
+    PopUpButton *popUp = run.popUp("printerPopUp");
+    popUp->showPopup();
+    ASSERT_TRUE(run.until([&] { return popUp->view()->isVisible(); }));
+    EXPECT_LE(popUp->view()->window()->height(), popUp->screen()->availableGeometry().height());
+    EXPECT_EQ(popUp->view()->currentIndex().row(), popUp->currentIndex());
+    QTest::keyClick(popUp->view(), Qt::Key_End);
+    EXPECT_EQ(popUp->view()->currentIndex().row(), 499);
+    QTest::keyClick(popUp->view(), Qt::Key_Escape);
+    ASSERT_TRUE(run.until([&] { return !popUp->view()->isVisible(); }));
+
+    auto *filter = run.window().findChild<QLineEdit *>(q("printerFilter"));
+    ASSERT_TRUE(filter && filter->isVisible());
+    filter->setFocus();
+    QTest::keyClicks(filter, q("room 49"));
+    EXPECT_EQ(run.dialog().picker().offered().size(), 16) << "15 with 49, and the chosen one";
+    QTest::keyClick(filter, Qt::Key_Return);
+    EXPECT_TRUE(run.untilReady("room49"));
+}
+
 TEST(QueueDialogFaults, LeaveTheWindowAliveWhileAServerIsSilent)
 {
     const UserFolders user;
@@ -338,7 +447,7 @@ TEST(QueueDialogFaults, TellQueuesThatCannotBeReachedAnyMore)
     const UserFolders user;
     const auto isDown = std::make_shared<std::atomic<bool>>(false);
     const QueueSources sources{
-        [isDown] {
+        [isDown](const ListingHeard &) {
             return *isDown ? QueueListing{{}, {ServerFault::Unreachable, q("gone")}}
                            : QueueListing{{{q("ink")}}};
         },

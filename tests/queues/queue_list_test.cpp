@@ -2,6 +2,7 @@
 #include "dialog/printers/queue_list.h"
 #include "dialog/window/printer_words.h"
 #include "platform/values.h"
+#include "tests/queues/counting_proxy.h"
 #include "tests/queues/silent_server.h"
 #include "tests/queues/user_folders.h"
 #include "tests/support/private_cupsd.h"
@@ -132,6 +133,40 @@ TEST(QueueListing, TellsStateReasonPlaceAndDefaultOfRealQueues)
     EXPECT_TEXT(queue("raw").location, "Keller");
 }
 
+TEST(QueueListing, OfManyQueuesComesInPiecesWithThreeRequests)
+{
+    const UserFolders user;
+    PrivateCupsd server;
+    constexpr int kQueues = 500;
+    QByteArray printers;
+    for (int i = 1; i <= kQueues; ++i)
+        printers += "<Printer room" + QByteArray::number(i) +
+                    ">\nDeviceURI keep:/x\nState Idle\nAccepting Yes\n</Printer>\n";
+    server.stop();
+    QFile file(server.folder() + q("/root/printers.conf"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(printers);
+    file.close();
+    server.restart();
+    server.run(q("lpadmin"), {q("-d"), q("room77")});
+
+    const CountingProxy proxy(server.address());
+    std::vector<QueueListing> soFar;
+    const QueueListing whole =
+        listQueues({}, [&](const QueueListing &listing) { soFar.push_back(listing); });
+    EXPECT_EQ(proxy.requests().size(), 3) << proxy.requests().join(u'\n').toStdString();
+    ASSERT_EQ(soFar.size(), 2U);
+    EXPECT_TEXT(soFar[0].defaultName, "room77");
+    EXPECT_TRUE(soFar[0].queues.empty());
+    EXPECT_EQ(soFar[1].queues.size(), std::size_t{kFirstQueues});
+    EXPECT_FALSE(soFar[1].isWhole);
+    EXPECT_TRUE(whole.isWhole);
+    ASSERT_EQ(whole.queues.size(), std::size_t{kQueues});
+    QStringList names = namesOf(whole.queues);
+    EXPECT_EQ(names.removeDuplicates(), 0);
+    EXPECT_TRUE(findQueue(whole.queues, q("room77"))->isDefault);
+}
+
 TEST(QueueListing, TellsASilentServerFromADeadOne)
 {
     SilentServer server;
@@ -147,8 +182,9 @@ TEST(QueueListing, TellsASilentServerFromADeadOne)
 TEST(QueueWatch, AsksAgainAndAgain)
 {
     const auto count = std::make_shared<std::atomic<int>>(0);
-    QueueWatch watch([count] { return QueueListing{{{QString::number(++*count)}}}; },
-                     {std::chrono::milliseconds(5'000), std::chrono::milliseconds(1)});
+    QueueWatch watch(
+        [count](const ListingHeard &) { return QueueListing{{{QString::number(++*count)}}}; },
+        {std::chrono::milliseconds(5'000), std::chrono::milliseconds(1)});
     QStringList seen;
     QEventLoop loop;
     QObject::connect(&watch, &QueueWatch::answered, [&](const QueueListing &listing) {
@@ -171,7 +207,7 @@ TEST(QueueWatch, GivesUpAServerThatNeverEndsAndDropsItsLateAnswer)
     };
     const auto gate = std::make_shared<Gate>();
     QueueWatch watch(
-        [gate] {
+        [gate](const ListingHeard &) {
             std::unique_lock lock(gate->mutex);
             gate->opened.wait(lock, [&] { return gate->isOpen; });
             return QueueListing{{{q("late")}}};
@@ -190,6 +226,27 @@ TEST(QueueWatch, GivesUpAServerThatNeverEndsAndDropsItsLateAnswer)
     }
     gate->opened.notify_all();
     EXPECT_FALSE(answers.wait(50)) << "what comes too late is dropped";
+}
+
+TEST(Errand, TellsNewsInOrderAndNoneAfterItsEnd)
+{
+    QObject owner;
+    QStringList heard;
+    QEventLoop loop;
+    runErrand<int, int>(
+        &owner, std::chrono::seconds(10),
+        [](const std::function<void(const int &)> &tell) {
+            tell(1);
+            tell(2);
+            return 3;
+        },
+        [&](const int &news) { heard.append(QString::number(news)); },
+        [&](std::optional<int> result) {
+            heard.append(QString::number(result.value_or(-1)));
+            loop.quit();
+        });
+    loop.exec();
+    EXPECT_EQ(heard, (QStringList{q("1"), q("2"), q("3")}));
 }
 
 TEST(Errand, OutlivesWhoeverSentIt)
