@@ -37,6 +37,12 @@ QStringList choiceTexts(const ppd_option_t *option)
     return texts;
 }
 
+QString choiceKeyword(ppd_option_t *option, const char *word)
+{
+    const ppd_choice_t *choice = option ? ppdFindChoice(option, word) : nullptr;
+    return choice ? platform::decodedUtf8(choice->choice) : QString();
+}
+
 DecodedChoice choiceAt(ppd_file_t *ppd, const char *option, int index, unsigned long encoding)
 {
     const std::span<const ppd_choice_t> all =

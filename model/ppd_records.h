@@ -20,6 +20,9 @@ namespace ppd {
 [[nodiscard]] QStringList choiceKeywords(const ppd_option_t *option);
 /// Texts of the option's choices, in the PPD's order.
 [[nodiscard]] QStringList choiceTexts(const ppd_option_t *option);
+/// Keyword of the choice that libcups finds for a word, whose case it ignores; null without option
+/// or choice.
+[[nodiscard]] QString choiceKeyword(ppd_option_t *option, const char *word);
 /// Keyword or text of the choice at an index of an option, decoded; null when PPD, option or index
 /// is not there.
 struct DecodedChoice

@@ -21,6 +21,14 @@ QString improvement(int row)
 
 constexpr int kLastImprovement = static_cast<int>(kImprovements.size()) - 1;
 
+QStringList improvements()
+{
+    QStringList choices;
+    for (int row = 0; row <= kLastImprovement; ++row)
+        choices.append(improvement(row));
+    return choices;
+}
+
 /// Null and unknown tickets read as the last row.
 int rowOfTicket(const QString &ticket)
 {
@@ -129,6 +137,22 @@ bool KorPDEController3::isFinishedInited() const
 {
     KV_TRACE("-[KorPDEController3 isFinishedInited]");
     return doneInitialized;
+}
+
+std::vector<PDEOptionControl> KorPDEController3::optionControls() const
+{
+    std::vector<PDEOptionControl> list;
+    for (const SettingRow &row : kSettings) {
+        const QWidget *control =
+            row.box ? static_cast<QWidget *>(box(row.setting)) : ibImprovePrintQuality.data();
+        if (!control || !option(row.setting))
+            continue;
+        QStringList choices;
+        for (const QString &word : row.box ? QStringList{kOff, kOn} : improvements())
+            choices.append(ppd::choiceKeyword(option(row.setting), qUtf8Printable(word)));
+        list.push_back({keyword(row.setting), control->objectName(), choices});
+    }
+    return list;
 }
 
 void KorPDEController3::initializeControls()

@@ -41,6 +41,8 @@ public:
     [[nodiscard]] bool isFinishedInited() const;
     /// For diagnostics, not traced: no view of this panel has a frame record.
     [[nodiscard]] QJsonObject frames() const { return {}; }
+    /// For diagnostics, not traced; see PDEPanelDiagnostics.
+    [[nodiscard]] std::vector<PDEOptionControl> optionControls() const;
 
     void initializeControls();
     void localizeLabels();

@@ -12,6 +12,11 @@ PDEPlugIn::~PDEPlugIn() = default;
 PDEPlugInModule::~PDEPlugInModule() = default;
 PDEPlugInDiagnostics::~PDEPlugInDiagnostics() = default;
 
+std::vector<PDEOptionControl> PDEPanelDiagnostics::optionControls()
+{
+    return {};
+}
+
 void setSummaryEntry(SummaryInfo &info, const QString &title, const QString &text)
 {
     if (title.isNull() || text.isNull())

@@ -44,7 +44,20 @@ using SummaryInfo = std::vector<std::pair<QString, QString>>;
 /// Adds an entry, or gives the entry of that title the new text. A null title or text adds nothing.
 PLATFORM_EXPORT void setSummaryEntry(SummaryInfo &info, const QString &title, const QString &text);
 
-/// What a panel tells about itself for replay, support and tests. Optional, read-only.
+/// A control of a panel that stands for an option of the PPD, and what a person chooses with it.
+struct PDEOptionControl
+{
+    QString option;  ///< keyword
+    QString control; ///< objectName of a widget in the panel's view
+    /// Keyword of the choice at each of the control's positions: the items of a pop-up, a box off
+    /// and on, the rows of a radio matrix, the values of a stepper from its minimum on, the texts
+    /// that a field takes. Null: that position chooses nothing.
+    QStringList choices = {};
+    QString opener = {}; ///< objectName of the button that must be on to show it; null: none
+};
+
+/// What a panel tells about itself for replay, printing without a person, support and tests.
+/// Optional, read-only.
 class PLATFORM_EXPORT PDEPanelDiagnostics
 {
 public:
@@ -56,6 +69,10 @@ public:
     [[nodiscard]] virtual QJsonObject model() = 0;
     /// Frame records of the panel's views: {"ibPDEView": [x, y, width, height], ...}.
     [[nodiscard]] virtual QJsonObject frames() = 0;
+    /// The controls of the options that the printer has, shown or not, as they are filled by now.
+    /// Where several stand for one option, the first that a person can use is the one to use. None
+    /// where the panel does not tell.
+    [[nodiscard]] virtual std::vector<PDEOptionControl> optionControls();
 };
 
 /// One panel. The dialog may keep it by shared ownership; it must be gone before the PPD is closed.

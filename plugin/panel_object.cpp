@@ -25,6 +25,16 @@ void store(const ExternalChange &change, PDEModel2 &model, const QString &choice
         PDETools2().getOptionsChoice(choice, (model.*slots.option)(), ChoiceString::Text));
 }
 
+/// The console lines that reading a ticket writes are kept back: to look at a panel is no event of
+/// it.
+template <class Look>
+auto quietly(const Look &look)
+{
+    platform::ConsoleSink former = platform::setConsoleSink([](const QString &) {});
+    const auto restore = qScopeGuard([&former] { platform::setConsoleSink(std::move(former)); });
+    return look();
+}
+
 } // namespace
 
 template <class Controller>
@@ -160,20 +170,22 @@ SummaryInfo PanelObject<Controller>::summaryInfo()
     return mPDEController->infoForSummaryPanel();
 }
 
-/// The console lines that reading a ticket writes are kept back: to look at a panel is no event of
-/// it.
 template <class Controller>
 QJsonObject PanelObject<Controller>::model()
 {
-    platform::ConsoleSink former = platform::setConsoleSink([](const QString &) {});
-    const auto restore = qScopeGuard([&former] { platform::setConsoleSink(std::move(former)); });
-    return describe(*mPDEController->pdeModel());
+    return quietly([this] { return describe(*mPDEController->pdeModel()); });
 }
 
 template <class Controller>
 QJsonObject PanelObject<Controller>::frames()
 {
     return mPDEController->frames();
+}
+
+template <class Controller>
+std::vector<PDEOptionControl> PanelObject<Controller>::optionControls()
+{
+    return quietly([this] { return mPDEController->optionControls(); });
 }
 
 template <class Controller>

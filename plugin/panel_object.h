@@ -72,6 +72,7 @@ public:
     [[nodiscard]] PDEPanelDiagnostics *diagnostics() override { return this; }
     [[nodiscard]] QJsonObject model() override;
     [[nodiscard]] QJsonObject frames() override;
+    [[nodiscard]] std::vector<PDEOptionControl> optionControls() override;
 
     /// Tells the dialog that the panel's view has a new size.
     void panelViewIsResized();

@@ -120,6 +120,8 @@ public:
     /// For diagnostics, not traced: {"ibPDEView": [x, y, width, height], ...} of the three views'
     /// frame records; zeros for a missing view.
     [[nodiscard]] QJsonObject frames() const;
+    /// For diagnostics, not traced; see PDEPanelDiagnostics.
+    [[nodiscard]] std::vector<PDEOptionControl> optionControls() const;
 
     /// The host's text for "Grayscale", with which labels of the PPD are compared.
     [[nodiscard]] static QString hostGrayscale();
@@ -206,6 +208,12 @@ private:
     void writeMirror(quality::MirrorChange change);
     void setMirror(quality::MirrorChange change);
     void undoIronOnMirror();
+
+    // Diagnostics.
+    [[nodiscard]] QStringList choicesAt(quality::Setting setting, const QWidget *control) const;
+    [[nodiscard]] QString choiceOfItem(quality::Setting setting, int index) const;
+    [[nodiscard]] QString choiceOfBox(quality::Setting setting, int state) const;
+    [[nodiscard]] ppd_option_t *boxOption(quality::Setting setting) const;
 
     // Presentation.
     void loadInterface();

@@ -91,10 +91,12 @@ const std::vector<ClassHeader> &classHeaders()
         {"MainPDE2", "plugin/main_pde2.h", {}},
         {"MainPDE3", "plugin/main_pde3.h", {}},
         {"PDETools2", "model/pde_tools.h", {}},
-        {"KorPDEController2", "quality/kor_pde_controller.h", {q("frames"), q("hostGrayscale")}},
+        {"KorPDEController2",
+         "quality/kor_pde_controller.h",
+         {q("frames"), q("optionControls"), q("hostGrayscale")}},
         {"ThresholdFormatter", "quality/threshold_formatter.h", {}},
         {"KorConflictController2", "conflict/kor_conflict_controller.h", {}},
-        {"KorPDEController3", "other/kor_pde_controller3.h", {q("frames")}},
+        {"KorPDEController3", "other/kor_pde_controller3.h", {q("frames"), q("optionControls")}},
     };
     return headers;
 }
@@ -143,7 +145,8 @@ TEST(Operations, TheClassesDeclareThemAndNothingElse)
                 names.insert(functionName(operation.selector));
         QStringList additions = header.additions;
         if (q(header.className).startsWith(q("MainPDE")))
-            additions += {q("PanelObject"), q("diagnostics"), q("model"), q("frames")};
+            additions +=
+                {q("PanelObject"), q("diagnostics"), q("model"), q("frames"), q("optionControls")};
         declared.removeIf(
             [&](const QString &name) { return isLifeCycle(name) || additions.contains(name); });
         EXPECT_EQ(difference(declared, names.values()), "") << header.className;
