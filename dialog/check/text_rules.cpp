@@ -1,5 +1,7 @@
 #include "dialog/check/text_rules.h"
 
+#include "dialog/printers/ppd_encoding.h"
+
 #include <QHash>
 #include <QStringDecoder>
 
@@ -12,34 +14,7 @@ namespace {
 
 using Severity = PDEFinding::Severity;
 
-/// Words of "*LanguageEncoding" that libcups knows, and their names elsewhere.
-struct Encoding
-{
-    const char *word;
-    const char *name;
-};
-
-// clang-format off
-constexpr Encoding kEncodings[] = {
-    {"ISOLatin1",   "ISO-8859-1"},
-    {"ISOLatin2",   "ISO-8859-2"},
-    {"ISOLatin5",   "ISO-8859-5"},
-    {"JIS83-RKSJ",  "Shift_JIS"},
-    {"MacStandard", "macintosh"},
-    {"WindowsANSI", "windows-1252"},
-    {"UTF-8",       "UTF-8"},
-};
-// clang-format on
-
 constexpr char kEncodingKeyword[] = "LanguageEncoding";
-
-const Encoding *encodingOf(const QByteArray &word)
-{
-    const auto found =
-        std::find_if(std::begin(kEncodings), std::end(kEncodings),
-                     [&](const Encoding &encoding) { return word == encoding.word; });
-    return found == std::end(kEncodings) ? nullptr : found;
-}
 
 /// A text in the encoding of its PPD.
 struct DecodedText
@@ -48,9 +23,9 @@ struct DecodedText
     bool isValid = true;
 };
 
-DecodedText decode(const QByteArray &bytes, const Encoding *encoding)
+DecodedText decode(const QByteArray &bytes, const char *encoding)
 {
-    QStringDecoder decoder(encoding ? encoding->name : "UTF-8", QStringDecoder::Flag::Stateless);
+    QStringDecoder decoder(encoding ? encoding : "UTF-8", QStringDecoder::Flag::Stateless);
     DecodedText decoded{.text = decoder.decode(bytes), .isValid = !decoder.hasError()};
     // The converter of some encodings puts "substitute" where it cannot read.
     decoded.isValid = decoded.isValid && !decoded.text.contains(QChar::ReplacementCharacter) &&
@@ -78,7 +53,7 @@ struct ShownText
     }
 };
 
-std::vector<ShownText> shownTexts(const PpdLines &lines, const Encoding *encoding)
+std::vector<ShownText> shownTexts(const PpdLines &lines, const char *encoding)
 {
     std::vector<ShownText> texts;
     std::set<QByteArray> opened;
@@ -105,7 +80,7 @@ void findEncoding(const PpdLines &lines, Findings &findings)
         findings.push_back({1,
                             {.what = QStringLiteral("no encoding of texts is named"),
                              .remedy = QStringLiteral("add *LanguageEncoding: UTF-8")}});
-    else if (!encodingOf(word))
+    else if (!encodingName(word))
         findings.push_back(
             {lines.lineOf(QString::fromLatin1(kEncodingKeyword)),
              {.severity = Severity::Error,
@@ -183,7 +158,7 @@ void findEqualTexts(const std::vector<ShownText> &texts, Findings &findings)
 Findings textFindings(const PpdLines &lines)
 {
     const std::vector<ShownText> texts =
-        shownTexts(lines, encodingOf(lines.valueOf(kEncodingKeyword)));
+        shownTexts(lines, encodingName(lines.valueOf(kEncodingKeyword)));
     Findings findings;
     findEncoding(lines, findings);
     findInvalidTexts(texts, findings);

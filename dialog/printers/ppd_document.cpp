@@ -1,11 +1,14 @@
 #include "dialog/printers/ppd_document.h"
 
+#include "dialog/printers/ppd_encoding.h"
 #include "platform/strings.h"
+#include "platform/values.h"
 
 #include <cups/ppd.h>
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStringDecoder>
 
 #include <algorithm>
 #include <cstring>
@@ -272,6 +275,38 @@ OptionGroups PpdDocument::groups() const
     for (const ppd_group_t &group : groupsOf(ppd_.get()))
         groups.push_back(groupFrom(ppd_.get(), group, defaults_));
     return groups;
+}
+
+/// libcups leaves the texts of attributes in the encoding of the file.
+std::vector<PpdAttribute> PpdDocument::attributes(const char *name) const
+{
+    const char *encoding = encodingName(attributeValues("LanguageEncoding").value(0).toUtf8());
+    QStringDecoder decoder(encoding ? encoding : "UTF-8", QStringDecoder::Flag::Stateless);
+    std::vector<PpdAttribute> lines;
+    for (const ppd_attr_t *line = ppdFindAttr(ppd_.get(), name, nullptr); line;
+         line = ppdFindNextAttr(ppd_.get(), name, nullptr))
+        lines.push_back(
+            {decodedUtf8(line->spec), decoder.decode(line->text), decodedUtf8(line->value)});
+    for (PpdAttribute &line : lines) {
+        const QString translated = translatedText(name, line.specifier.toUtf8().constData());
+        if (!translated.isEmpty())
+            line.text = translated;
+    }
+    return lines;
+}
+
+/// Of the language with its country, else of the language. Translations are UTF-8 in any file.
+QString PpdDocument::translatedText(const char *name, const char *specifier) const
+{
+    const QString language =
+        platform::firstPreferredLanguage().replace(u'-', u'_').section(u'.', 0, 0);
+    for (const QString &tried : {language, language.section(u'_', 0, 0)}) {
+        const QByteArray keyword = tried.toUtf8() + '.' + name;
+        const ppd_attr_t *line = ppdFindAttr(ppd_.get(), keyword.constData(), specifier);
+        if (line && *line->text)
+            return decodedUtf8(line->text);
+    }
+    return {};
 }
 
 QStringList PpdDocument::options() const

@@ -24,6 +24,14 @@ struct PpdError
     [[nodiscard]] QString message() const;
 };
 
+/// An attribute line of a PPD, "*Name Specifier/Text: Value". What it lacks is empty.
+struct PpdAttribute
+{
+    QString specifier;
+    QString text; ///< as a person reads it, in the user's language where the PPD has it so
+    QString value;
+};
+
 /// A printer's PPD, opened by libcups with its defaults marked: what can be chosen and what is.
 ///
 /// Look-ups are libcups' own, which ignore case; texts and keywords are decoded as UTF-8. Answers
@@ -47,6 +55,9 @@ public:
     [[nodiscard]] QString nickName() const;
     /// Values of every attribute line of that name, in the file's order.
     [[nodiscard]] QStringList attributeValues(const char *name) const;
+    /// The same lines whole. Translations ("*de.Name ...") are those that libcups has kept for the
+    /// language of the process.
+    [[nodiscard]] std::vector<PpdAttribute> attributes(const char *name) const;
 
     /// Every option in its group; subgroups count to the group that they stand in. Values that a
     /// person can type are not among the choices.
@@ -95,6 +106,7 @@ private:
 
     PpdDocument(const QString &path, Handle ppd);
     void markExactly(const Choices &marks);
+    [[nodiscard]] QString translatedText(const char *name, const char *specifier) const;
 
     QString path_;
     Handle ppd_;
