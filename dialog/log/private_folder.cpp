@@ -29,13 +29,18 @@ QByteArray encoded(const QString &name)
 Refusal refusal(const QString &path, const char *reason, const char *remedy)
 {
     return {path + QStringLiteral(": ") + QString::fromUtf8(reason) + QStringLiteral("; ") +
-            QString::fromUtf8(remedy)};
+                QString::fromUtf8(remedy),
+            path};
 }
 
 /// The reason is the system's.
 Refusal failure(const QString &path)
 {
-    return refusal(path, std::strerror(errno), "allow it or set TMPDIR to a folder of your own");
+    const int error = errno;
+    Refusal refused =
+        refusal(path, std::strerror(error), "allow it or set TMPDIR to a folder of your own");
+    refused.error = error;
+    return refused;
 }
 
 Refusal whyNotOpened(const QString &path)
@@ -232,6 +237,14 @@ std::vector<PrivateFolder::File> PrivateFolder::files() const
 void PrivateFolder::touch(const QString &name) const
 {
     ::utimensat(descriptor_.get(), encoded(name).constData(), nullptr, AT_SYMLINK_NOFOLLOW);
+}
+
+std::optional<Refusal> PrivateFolder::rename(const QString &name, const QString &to) const
+{
+    if (::renameat2(descriptor_.get(), encoded(name).constData(), descriptor_.get(),
+                    encoded(to).constData(), RENAME_NOREPLACE) == 0)
+        return std::nullopt;
+    return failure(pathOf(name));
 }
 
 std::optional<Refusal> PrivateFolder::remove(const QString &name) const

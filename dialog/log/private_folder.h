@@ -16,6 +16,8 @@ namespace dialog::debuglog {
 struct Refusal
 {
     QString message;
+    QString path = {};
+    int error = 0; ///< the system's errno; 0 where the file or folder is not to be trusted
 };
 
 /// A file descriptor that is closed with the object.
@@ -66,6 +68,9 @@ public:
     /// Puts a file of mode 0600 there in one step: at any time, the old or the new one is whole.
     [[nodiscard]] std::optional<Refusal> replace(const QString &name,
                                                  const QByteArray &bytes) const;
+    /// Gives whatever has the name another one, without following a link; what has that one already
+    /// stays.
+    [[nodiscard]] std::optional<Refusal> rename(const QString &name, const QString &to) const;
     [[nodiscard]] std::optional<Refusal> remove(const QString &name) const;
 
     struct File

@@ -19,7 +19,6 @@ namespace {
 
 const QString kFolder = QStringLiteral("ppd");
 constexpr qint64 kLargestPpd = 16 * 1024 * 1024;
-constexpr qsizetype kLongestReadablePart = 40;
 constexpr QByteArrayView kSeal("*% korvane-print ");
 
 QByteArray checksum(const QByteArray &bytes)
@@ -49,11 +48,6 @@ std::optional<std::time_t> sealOf(const QByteArray &file)
     if (space < 0 || seal.mid(space + 1) != checksum(covered) + '\n')
         return std::nullopt;
     return static_cast<std::time_t>(seal.left(space).toLongLong());
-}
-
-bool isReadable(QChar character)
-{
-    return character.unicode() < 0x80 && (character.isLetterOrNumber() || character == u'-');
 }
 
 std::optional<PrivateFolder> ppdFolder()
@@ -205,11 +199,7 @@ PpdCache::PpdCache(const PpdCacheLimits &limits) : folder_(ppdFolder()), limits_
 
 QString PpdCache::fileName(const QString &server, const QString &queue)
 {
-    QString readable = queue.left(kLongestReadablePart);
-    std::replace_if(
-        readable.begin(), readable.end(), [](QChar c) { return !isReadable(c); }, u'_');
-    const QByteArray both = server.toUtf8() + '\n' + queue.toUtf8();
-    return readable + u'-' + QString::fromLatin1(checksum(both).left(32)) + QStringLiteral(".ppd");
+    return fileNameFor(queue, server.toUtf8() + '\n' + queue.toUtf8()) + QStringLiteral(".ppd");
 }
 
 std::optional<PpdCache::Entry> PpdCache::find(const QString &server, const QString &queue) const

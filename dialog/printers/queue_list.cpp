@@ -1,11 +1,11 @@
 #include "dialog/printers/queue_list.h"
 
 #include "dialog/printers/errand.h"
+#include "dialog/printers/name_order.h"
 #include "platform/strings.h"
 
 #include <cups/cups.h>
 
-#include <QCollator>
 #include <QSet>
 
 #include <algorithm>
@@ -225,10 +225,7 @@ QueueListing listQueues(const ServerTimes &times, const ListingHeard &heard)
 
 std::vector<Queue> inOrderOfUse(std::vector<Queue> queues, const QString &lastUsed)
 {
-    // The C locale would know neither numbers nor case.
-    QCollator collator{QLocale(QLocale::English)};
-    collator.setNumericMode(true);
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    const QCollator collator = nameOrder();
     const auto rank = [&](const Queue &queue) {
         return std::tuple(queue.name != lastUsed, !queue.isDefault);
     };

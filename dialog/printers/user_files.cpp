@@ -1,7 +1,11 @@
 #include "dialog/printers/user_files.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
+
+#include <algorithm>
+#include <cerrno>
 
 namespace dialog {
 namespace {
@@ -9,6 +13,8 @@ namespace {
 const QString kProgram = QStringLiteral("korvane-print");
 const QString kLastQueue = QStringLiteral("last-queue");
 constexpr qint64 kLongestName = 1024;
+constexpr qsizetype kLongestReadablePart = 40;
+constexpr qsizetype kChecksumDigits = 32;
 
 /// A relative path in the variable counts as none.
 QString baseFolder(const char *variable, const char *inHome)
@@ -17,31 +23,60 @@ QString baseFolder(const char *variable, const char *inHome)
     return QDir::isAbsolutePath(given) ? given : QDir::homePath() + QLatin1String(inHome);
 }
 
-std::optional<PrivateFolder> programFolder(const QString &base)
+PrivateFolder::Opened programFolder(const QString &base)
 {
-    if (!QDir().mkpath(base))
-        return std::nullopt;
+    errno = 0;
+    if (!QDir().mkpath(base)) {
+        const int error = errno ? errno : ENOTDIR;
+        return debuglog::Refusal{base + QStringLiteral(": ") + qt_error_string(error), base, error};
+    }
     // The home folder itself may be a link.
     PrivateFolder::Opened opened = PrivateFolder::open(QFileInfo(base).canonicalFilePath());
+    const auto *folder = std::get_if<PrivateFolder>(&opened);
+    return folder ? folder->openOrMake(kProgram) : std::move(opened);
+}
+
+std::optional<PrivateFolder> ifOpened(PrivateFolder::Opened opened)
+{
     auto *folder = std::get_if<PrivateFolder>(&opened);
-    if (!folder)
-        return std::nullopt;
-    PrivateFolder::Opened own = folder->openOrMake(kProgram);
-    if (std::holds_alternative<debuglog::Refusal>(own))
-        return std::nullopt;
-    return std::move(std::get<PrivateFolder>(own));
+    return folder ? std::optional(std::move(*folder)) : std::nullopt;
+}
+
+bool isReadable(QChar character)
+{
+    return character.unicode() < 0x80 && (character.isLetterOrNumber() || character == u'-');
 }
 
 } // namespace
 
 std::optional<PrivateFolder> userCache()
 {
-    return programFolder(baseFolder("XDG_CACHE_HOME", "/.cache"));
+    return ifOpened(programFolder(baseFolder("XDG_CACHE_HOME", "/.cache")));
 }
 
 std::optional<PrivateFolder> userConfiguration()
 {
+    return ifOpened(openUserConfiguration());
+}
+
+PrivateFolder::Opened openUserConfiguration()
+{
     return programFolder(baseFolder("XDG_CONFIG_HOME", "/.config"));
+}
+
+PrivateFolder::Opened openUserState()
+{
+    return programFolder(baseFolder("XDG_STATE_HOME", "/.local/state"));
+}
+
+QString fileNameFor(const QString &readable, const QByteArray &identity)
+{
+    QString name = readable.left(kLongestReadablePart);
+    std::replace_if(
+        name.begin(), name.end(), [](QChar c) { return !isReadable(c); }, u'_');
+    const QByteArray checksum =
+        QCryptographicHash::hash(identity, QCryptographicHash::Sha256).toHex();
+    return name + u'-' + QString::fromLatin1(checksum.left(kChecksumDigits));
 }
 
 QString lastUsedQueue()

@@ -13,6 +13,14 @@ using debuglog::PrivateFolder;
 /// there is a convenience, and the dialog does without.
 [[nodiscard]] std::optional<PrivateFolder> userCache();
 [[nodiscard]] std::optional<PrivateFolder> userConfiguration();
+/// The same with the reason where there can be none, for what a person asked to keep. The second is
+/// for what comes and goes with use (XDG_STATE_HOME).
+[[nodiscard]] PrivateFolder::Opened openUserConfiguration();
+[[nodiscard]] PrivateFolder::Opened openUserState();
+
+/// A file's name that begins as @p readable does, letters, digits and hyphens of ASCII only, and is
+/// another one for any other @p identity.
+[[nodiscard]] QString fileNameFor(const QString &readable, const QByteArray &identity);
 
 /// The queue that this user printed to last; null when none is remembered.
 [[nodiscard]] QString lastUsedQueue();
