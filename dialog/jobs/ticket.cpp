@@ -38,40 +38,11 @@ QJsonValue documentJson(const Ticket &ticket)
 
 } // namespace
 
-QJsonValue textJson(const QString &text)
-{
-    return text.isNull() ? QJsonValue(QJsonValue::Null) : QJsonValue(text);
-}
-
-QJsonObject marksJson(const Choices &marks)
-{
-    QJsonObject object;
-    for (const Choice &mark : marks) {
-        const QJsonValue former = object.value(mark.option);
-        if (former.isUndefined()) {
-            object.insert(mark.option, mark.choice);
-            continue;
-        }
-        QJsonArray several = former.isArray() ? former.toArray() : QJsonArray{former};
-        several.append(mark.choice);
-        object.insert(mark.option, several);
-    }
-    return object;
-}
-
 QJsonObject optionsJson(const JobOptions &options)
 {
     QJsonObject object;
     for (const auto &[name, value] : options)
         object.insert(name, value);
-    return object;
-}
-
-QJsonObject settingsJson(const std::map<QString, QVariant> &settings)
-{
-    QJsonObject object;
-    for (const auto &[key, value] : settings)
-        object.insert(key, QJsonValue::fromVariant(value));
     return object;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/host/choice_ledger.h"
+#include "dialog/printers/choice_json.h"
 #include "dialog/printers/job_options.h"
 
 #include <QDateTime>
@@ -25,11 +26,6 @@ struct Ticket
 
 [[nodiscard]] QJsonObject toJson(const Ticket &ticket);
 
-/// Marks by option; a pick-many option with several marks has a list.
-[[nodiscard]] QJsonObject marksJson(const Choices &marks);
 [[nodiscard]] QJsonObject optionsJson(const JobOptions &options);
-[[nodiscard]] QJsonObject settingsJson(const std::map<QString, QVariant> &settings);
-/// JSON null for a null text.
-[[nodiscard]] QJsonValue textJson(const QString &text);
 
 } // namespace dialog

@@ -13,7 +13,7 @@
 
 namespace test {
 
-/// A user of the test's own: empty folders for caches, settings and the home.
+/// A user of the test's own: empty folders for caches, settings, state and the home.
 class UserFolders
 {
 public:
@@ -21,6 +21,7 @@ public:
     {
         point("XDG_CACHE_HOME", "cache");
         point("XDG_CONFIG_HOME", "config");
+        point("XDG_STATE_HOME", "state");
         point("HOME", "home");
     }
     ~UserFolders()
