@@ -25,9 +25,9 @@ constexpr const char *kOfOneDocument[] = {
 };
 // clang-format on
 
-std::map<QString, QStringList> byOption(const Choices &marks)
+OptionChoices byOption(const Choices &marks)
 {
-    std::map<QString, QStringList> choices;
+    OptionChoices choices;
     for (const Choice &mark : marks)
         choices[mark.option].append(mark.choice);
     return choices;
@@ -51,7 +51,7 @@ bool isKeptInPresets(const QString &settingKey)
 PresetContent contentOf(const ChoiceState &state, const PpdDocument &printer)
 {
     PresetContent content{byOption(state.marks), state.settings, state.paperName};
-    const std::map<QString, QStringList> defaults = byOption(printer.defaults());
+    const OptionChoices defaults = byOption(printer.defaults());
     std::erase_if(content.choices, [&](const auto &entry) {
         const auto found = defaults.find(entry.first);
         return found != defaults.end() && found->second == entry.second;

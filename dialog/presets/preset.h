@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/host/choice_state.h"
+#include "dialog/printers/job_options.h"
 
 #include <QString>
 #include <QStringList>
@@ -17,9 +18,9 @@ class PpdDocument;
 /// is as the printer has it anyway.
 struct PresetContent
 {
-    std::map<QString, QStringList> choices = {}; ///< by option; several of a pick-many option
-    std::map<QString, QVariant> settings = {};   ///< print settings
-    QString paperName = {};                      ///< null: the page size among the choices stands
+    OptionChoices choices = {};                ///< several of a pick-many option
+    std::map<QString, QVariant> settings = {}; ///< print settings
+    QString paperName = {};                    ///< null: the page size among the choices stands
 
     bool operator==(const PresetContent &) const = default;
     [[nodiscard]] bool isEmpty() const { return *this == PresetContent(); }

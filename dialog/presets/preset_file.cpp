@@ -27,7 +27,7 @@ const QString kSettings   = QStringLiteral("settings");
 const QString kPaper      = QStringLiteral("paper");
 // clang-format on
 
-QJsonObject choicesJson(const std::map<QString, QStringList> &choices)
+QJsonObject choicesJson(const OptionChoices &choices)
 {
     QJsonObject object;
     for (const auto &[option, several] : choices)
@@ -87,7 +87,7 @@ std::optional<QJsonObject> objectOrNone(const QJsonValue &value)
                : std::nullopt;
 }
 
-bool readChoices(const QJsonObject &object, std::map<QString, QStringList> &choices)
+bool readChoices(const QJsonObject &object, OptionChoices &choices)
 {
     for (auto entry = object.begin(); entry != object.end(); ++entry) {
         const auto texts = textsOf(entry.value());

@@ -9,8 +9,6 @@
 namespace dialog {
 namespace {
 
-using ChoicesByOption = std::map<QString, QStringList>;
-
 const QString kPageSize = QStringLiteral("PageSize");
 const QString kCustom = QStringLiteral("Custom");
 
@@ -34,10 +32,10 @@ QStringList defaultsOf(const QString &option, const PpdDocument &printer)
 }
 
 /// Of the choices those that the printer has; the others are added to @p missing.
-ChoicesByOption known(const ChoicesByOption &wanted, const PpdDocument &printer, Choices &missing)
+OptionChoices known(const OptionChoices &wanted, const PpdDocument &printer, Choices &missing)
 {
     const QStringList options = printer.options();
-    ChoicesByOption found;
+    OptionChoices found;
     for (const auto &[option, choices] : wanted) {
         const QString own = spelled(option, options);
         for (const QString &choice : choices) {
@@ -52,7 +50,7 @@ ChoicesByOption known(const ChoicesByOption &wanted, const PpdDocument &printer,
     return found;
 }
 
-Choices marksWith(const ChoicesByOption &wanted, const PpdDocument &printer)
+Choices marksWith(const OptionChoices &wanted, const PpdDocument &printer)
 {
     Choices marks;
     for (const QString &option : printer.options()) {
@@ -88,7 +86,7 @@ QString choiceTexts(const QString &option, const QStringList &choices, const Ppd
     return texts.isEmpty() ? QString() : texts.join(QStringLiteral(", "));
 }
 
-QStringList choicesOr(const ChoicesByOption &choices, const QString &option,
+QStringList choicesOr(const OptionChoices &choices, const QString &option,
                       const QStringList &otherwise)
 {
     const auto found = choices.find(option);
@@ -179,7 +177,7 @@ PresetPlan planPreset(const PresetContent &content, const PpdDocument &printer,
                       const ChoiceState &present)
 {
     PresetPlan plan;
-    const ChoicesByOption choices = known(content.choices, printer, plan.missing);
+    const OptionChoices choices = known(content.choices, printer, plan.missing);
     plan.state.marks = marksWith(choices, printer);
     plan.state.settings = settingsWith(content.settings, present.settings);
     for (const auto &[option, several] : choices)

@@ -17,7 +17,7 @@ QString nameOf(const PpdAttribute &line)
     return text.isEmpty() ? QString(line.specifier).replace(u'_', u' ') : text;
 }
 
-bool namesOptionOf(const PpdDocument &printer, const std::map<QString, QStringList> &choices)
+bool namesOptionOf(const PpdDocument &printer, const OptionChoices &choices)
 {
     return std::any_of(choices.begin(), choices.end(),
                        [&](const auto &entry) { return printer.hasOption(entry.first); });
@@ -31,11 +31,11 @@ bool hasPreset(const std::vector<Preset> &presets, const QString &name)
 
 } // namespace
 
-std::map<QString, QStringList> parsePrinterPreset(const QString &value)
+OptionChoices parsePrinterPreset(const QString &value)
 {
     static const QRegularExpression separators(QStringLiteral("[\\s;]+"));
     const QStringList words = value.split(separators, Qt::SkipEmptyParts);
-    std::map<QString, QStringList> choices;
+    OptionChoices choices;
     for (qsizetype i = 0; i + 1 < words.size(); ++i) {
         const bool isPair = !words[i + 1].startsWith(u'*');
         if (words[i].size() > 1 && words[i].startsWith(u'*') && isPair)
