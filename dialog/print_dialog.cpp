@@ -4,6 +4,7 @@
 #include "dialog/jobs/document.h"
 #include "dialog/panels/summary_panel.h"
 #include "dialog/printers/queue_job.h"
+#include "dialog/texts.h"
 #include "dialog/window/help_window.h"
 #include "dialog/window/print_window.h"
 #include "platform/controls/modal_session.h"
@@ -49,6 +50,7 @@ const QString kHelpKey = QStringLiteral("help");
 QString PrintDialog::prepare(const PrintCase &printCase)
 {
     setPlatformValues(printCase);
+    installTexts();
     return printCase.document.isNull() ? QString() : documentProblem(printCase.document);
 }
 

@@ -3,7 +3,6 @@
 #include "dialog/host/offer.h"
 #include "dialog/jobs/document.h"
 #include "dialog/printers/errand.h"
-#include "dialog/texts.h"
 #include "dialog/window/print_window.h"
 #include "dialog/window/printer_picker.h"
 #include "dialog/window/printer_words.h"
@@ -40,7 +39,7 @@ QueueDialog::QueueDialog(const PrintCase &printCase, QueueSources sources)
     connect(window_.get(), &PrintWindow::left, this, &QueueDialog::leave);
     isRemembered_ = case_.queue.isNull();
     const QString wanted = isRemembered_ ? lastUsedQueue() : case_.queue;
-    window_->setWaiting(text(Text::Connecting, {serverName()}));
+    window_->setWaiting(tr("Connecting to %1…").arg(serverName()));
     window_->show();
     watch_.ask();
     if (!wanted.isNull())
@@ -63,7 +62,10 @@ void QueueDialog::takeListing(const QueueListing &listing)
     picker_->setQueues(queues_);
     if (queues_.empty()) {
         window_->setWaiting(dialog_ ? QString() : QLatin1String(""));
-        tell(kServerKey, text(Text::NoQueues, {serverName()}), {tryAgainAction()});
+        tell(kServerKey,
+             tr("The print server at %1 has no printers. Add one there, then try again.")
+                 .arg(serverName()),
+             {tryAgainAction()});
         return;
     }
     retract(kServerKey);
@@ -94,7 +96,8 @@ void QueueDialog::followQueue()
 {
     const bool isThere = findQueue(queues_, queue_) != nullptr;
     if (dialog_ && !isThere)
-        tell(kPrinterKey, text(Text::QueueGone, {queue_}), {});
+        tell(kPrinterKey,
+             tr("There is no printer %1 at the print server. Choose another one.").arg(queue_), {});
     else if (dialog_)
         retract(kPrinterKey);
     else if (isThere && !connecting_ && automaticTries_ > 0)
@@ -127,7 +130,8 @@ void QueueDialog::chooseQueue()
 void QueueDialog::missQueue()
 {
     if (!isRemembered_) {
-        failPrinter(text(Text::QueueGone, {queue_}));
+        failPrinter(
+            tr("There is no printer %1 at the print server. Choose another one.").arg(queue_));
         return;
     }
     queue_ = QString();
@@ -142,7 +146,7 @@ void QueueDialog::tryAgain()
     if (!queue_.isNull() && !dialog_)
         connectTo(queue_);
     else if (!dialog_)
-        window_->setWaiting(text(Text::Connecting, {serverName()}));
+        window_->setWaiting(tr("Connecting to %1…").arg(serverName()));
 }
 
 /// Comes from the event loop, so that no panel's call is under way but one that runs a modal
@@ -169,7 +173,7 @@ void QueueDialog::connectTo(const QString &queue, int automaticTries)
     window_->clearPanels();
     queue_ = queue;
     picker_->select(queue);
-    window_->setWaiting(text(Text::Connecting, {queue}));
+    window_->setWaiting(tr("Connecting to %1…").arg(queue));
     connecting_ = runErrand<QueuePrinter>(
         this, sources_.printerDeadline, [open = sources_.printer, queue] { return open(queue); },
         [this](auto answer) { takePrinter(std::move(answer)); });
@@ -191,7 +195,9 @@ void QueueDialog::takePrinter(std::optional<QueuePrinter> answer)
         break;
     case QueuePrinter::Outcome::BrokenPpd:
         automaticTries_ = 0; // whether somebody has repaired it, only a person knows
-        failPrinter(text(Text::QueuePpdBroken, {queue_, answer->reason}));
+        failPrinter(tr("The printer %1 cannot be used, because its PPD is damaged: %2. Have the "
+                       "printer set up again or choose another one.")
+                        .arg(queue_, answer->reason));
         break;
     case QueuePrinter::Outcome::ServerFailed:
         failPrinter(problemText(answer->problem));
@@ -214,7 +220,7 @@ void QueueDialog::show(std::unique_ptr<PpdDocument> printer)
     window_->setWaiting({});
     dialog_->showPanelsIn(*window_);
     if (!leftBehind.isEmpty()) {
-        leftBehind.prepend(text(Text::ChoicesLeftBehind));
+        leftBehind.prepend(tr("This printer does not have what you chose for the one before:"));
         window_->notices().show({kLeftBehindKey, Severity::Warning, leftBehind.join(u'\n'), {}});
     }
     Q_EMIT ready(queue_);
@@ -242,7 +248,7 @@ QStringList QueueDialog::carryChoices()
         if (judgeOffer(dialog_->printer(), choice).verdict == OfferVerdict::Accepted)
             dialog_->host().changeFromElsewhere(choice);
         else
-            leftBehind.append(text(Text::ChoiceLeftBehind, {words.optionText, words.choiceText}));
+            leftBehind.append(tr("%1: %2").arg(words.optionText, words.choiceText));
     }
     return leftBehind;
 }
@@ -277,7 +283,7 @@ void QueueDialog::failPrinter(const QString &words)
 
 NoticeAction QueueDialog::tryAgainAction()
 {
-    return {text(Text::TryAgain), QStringLiteral("tryAgainButton"), [this] { tryAgain(); }};
+    return {tr("Try Again"), QStringLiteral("tryAgainButton"), [this] { tryAgain(); }};
 }
 
 } // namespace dialog

@@ -7,6 +7,7 @@
 #include "dialog/window/printer_words.h"
 #include "platform/values.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -16,6 +17,11 @@
 
 namespace dialog {
 namespace {
+
+class QueueListCommand
+{
+    Q_DECLARE_TR_FUNCTIONS(QueueListCommand)
+};
 
 constexpr int kNoServer = 1;
 
@@ -52,7 +58,9 @@ QString lineOf(const Queue &queue, qsizetype nameWidth)
     QString line = queue.name.leftJustified(nameWidth) + QStringLiteral("  ") + stateText(queue);
     if (!words.isEmpty())
         line += QStringLiteral("  ") + words.join(QStringLiteral(", "));
-    return queue.isDefault ? text(Text::QueueNamed, {line, text(Text::DefaultQueue)}) : line;
+    return queue.isDefault
+               ? QueueListCommand::tr("%1 (%2)").arg(line, QueueListCommand::tr("default"))
+               : line;
 }
 
 int sayAsLines(const std::vector<Queue> &queues)
@@ -69,6 +77,10 @@ int sayAsLines(const std::vector<Queue> &queues)
 
 int runQueueListCommand(const QStringList &words)
 {
+    QByteArray name("korvane-print");
+    char *arguments[] = {name.data(), nullptr};
+    int count = 1;
+    const QCoreApplication application(count, arguments); // translations belong to one
     QCommandLineParser parser;
     parser.addOptions({flagOption("json", "Write the queues as JSON."),
                        valueOption("language", "Language of the states, such as de.", "L"),
@@ -83,6 +95,7 @@ int runQueueListCommand(const QStringList &words)
     }
     if (parser.isSet(QStringLiteral("language")))
         platform::setPreferredLanguages({given(parser, "language")});
+    installTexts();
     const QueueListing listing = listQueues({});
     if (listing.problem) {
         complain(problemText(listing.problem));

@@ -1,15 +1,20 @@
 #include "dialog/plugins/plugin_loader.h"
 
 #include "dialog/plugins/whole_library.h"
-#include "dialog/texts.h"
 #include "platform/values.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonObject>
 #include <QPluginLoader>
 
 namespace dialog {
 namespace {
+
+class PlugInTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(PlugInTexts)
+};
 
 const QString kLibraryFolder = QStringLiteral("/Contents/Linux/");
 const QString kUsualLibrary = QStringLiteral("libkorvane-panels.so");
@@ -18,8 +23,12 @@ const QString kInformation = QStringLiteral("/Contents/Info.plist");
 PlugInFailure failure(const PathRefusal &refusal)
 {
     if (refusal.reason == PathRefusal::Reason::Missing)
-        return {text(Text::PlugInAbsent, {refusal.path})};
-    return {text(Text::PlugInRefused, {refusal.path, refusal.reasonText()})};
+        return {PlugInTexts::tr("The printer's panels are not installed: there is no %1. Install "
+                                "the maker's driver.")
+                    .arg(refusal.path)};
+    return {PlugInTexts::tr("The printer's panels were not loaded: %1 (%2). Install the maker's "
+                            "driver again as an administrator.")
+                .arg(refusal.path, refusal.reasonText())};
 }
 
 /// A plain file name; anything that leads elsewhere counts as not named.
@@ -45,16 +54,25 @@ std::optional<PathRefusal> checkBundle(const QString &literalPath, TrustedOwner 
 std::variant<QObject *, PlugInFailure> loadRoot(const QString &libraryPath)
 {
     if (!isWholeLibrary(libraryPath))
-        return PlugInFailure{text(Text::PlugInDamaged, {libraryPath, text(Text::LibraryCutOff)})};
+        return PlugInFailure{PlugInTexts::tr("The printer's panels could not be loaded: %1 is "
+                                             "damaged (%2). Install the maker's driver again.")
+                                 .arg(libraryPath, PlugInTexts::tr("it is cut off"))};
     QPluginLoader loader(libraryPath);
     loader.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
     const QString interfaceId = loader.metaData().value(QLatin1String("IID")).toString();
     if (interfaceId.isEmpty())
-        return PlugInFailure{text(Text::PlugInDamaged, {libraryPath, loader.errorString()})};
+        return PlugInFailure{PlugInTexts::tr("The printer's panels could not be loaded: %1 is "
+                                             "damaged (%2). Install the maker's driver again.")
+                                 .arg(libraryPath, loader.errorString())};
     if (interfaceId != QLatin1String(PDEPlugInModule_iid))
-        return PlugInFailure{text(Text::PlugInForeign, {libraryPath})};
+        return PlugInFailure{
+            PlugInTexts::tr("The printer's panels do not fit this dialog: %1 was made for another "
+                            "version. Install the maker's current driver.")
+                .arg(libraryPath)};
     if (!qobject_cast<PDEPlugInModule *>(loader.instance()))
-        return PlugInFailure{text(Text::PlugInDamaged, {libraryPath, loader.errorString()})};
+        return PlugInFailure{PlugInTexts::tr("The printer's panels could not be loaded: %1 is "
+                                             "damaged (%2). Install the maker's driver again.")
+                                 .arg(libraryPath, loader.errorString())};
     return loader.instance();
 }
 
@@ -75,7 +93,8 @@ std::variant<PlugIn, PlugInFailure> loadPlugIn(const QString &literalBundlePath,
     plugIn.principal = qobject_cast<PDEPlugInModule *>(root)->createPlugIn();
     plugIn.diagnostics = qobject_cast<PDEPlugInDiagnostics *>(root);
     if (!plugIn.principal || !plugIn.principal->initWithBundle(plugIn.bundle.get()))
-        return PlugInFailure{text(Text::NoPanelsForPrinter)};
+        return PlugInFailure{
+            PlugInTexts::tr("The maker's driver offers no panels for this printer.")};
     return plugIn;
 }
 

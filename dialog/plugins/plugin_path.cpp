@@ -1,6 +1,5 @@
 #include "dialog/plugins/plugin_path.h"
 
-#include "dialog/texts.h"
 #include "platform/values.h"
 
 #include <QFile>
@@ -58,21 +57,21 @@ QString PathRefusal::reasonText() const
 {
     switch (reason) {
     case Reason::Outside:
-        return text(Text::RefusedOutside);
+        return tr("it lies outside /Library/Printers");
     case Reason::DotDot:
-        return text(Text::RefusedDotDot);
+        return tr("the path goes through “..”");
     case Reason::Missing:
-        return text(Text::RefusedMissing);
+        return tr("it is not there");
     case Reason::Link:
-        return text(Text::RefusedLink);
+        return tr("it is a link");
     case Reason::Owner:
-        return text(Text::RefusedOwner);
+        return tr("it belongs to somebody else");
     case Reason::WritableByOthers:
-        return text(Text::RefusedWritable);
+        return tr("others may write it");
     case Reason::NotRegular:
         break;
     }
-    return text(Text::RefusedKind);
+    return tr("it is no ordinary file or folder");
 }
 
 std::optional<PathRefusal> checkDriverPath(const QString &literalPath, PathKind kind,

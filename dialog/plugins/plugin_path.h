@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <optional>
@@ -18,6 +19,8 @@ struct PathRefusal
     QString path; ///< the part of the path that is to blame
 
     [[nodiscard]] QString reasonText() const;
+
+    Q_DECLARE_TR_FUNCTIONS(PathRefusal)
 };
 
 /// Folder below which plug-ins may lie, as a literal driver path.

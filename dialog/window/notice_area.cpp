@@ -1,7 +1,5 @@
 #include "dialog/window/notice_area.h"
 
-#include "dialog/texts.h"
-
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -54,8 +52,8 @@ QToolButton *dismissButton(QWidget *parent)
     button->setObjectName(QStringLiteral("dismissNotice"));
     button->setAutoRaise(true);
     button->setIcon(parent->style()->standardIcon(QStyle::SP_DialogCloseButton));
-    button->setToolTip(text(Text::Dismiss));
-    button->setAccessibleName(text(Text::Dismiss));
+    button->setToolTip(NoticeArea::tr("Dismiss this notice"));
+    button->setAccessibleName(NoticeArea::tr("Dismiss this notice"));
     button->setFocusPolicy(Qt::TabFocus);
     return button;
 }

@@ -1,6 +1,5 @@
 #include "dialog/window/printer_picker.h"
 
-#include "dialog/texts.h"
 #include "dialog/window/printer_words.h"
 #include "platform/controls/pop_up_button.h"
 
@@ -13,27 +12,17 @@
 #include <algorithm>
 
 namespace dialog {
-namespace {
-
-QString accessibleText(Text id)
-{
-    QString words = text(id);
-    return words.endsWith(u':') ? words.chopped(1) : words;
-}
-
-} // namespace
-
 PrinterPicker::PrinterPicker(QWidget *parent)
     : QWidget(parent), filter_(new QLineEdit(this)), popUp_(new PopUpButton(this)),
       state_(new QLabel(this))
 {
     filter_->setObjectName(QStringLiteral("printerFilter"));
-    filter_->setPlaceholderText(text(Text::FindPrinter));
-    filter_->setAccessibleName(text(Text::FindPrinter));
+    filter_->setPlaceholderText(tr("Find a printer"));
+    filter_->setAccessibleName(tr("Find a printer"));
     filter_->setClearButtonEnabled(true);
     filter_->hide();
     popUp_->setObjectName(QStringLiteral("printerPopUp"));
-    popUp_->setAccessibleName(accessibleText(Text::Printer));
+    popUp_->setAccessibleName(tr("Printer"));
     state_->setObjectName(QStringLiteral("printerState"));
     state_->setTextFormat(Qt::PlainText);
     state_->setWordWrap(true);

@@ -1,6 +1,6 @@
 #include "dialog/window/printer_words.h"
 
-#include "dialog/texts.h"
+#include <QCoreApplication>
 
 #include <array>
 #include <cstddef>
@@ -8,21 +8,38 @@
 namespace dialog {
 namespace {
 
+class PrinterWords
+{
+    Q_DECLARE_TR_FUNCTIONS(PrinterWords)
+};
+
 struct StateWords
 {
     QueueState state;
-    Text plain;
-    Text withReason;
+    const char *plain;
+    const char *withReason;
 };
 
 // clang-format off
 constexpr std::array kStates{
-    StateWords{QueueState::Unreachable, Text::StateUnreachable, Text::StateUnreachable},
-    StateWords{QueueState::Paused,      Text::StatePaused,      Text::StatePausedBecause},
-    StateWords{QueueState::Rejecting,   Text::StateRejecting,   Text::StateRejecting},
-    StateWords{QueueState::Offline,     Text::StateOffline,     Text::StateOfflineBecause},
-    StateWords{QueueState::Printing,    Text::StatePrinting,    Text::StatePrinting},
-    StateWords{QueueState::Idle,        Text::StateIdle,        Text::StateIdle},
+    StateWords{QueueState::Unreachable,
+               QT_TRANSLATE_NOOP("PrinterWords", "Not reachable"),
+               QT_TRANSLATE_NOOP("PrinterWords", "Not reachable")},
+    StateWords{QueueState::Paused,
+               QT_TRANSLATE_NOOP("PrinterWords", "Paused"),
+               QT_TRANSLATE_NOOP("PrinterWords", "Paused: %1")},
+    StateWords{QueueState::Rejecting,
+               QT_TRANSLATE_NOOP("PrinterWords", "Takes no jobs"),
+               QT_TRANSLATE_NOOP("PrinterWords", "Takes no jobs")},
+    StateWords{QueueState::Offline,
+               QT_TRANSLATE_NOOP("PrinterWords", "Offline"),
+               QT_TRANSLATE_NOOP("PrinterWords", "Offline: %1")},
+    StateWords{QueueState::Printing,
+               QT_TRANSLATE_NOOP("PrinterWords", "Printing"),
+               QT_TRANSLATE_NOOP("PrinterWords", "Printing")},
+    StateWords{QueueState::Idle,
+               QT_TRANSLATE_NOOP("PrinterWords", "Idle"),
+               QT_TRANSLATE_NOOP("PrinterWords", "Idle")},
 };
 // clang-format on
 
@@ -41,16 +58,18 @@ static_assert(isInOrder(), "one line per state, in the order of the enumeration"
 QString stateText(const Queue &queue)
 {
     const StateWords &words = kStates[static_cast<std::size_t>(queue.state)];
-    return queue.reason.isNull() ? text(words.plain) : text(words.withReason, {queue.reason});
+    return queue.reason.isNull() ? PrinterWords::tr(words.plain)
+                                 : PrinterWords::tr(words.withReason).arg(queue.reason);
 }
 
 QString queueText(const Queue &queue)
 {
     const bool isCalledOtherwise = !queue.info.isNull() && queue.info != queue.name;
     const QString name =
-        isCalledOtherwise ? text(Text::QueueNamed, {queue.info, queue.name}) : queue.name;
-    return queue.state == QueueState::Idle ? name
-                                           : text(Text::QueueWithState, {name, stateText(queue)});
+        isCalledOtherwise ? PrinterWords::tr("%1 (%2)").arg(queue.info, queue.name) : queue.name;
+    return queue.state == QueueState::Idle
+               ? name
+               : PrinterWords::tr("%1 – %2").arg(name, stateText(queue));
 }
 
 QString problemText(const ServerProblem &problem)
@@ -59,13 +78,19 @@ QString problemText(const ServerProblem &problem)
     case ServerFault::None:
         return {};
     case ServerFault::Unreachable:
-        return text(Text::ServerUnreachable, {serverName(), problem.reason});
+        return PrinterWords::tr("No print server answers at %1 (%2). Start the server or check the "
+                                "network, then try again.")
+            .arg(serverName(), problem.reason);
     case ServerFault::Silent:
-        return text(Text::ServerSilent, {serverName()});
+        return PrinterWords::tr("The print server at %1 does not answer. Wait a moment or have it "
+                                "restarted, then try again.")
+            .arg(serverName());
     case ServerFault::Refused:
         break;
     }
-    return text(Text::ServerRefused, {serverName(), problem.reason});
+    return PrinterWords::tr("The print server at %1 refused to answer: %2. Ask its administrator "
+                            "for access, then try again.")
+        .arg(serverName(), problem.reason);
 }
 
 } // namespace dialog

@@ -127,23 +127,18 @@ TEST_F(Window, PrintsByReturnButNotTwiceWhileSending)
     EXPECT_EQ(printed.count(), 2);
 }
 
-TEST(Texts, ComeInThreeLanguagesAndEnglishForTheRest)
+TEST(Texts, ComeInTheFirstPreferredLanguageAndEnglishForOneThatTheyLack)
 {
-    EXPECT_TEXT(text(Text::Cancel), "Cancel");
-    platform::setPreferredLanguages({q("de_AT")});
-    EXPECT_TEXT(text(Text::Cancel), "Abbrechen");
-    platform::setPreferredLanguages({q("ja")});
-    EXPECT_TEXT(text(Text::Cancel), "キャンセル");
-    platform::setPreferredLanguages({q("sv")});
-    EXPECT_TEXT(text(Text::Cancel), "Cancel");
-    platform::setPreferredLanguages({});
-    EXPECT_TEXT(text(Text::Cancel), "Cancel");
-}
-
-TEST(Texts, TakeArgumentsLiterally)
-{
-    EXPECT_TEXT(text(Text::OfferRefused, {q("%2"), q("100% %1")}),
-                "“%2: 100% %1” cannot be chosen now.");
+    const auto cancelIn = [](const QStringList &languages) {
+        platform::setPreferredLanguages(languages);
+        installTexts();
+        return PrintWindow::tr("Cancel");
+    };
+    EXPECT_TEXT(cancelIn({q("en")}), "Cancel");
+    EXPECT_TEXT(cancelIn({q("de_AT"), q("ja")}), "Abbrechen");
+    EXPECT_TEXT(cancelIn({q("ja")}), "キャンセル");
+    EXPECT_TEXT(cancelIn({q("sv")}), "Cancel");
+    EXPECT_TEXT(cancelIn({}), "Cancel");
 }
 
 TEST(HelpPage, ComesInThePreferredLanguageElseInTheBooksOwn)

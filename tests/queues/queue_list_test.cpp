@@ -1,5 +1,6 @@
 #include "dialog/printers/errand.h"
 #include "dialog/printers/queue_list.h"
+#include "dialog/texts.h"
 #include "dialog/window/printer_words.h"
 #include "platform/values.h"
 #include "tests/queues/counting_proxy.h"
@@ -16,6 +17,12 @@ using namespace dialog;
 using namespace test;
 
 namespace {
+
+void speak(const char *language)
+{
+    platform::setPreferredLanguages({q(language)});
+    installTexts();
+}
 
 constexpr ServerTimes kShort{std::chrono::milliseconds(500), std::chrono::milliseconds(200),
                              std::chrono::milliseconds(2'000), std::chrono::milliseconds(2'000)};
@@ -71,11 +78,11 @@ TEST(QueueStates, AreToldInThreeLanguages)
         {queueIn(QueueState::Unreachable), "Not reachable", "Nicht erreichbar", "接続できません"},
     };
     for (const Row &row : rows) {
-        platform::setPreferredLanguages({q("en")});
+        speak("en");
         EXPECT_TEXT(stateText(row.queue), row.english);
-        platform::setPreferredLanguages({q("de")});
+        speak("de");
         EXPECT_TEXT(stateText(row.queue), row.german);
-        platform::setPreferredLanguages({q("ja")});
+        speak("ja");
         EXPECT_TEXT(stateText(row.queue), row.japanese);
     }
 }

@@ -1,0 +1,479 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>ChoiceWords</name>
+    <message>
+        <source>“%1: %2” and “%3: %4” do not go together.</source>
+        <translation>„%1: %2“ und „%3: %4“ passen nicht zusammen.</translation>
+    </message>
+    <message>
+        <source>%1: you chose “%2”, the job has “%3”.</source>
+        <translation>%1: Sie haben „%2“ gewählt, der Auftrag hat „%3“.</translation>
+    </message>
+    <message>
+        <source>“%1: %2” cannot be used together with “%3: %4”.</source>
+        <translation>„%1: %2“ ist nicht zusammen mit „%3: %4“ möglich.</translation>
+    </message>
+    <message>
+        <source>“%1: %2” cannot be chosen now.</source>
+        <translation>„%1: %2“ kann jetzt nicht gewählt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentTexts</name>
+    <message>
+        <source>There is no document %1. Nothing was sent; choose another document.</source>
+        <translation>Das Dokument %1 gibt es nicht. Es wurde nichts gesendet; wählen Sie ein anderes Dokument.</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read. Nothing was sent; choose another document or allow reading it.</source>
+        <translation>Das Dokument %1 ist nicht lesbar. Es wurde nichts gesendet; wählen Sie ein anderes Dokument oder erlauben Sie das Lesen.</translation>
+    </message>
+</context>
+<context>
+    <name>JobMessages</name>
+    <message>
+        <source>There is no print server to send the job to (%1). Nothing was sent, and your settings are kept: start the print server or correct CUPS_SERVER, and print again.</source>
+        <translation>Es gibt keinen Druckserver für den Auftrag (%1). Es wurde nichts gesendet, Ihre Einstellungen bleiben erhalten: Starten Sie den Druckserver oder berichtigen Sie CUPS_SERVER, und drucken Sie erneut.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Your settings are kept. Print again when it does: what may have arrived by then is found, and not sent a second time.</source>
+        <translation>Der Druckserver antwortet nicht. Ihre Einstellungen bleiben erhalten. Drucken Sie erneut, sobald er antwortet: Was bis dahin angekommen ist, wird gefunden und nicht noch einmal gesendet.</translation>
+    </message>
+    <message>
+        <source>The connection to the print server broke (%1). Your settings are kept. Print again: what may have arrived is found, and not sent a second time.</source>
+        <translation>Die Verbindung zum Druckserver ist abgebrochen (%1). Ihre Einstellungen bleiben erhalten. Drucken Sie erneut: Was angekommen ist, wird gefunden und nicht noch einmal gesendet.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you print to the queue %1 without a name and password that it accepts. Nothing was printed, and your settings are kept: print again and sign in, ask its administrator, or choose another queue.</source>
+        <translation>Der Druckserver lässt Sie auf der Warteschlange %1 nicht drucken, ohne dass er Namen und Passwort annimmt. Es wurde nichts gedruckt, Ihre Einstellungen bleiben erhalten: Drucken Sie erneut und melden Sie sich an, bitten Sie den Administrator, oder wählen Sie eine andere Warteschlange.</translation>
+    </message>
+    <message>
+        <source>The queue %1 takes no jobs at present. Nothing was sent, and your settings are kept: ask for the queue to be opened, or choose another one.</source>
+        <translation>Die Warteschlange %1 nimmt zurzeit keine Aufträge an. Es wurde nichts gesendet, Ihre Einstellungen bleiben erhalten: Lassen Sie sie öffnen, oder wählen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>The print server no longer has a queue %1. Nothing was sent, and your settings are kept: choose another queue.</source>
+        <translation>Der Druckserver hat keine Warteschlange %1 mehr. Es wurde nichts gesendet, Ihre Einstellungen bleiben erhalten: Wählen Sie eine andere Warteschlange.</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot print a document of this kind (%2). Nothing was printed. Convert the document to PDF, or choose another queue.</source>
+        <translation>Die Warteschlange %1 kann ein Dokument dieser Art nicht drucken (%2). Es wurde nichts gedruckt. Wandeln Sie das Dokument in PDF um, oder wählen Sie eine andere Warteschlange.</translation>
+    </message>
+    <message>
+        <source>The print server did not take the job: %1. Your settings are kept; print again when it answers.</source>
+        <translation>Der Druckserver hat den Auftrag nicht angenommen: %1. Ihre Einstellungen bleiben erhalten; drucken Sie erneut, sobald er antwortet.</translation>
+    </message>
+    <message>
+        <source>The document can no longer be read (%1). Nothing was printed, and your settings are kept: put the document back and print again.</source>
+        <translation>Das Dokument kann nicht mehr gelesen werden (%1). Es wurde nichts gedruckt, Ihre Einstellungen bleiben erhalten: Legen Sie das Dokument zurück, und drucken Sie erneut.</translation>
+    </message>
+    <message>
+        <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
+        <translation>Es wurde nichts gesendet, weil eine Einstellung verloren ginge: %1. Wählen Sie einen anderen Wert.</translation>
+    </message>
+    <message>
+        <source>The job could not be noted in your state folder, so nothing was sent: a second copy could not be ruled out later. Make room on that disk and print again.</source>
+        <translation>Der Auftrag konnte nicht in Ihrem Statusordner vermerkt werden, daher wurde nichts gesendet: Ein zweiter Ausdruck wäre später nicht auszuschließen. Schaffen Sie dort Platz, und drucken Sie erneut.</translation>
+    </message>
+    <message>
+        <source>The job was cancelled; nothing of it prints. Your settings are kept.</source>
+        <translation>Der Auftrag wurde abgebrochen; nichts davon wird gedruckt. Ihre Einstellungen bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>An earlier attempt was sent whole to the queue %1, and the print server no longer knows it: it may have printed. Look at the printer before you press Print again.</source>
+        <translation>Ein früherer Versuch wurde vollständig an die Warteschlange %1 gesendet, und der Druckserver kennt ihn nicht mehr: Er wurde vielleicht gedruckt. Sehen Sie beim Drucker nach, bevor Sie erneut „Drucken“ drücken.</translation>
+    </message>
+    <message>
+        <source>The print server took the job and gave it up (%2). Your settings are kept; look at the queue %1, and print again.</source>
+        <translation>Der Druckserver hat den Auftrag angenommen und aufgegeben (%2). Ihre Einstellungen bleiben erhalten; sehen Sie nach der Warteschlange %1, und drucken Sie erneut.</translation>
+    </message>
+    <message>
+        <source>The earlier attempt had arrived as job %1, so nothing was sent again. Press Print once more for another copy.</source>
+        <translation>Der frühere Versuch war als Auftrag %1 angekommen, daher wurde nichts erneut gesendet. Drücken Sie noch einmal „Drucken“ für ein weiteres Exemplar.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits, because the queue %2 is paused. It prints when somebody resumes the queue.</source>
+        <translation>Auftrag %1 wartet, weil die Warteschlange %2 angehalten ist. Er wird gedruckt, sobald jemand sie fortsetzt.</translation>
+    </message>
+    <message>
+        <source>The print server did not keep the setting %1 (%2). Check the first page.</source>
+        <translation>Der Druckserver hat die Einstellung %1 (%2) nicht übernommen. Prüfen Sie die erste Seite.</translation>
+    </message>
+    <message>
+        <source>The print server changed the setting %1 from %2 to %3. Check the first page.</source>
+        <translation>Der Druckserver hat die Einstellung %1 von %2 in %3 geändert. Prüfen Sie die erste Seite.</translation>
+    </message>
+    <message>
+        <source>“%1”, sent to %2 before this dialog was opened, had arrived as job %3. It was not sent again.</source>
+        <translation>„%1“, vor dem Öffnen dieses Dialogs an %2 gesendet, war als Auftrag %3 angekommen. Es wurde nicht erneut gesendet.</translation>
+    </message>
+    <message>
+        <source>“%1”, sent to %2 before this dialog was opened, had not arrived whole, and nothing of it prints. Print it again if you still need it.</source>
+        <translation>„%1“, vor dem Öffnen dieses Dialogs an %2 gesendet, war nicht vollständig angekommen; nichts davon wird gedruckt. Drucken Sie es erneut, falls Sie es noch brauchen.</translation>
+    </message>
+    <message>
+        <source>“%1” was sent whole to %2 before this dialog was opened, and the print server no longer knows it: it may have printed. Look at the printer before you print it again.</source>
+        <translation>„%1“ wurde vor dem Öffnen dieses Dialogs vollständig an %2 gesendet, und der Druckserver kennt es nicht mehr: Es wurde vielleicht gedruckt. Sehen Sie beim Drucker nach, bevor Sie es erneut drucken.</translation>
+    </message>
+</context>
+<context>
+    <name>PathRefusal</name>
+    <message>
+        <source>it lies outside /Library/Printers</source>
+        <translation>liegt außerhalb von /Library/Printers</translation>
+    </message>
+    <message>
+        <source>the path goes through “..”</source>
+        <translation>der Pfad führt über „..“</translation>
+    </message>
+    <message>
+        <source>it is not there</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>it is a link</source>
+        <translation>ist ein Verweis</translation>
+    </message>
+    <message>
+        <source>it belongs to somebody else</source>
+        <translation>gehört jemand anderem</translation>
+    </message>
+    <message>
+        <source>others may write it</source>
+        <translation>andere dürfen es ändern</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file or folder</source>
+        <translation>ist keine gewöhnliche Datei und kein Ordner</translation>
+    </message>
+</context>
+<context>
+    <name>PlugInTexts</name>
+    <message>
+        <source>The printer&apos;s panels are not installed: there is no %1. Install the maker&apos;s driver.</source>
+        <translation>Die Einstellungsseiten des Druckers sind nicht installiert: %1 fehlt. Installieren Sie den Treiber des Herstellers.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s panels were not loaded: %1 (%2). Install the maker&apos;s driver again as an administrator.</source>
+        <translation>Die Einstellungsseiten des Druckers wurden nicht geladen: %1 (%2). Installieren Sie den Treiber des Herstellers als Administrator neu.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s panels could not be loaded: %1 is damaged (%2). Install the maker&apos;s driver again.</source>
+        <translation>Die Einstellungsseiten des Druckers konnten nicht geladen werden: %1 ist beschädigt (%2). Installieren Sie den Treiber des Herstellers neu.</translation>
+    </message>
+    <message>
+        <source>it is cut off</source>
+        <translation>abgeschnitten</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s panels do not fit this dialog: %1 was made for another version. Install the maker&apos;s current driver.</source>
+        <translation>Die Einstellungsseiten des Druckers passen nicht zu diesem Dialog: %1 wurde für eine andere Version gemacht. Installieren Sie den aktuellen Treiber des Herstellers.</translation>
+    </message>
+    <message>
+        <source>The maker&apos;s driver offers no panels for this printer.</source>
+        <translation>Der Treiber des Herstellers bietet keine Einstellungsseiten für diesen Drucker.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterWords</name>
+    <message>
+        <source>Not reachable</source>
+        <translation>Nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Paused: %1</source>
+        <translation>Angehalten: %1</translation>
+    </message>
+    <message>
+        <source>Takes no jobs</source>
+        <translation>Nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Offline</translation>
+    </message>
+    <message>
+        <source>Offline: %1</source>
+        <translation>Offline: %1</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Druckt</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>No print server answers at %1 (%2). Start the server or check the network, then try again.</source>
+        <translation>Unter %1 antwortet kein Druckserver (%2). Starten Sie den Server oder prüfen Sie das Netzwerk, dann versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The print server at %1 does not answer. Wait a moment or have it restarted, then try again.</source>
+        <translation>Der Druckserver unter %1 antwortet nicht. Warten Sie etwas oder lassen Sie ihn neu starten, dann versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The print server at %1 refused to answer: %2. Ask its administrator for access, then try again.</source>
+        <translation>Der Druckserver unter %1 hat die Auskunft verweigert: %2. Bitten Sie seinen Verwalter um Zugang, dann versuchen Sie es erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>QueueListCommand</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>Standard</translation>
+    </message>
+</context>
+<context>
+    <name>Unsendable</name>
+    <message>
+        <source>a setting has no name</source>
+        <translation>eine Einstellung hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>the name is too long</source>
+        <translation>der Name ist zu lang</translation>
+    </message>
+    <message>
+        <source>the name contains a character that cannot be sent</source>
+        <translation>der Name enthält ein Zeichen, das nicht gesendet werden kann</translation>
+    </message>
+    <message>
+        <source>the value is empty</source>
+        <translation>der Wert ist leer</translation>
+    </message>
+    <message>
+        <source>a value cannot begin with “{”</source>
+        <translation>ein Wert kann nicht mit „{“ beginnen</translation>
+    </message>
+    <message>
+        <source>the value contains a character that cannot be sent</source>
+        <translation>der Wert enthält ein Zeichen, das nicht gesendet werden kann</translation>
+    </message>
+    <message>
+        <source>the value is too long</source>
+        <translation>der Wert ist zu lang</translation>
+    </message>
+    <message>
+        <source>the printer would read it as “off”</source>
+        <translation>der Drucker würde ihn als „aus“ lesen</translation>
+    </message>
+    <message>
+        <source>all settings together are too long</source>
+        <translation>alle Einstellungen zusammen sind zu lang</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobDesk</name>
+    <message>
+        <source>There is nothing to print. Start the dialog with a document.</source>
+        <translation>Es gibt nichts zu drucken. Starten Sie den Dialog mit einem Dokument.</translation>
+    </message>
+    <message>
+        <source>Go Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Print Anyway</source>
+        <translation>Trotzdem drucken</translation>
+    </message>
+    <message>
+        <source>Before this prints:</source>
+        <translation>Vor dem Druck:</translation>
+    </message>
+    <message>
+        <source>The job could not be written to %1: %2. Make room or allow writing there, then print again.</source>
+        <translation>Der Auftrag konnte nicht nach %1 geschrieben werden: %2. Schaffen Sie Platz oder erlauben Sie das Schreiben, dann drucken Sie erneut.</translation>
+    </message>
+    <message>
+        <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
+        <translation>Es wurde nichts gesendet, weil eine Einstellung verloren ginge: %1. Wählen Sie einen anderen Wert.</translation>
+    </message>
+    <message>
+        <source>Sending to %1: %2 %.</source>
+        <translation>Wird an %1 gesendet: %2 %.</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Auftrag abbrechen</translation>
+    </message>
+    <message>
+        <source>Sent as job %1.</source>
+        <translation>Als Auftrag %1 gesendet.</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::NoticeArea</name>
+    <message>
+        <source>Dismiss this notice</source>
+        <translation>Hinweis schließen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PanelStack</name>
+    <message>
+        <source>This printer has no PPD, so there are no panels for it. Print uses the settings that its queue has.</source>
+        <translation>Dieser Drucker hat keine PPD, deshalb gibt es keine Einstellungsseiten. Gedruckt wird mit den Einstellungen seiner Warteschlange.</translation>
+    </message>
+    <message>
+        <source>The PPD of this printer names no panels. Print uses the settings that are marked in it.</source>
+        <translation>Die PPD dieses Druckers nennt keine Einstellungsseiten. Gedruckt wird mit den Einstellungen, die in ihr markiert sind.</translation>
+    </message>
+    <message>
+        <source>The maker&apos;s driver offers no panels for this printer.</source>
+        <translation>Der Treiber des Herstellers bietet keine Einstellungsseiten für diesen Drucker.</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PrintDialog</name>
+    <message>
+        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
+        <translation>Wählen Sie im Einblendmenü eine Gruppe von Einstellungen, ändern Sie, was nötig ist, und drücken Sie „Drucken“. Was der Drucker nicht verbinden kann, wird abgelehnt; ein Hinweis nennt die Einstellung, die im Weg steht.</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PrintWindow</name>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>Einstellungen:</translation>
+    </message>
+    <message>
+        <source>Printer:</source>
+        <translation>Drucker:</translation>
+    </message>
+    <message>
+        <source>Document:</source>
+        <translation>Dokument:</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>Sending…</source>
+        <translation>Wird gesendet …</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>Auf Standard zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Presets:</source>
+        <translation>Voreinstellungen:</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PrinterPicker</name>
+    <message>
+        <source>Find a printer</source>
+        <translation>Drucker suchen</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::QueueDialog</name>
+    <message>
+        <source>Connecting to %1…</source>
+        <translation>Verbindung mit %1 …</translation>
+    </message>
+    <message>
+        <source>The print server at %1 has no printers. Add one there, then try again.</source>
+        <translation>Der Druckserver unter %1 hat keine Drucker. Richten Sie dort einen ein, dann versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>There is no printer %1 at the print server. Choose another one.</source>
+        <translation>Der Druckserver hat keinen Drucker %1. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
+        <translation>Der Drucker %1 ist nicht benutzbar, weil seine PPD beschädigt ist: %2. Lassen Sie den Drucker neu einrichten oder wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>This printer does not have what you chose for the one before:</source>
+        <translation>Dieser Drucker hat nicht, was Sie für den vorigen gewählt haben:</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SignInPrompt</name>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Passwort:</translation>
+    </message>
+    <message>
+        <source>The print server did not accept this name and password.</source>
+        <translation>Der Druckserver hat diesen Namen und dieses Passwort nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a name and password before it prints to %2. They are sent for this job and not kept.</source>
+        <translation>Der Druckserver %1 verlangt Namen und Passwort, bevor er auf %2 druckt. Sie werden für diesen Auftrag gesendet und nicht aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>The connection is not encrypted: others in the network could read the password.</source>
+        <translation>Die Verbindung ist nicht verschlüsselt: Andere im Netzwerk könnten das Passwort mitlesen.</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Auftrag abbrechen</translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation>Anmelden</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SummaryPanel</name>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,479 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en">
+<context>
+    <name>ChoiceWords</name>
+    <message>
+        <source>“%1: %2” and “%3: %4” do not go together.</source>
+        <translation>「%1: %2」と「%3: %4」は組み合わせられません。</translation>
+    </message>
+    <message>
+        <source>%1: you chose “%2”, the job has “%3”.</source>
+        <translation>%1: 選択は「%2」ですが、ジョブでは「%3」になります。</translation>
+    </message>
+    <message>
+        <source>“%1: %2” cannot be used together with “%3: %4”.</source>
+        <translation>「%1: %2」は「%3: %4」と同時には使えません。</translation>
+    </message>
+    <message>
+        <source>“%1: %2” cannot be chosen now.</source>
+        <translation>「%1: %2」は今は選べません。</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentTexts</name>
+    <message>
+        <source>There is no document %1. Nothing was sent; choose another document.</source>
+        <translation>書類 %1 がありません。何も送信されていません。別の書類を選んでください。</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read. Nothing was sent; choose another document or allow reading it.</source>
+        <translation>書類 %1 を読めません。何も送信されていません。別の書類を選ぶか、読み取りを許可してください。</translation>
+    </message>
+</context>
+<context>
+    <name>JobMessages</name>
+    <message>
+        <source>There is no print server to send the job to (%1). Nothing was sent, and your settings are kept: start the print server or correct CUPS_SERVER, and print again.</source>
+        <translation>プリントサーバに接続できません (%1)。何も送信されず、設定は残っています。プリントサーバを起動するか CUPS_SERVER を修正して、もう一度プリントしてください。</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Your settings are kept. Print again when it does: what may have arrived by then is found, and not sent a second time.</source>
+        <translation>プリントサーバが応答しません。設定は残っています。応答したらもう一度プリントしてください。すでに届いたジョブは検出され、二重に送信されません。</translation>
+    </message>
+    <message>
+        <source>The connection to the print server broke (%1). Your settings are kept. Print again: what may have arrived is found, and not sent a second time.</source>
+        <translation>プリントサーバとの接続が切れました (%1)。設定は残っています。もう一度プリントしてください。すでに届いたジョブは検出され、二重に送信されません。</translation>
+    </message>
+    <message>
+        <source>The print server does not let you print to the queue %1 without a name and password that it accepts. Nothing was printed, and your settings are kept: print again and sign in, ask its administrator, or choose another queue.</source>
+        <translation>キュー %1 でプリントするには、プリントサーバが認める名前とパスワードが必要です。何もプリントされず、設定は残っています。もう一度プリントしてサインインするか、管理者に依頼するか、別のキューを選んでください。</translation>
+    </message>
+    <message>
+        <source>The queue %1 takes no jobs at present. Nothing was sent, and your settings are kept: ask for the queue to be opened, or choose another one.</source>
+        <translation>キュー %1 は現在ジョブを受け付けていません。何も送信されず、設定は残っています。キューを開くよう依頼するか、別のキューを選んでください。</translation>
+    </message>
+    <message>
+        <source>The print server no longer has a queue %1. Nothing was sent, and your settings are kept: choose another queue.</source>
+        <translation>プリントサーバにキュー %1 はもうありません。何も送信されず、設定は残っています。別のキューを選んでください。</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot print a document of this kind (%2). Nothing was printed. Convert the document to PDF, or choose another queue.</source>
+        <translation>キュー %1 はこの種類の書類をプリントできません (%2)。何もプリントされませんでした。書類を PDF に変換するか、別のキューを選んでください。</translation>
+    </message>
+    <message>
+        <source>The print server did not take the job: %1. Your settings are kept; print again when it answers.</source>
+        <translation>プリントサーバはジョブを受け付けませんでした: %1。設定は残っています。サーバが応答したらもう一度プリントしてください。</translation>
+    </message>
+    <message>
+        <source>The document can no longer be read (%1). Nothing was printed, and your settings are kept: put the document back and print again.</source>
+        <translation>書類を読み込めなくなりました (%1)。何もプリントされず、設定は残っています。書類を元に戻して、もう一度プリントしてください。</translation>
+    </message>
+    <message>
+        <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
+        <translation>設定が失われるため、何も送信されませんでした: %1。別の値を選んでください。</translation>
+    </message>
+    <message>
+        <source>The job could not be noted in your state folder, so nothing was sent: a second copy could not be ruled out later. Make room on that disk and print again.</source>
+        <translation>ジョブを状態フォルダに記録できなかったため、何も送信しませんでした (二重プリントを防ぐためです)。ディスクの空きを増やして、もう一度プリントしてください。</translation>
+    </message>
+    <message>
+        <source>The job was cancelled; nothing of it prints. Your settings are kept.</source>
+        <translation>ジョブは中止され、プリントされません。設定は残っています。</translation>
+    </message>
+    <message>
+        <source>An earlier attempt was sent whole to the queue %1, and the print server no longer knows it: it may have printed. Look at the printer before you press Print again.</source>
+        <translation>前回のジョブはキュー %1 にすべて送信されましたが、プリントサーバに記録がありません。プリント済みの可能性があります。もう一度「プリント」を押す前にプリンタを確認してください。</translation>
+    </message>
+    <message>
+        <source>The print server took the job and gave it up (%2). Your settings are kept; look at the queue %1, and print again.</source>
+        <translation>プリントサーバはジョブを受け取りましたが、中止しました (%2)。設定は残っています。キュー %1 を確認して、もう一度プリントしてください。</translation>
+    </message>
+    <message>
+        <source>The earlier attempt had arrived as job %1, so nothing was sent again. Press Print once more for another copy.</source>
+        <translation>前回のジョブは %1 番として届いていたため、再送信しませんでした。もう一部必要な場合は、もう一度「プリント」を押してください。</translation>
+    </message>
+    <message>
+        <source>Job %1 waits, because the queue %2 is paused. It prints when somebody resumes the queue.</source>
+        <translation>キュー %2 が一時停止しているため、ジョブ %1 は待機しています。キューが再開されるとプリントされます。</translation>
+    </message>
+    <message>
+        <source>The print server did not keep the setting %1 (%2). Check the first page.</source>
+        <translation>プリントサーバは設定 %1 (%2) を受け付けませんでした。最初のページを確認してください。</translation>
+    </message>
+    <message>
+        <source>The print server changed the setting %1 from %2 to %3. Check the first page.</source>
+        <translation>プリントサーバは設定 %1 を %2 から %3 に変更しました。最初のページを確認してください。</translation>
+    </message>
+    <message>
+        <source>“%1”, sent to %2 before this dialog was opened, had arrived as job %3. It was not sent again.</source>
+        <translation>このダイアログを開く前に %2 へ送信した「%1」は、ジョブ %3 として届いていました。再送信はしていません。</translation>
+    </message>
+    <message>
+        <source>“%1”, sent to %2 before this dialog was opened, had not arrived whole, and nothing of it prints. Print it again if you still need it.</source>
+        <translation>このダイアログを開く前に %2 へ送信した「%1」は完全には届かず、プリントされません。必要な場合はもう一度プリントしてください。</translation>
+    </message>
+    <message>
+        <source>“%1” was sent whole to %2 before this dialog was opened, and the print server no longer knows it: it may have printed. Look at the printer before you print it again.</source>
+        <translation>このダイアログを開く前に「%1」を %2 にすべて送信しましたが、プリントサーバに記録がありません。プリント済みの可能性があります。再度プリントする前にプリンタを確認してください。</translation>
+    </message>
+</context>
+<context>
+    <name>PathRefusal</name>
+    <message>
+        <source>it lies outside /Library/Printers</source>
+        <translation>/Library/Printers の外にあります</translation>
+    </message>
+    <message>
+        <source>the path goes through “..”</source>
+        <translation>パスに「..」が含まれています</translation>
+    </message>
+    <message>
+        <source>it is not there</source>
+        <translation>見つかりません</translation>
+    </message>
+    <message>
+        <source>it is a link</source>
+        <translation>リンクです</translation>
+    </message>
+    <message>
+        <source>it belongs to somebody else</source>
+        <translation>所有者が異なります</translation>
+    </message>
+    <message>
+        <source>others may write it</source>
+        <translation>ほかのユーザが書き込めます</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file or folder</source>
+        <translation>通常のファイルやフォルダではありません</translation>
+    </message>
+</context>
+<context>
+    <name>PlugInTexts</name>
+    <message>
+        <source>The printer&apos;s panels are not installed: there is no %1. Install the maker&apos;s driver.</source>
+        <translation>プリンタの設定パネルがインストールされていません: %1 がありません。ドライバをインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s panels were not loaded: %1 (%2). Install the maker&apos;s driver again as an administrator.</source>
+        <translation>プリンタの設定パネルは読み込まれませんでした: %1 (%2)。管理者としてドライバを再インストールしてください。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s panels could not be loaded: %1 is damaged (%2). Install the maker&apos;s driver again.</source>
+        <translation>プリンタの設定パネルを読み込めませんでした: %1 が壊れています (%2)。ドライバを再インストールしてください。</translation>
+    </message>
+    <message>
+        <source>it is cut off</source>
+        <translation>途中で切れています</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s panels do not fit this dialog: %1 was made for another version. Install the maker&apos;s current driver.</source>
+        <translation>プリンタの設定パネルはこのダイアログに対応していません: %1 は別のバージョン用です。最新のドライバをインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The maker&apos;s driver offers no panels for this printer.</source>
+        <translation>このプリンタ用の設定パネルはドライバにありません。</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterWords</name>
+    <message>
+        <source>Not reachable</source>
+        <translation>接続できません</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>Paused: %1</source>
+        <translation>一時停止中: %1</translation>
+    </message>
+    <message>
+        <source>Takes no jobs</source>
+        <translation>ジョブを受け付けていません</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>オフライン</translation>
+    </message>
+    <message>
+        <source>Offline: %1</source>
+        <translation>オフライン: %1</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>プリント中</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>No print server answers at %1 (%2). Start the server or check the network, then try again.</source>
+        <translation>%1 のプリントサーバに接続できません (%2)。サーバを起動するかネットワークを確認して、再試行してください。</translation>
+    </message>
+    <message>
+        <source>The print server at %1 does not answer. Wait a moment or have it restarted, then try again.</source>
+        <translation>%1 のプリントサーバが応答しません。しばらく待つかサーバを再起動してから、再試行してください。</translation>
+    </message>
+    <message>
+        <source>The print server at %1 refused to answer: %2. Ask its administrator for access, then try again.</source>
+        <translation>%1 のプリントサーバに拒否されました: %2。管理者にアクセス権を確認して、再試行してください。</translation>
+    </message>
+</context>
+<context>
+    <name>QueueListCommand</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>デフォルト</translation>
+    </message>
+</context>
+<context>
+    <name>Unsendable</name>
+    <message>
+        <source>a setting has no name</source>
+        <translation>設定に名前がありません</translation>
+    </message>
+    <message>
+        <source>the name is too long</source>
+        <translation>名前が長すぎます</translation>
+    </message>
+    <message>
+        <source>the name contains a character that cannot be sent</source>
+        <translation>名前に送信できない文字が含まれています</translation>
+    </message>
+    <message>
+        <source>the value is empty</source>
+        <translation>値が空です</translation>
+    </message>
+    <message>
+        <source>a value cannot begin with “{”</source>
+        <translation>値を「{」で始めることはできません</translation>
+    </message>
+    <message>
+        <source>the value contains a character that cannot be sent</source>
+        <translation>値に送信できない文字が含まれています</translation>
+    </message>
+    <message>
+        <source>the value is too long</source>
+        <translation>値が長すぎます</translation>
+    </message>
+    <message>
+        <source>the printer would read it as “off”</source>
+        <translation>プリンタが「オフ」として解釈してしまいます</translation>
+    </message>
+    <message>
+        <source>all settings together are too long</source>
+        <translation>設定全体が長すぎます</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobDesk</name>
+    <message>
+        <source>There is nothing to print. Start the dialog with a document.</source>
+        <translation>プリントする書類がありません。書類を指定してダイアログを開いてください。</translation>
+    </message>
+    <message>
+        <source>Go Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Print Anyway</source>
+        <translation>このままプリント</translation>
+    </message>
+    <message>
+        <source>Before this prints:</source>
+        <translation>プリントの前に:</translation>
+    </message>
+    <message>
+        <source>The job could not be written to %1: %2. Make room or allow writing there, then print again.</source>
+        <translation>ジョブを %1 に書き込めませんでした: %2。空き容量または書き込み権限を確認して、もう一度プリントしてください。</translation>
+    </message>
+    <message>
+        <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
+        <translation>設定が失われるため、何も送信されませんでした: %1。別の値を選んでください。</translation>
+    </message>
+    <message>
+        <source>Sending to %1: %2 %.</source>
+        <translation>%1 に送信中: %2%</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>ジョブを中止</translation>
+    </message>
+    <message>
+        <source>Sent as job %1.</source>
+        <translation>ジョブ %1 として送信しました。</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::NoticeArea</name>
+    <message>
+        <source>Dismiss this notice</source>
+        <translation>この通知を閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PanelStack</name>
+    <message>
+        <source>This printer has no PPD, so there are no panels for it. Print uses the settings that its queue has.</source>
+        <translation>このプリンタには PPD がないため、設定パネルはありません。キューの設定でプリントします。</translation>
+    </message>
+    <message>
+        <source>The PPD of this printer names no panels. Print uses the settings that are marked in it.</source>
+        <translation>このプリンタの PPD には設定パネルが指定されていません。PPD の設定でプリントします。</translation>
+    </message>
+    <message>
+        <source>The maker&apos;s driver offers no panels for this printer.</source>
+        <translation>このプリンタ用の設定パネルはドライバにありません。</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PrintDialog</name>
+    <message>
+        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
+        <translation>ポップアップメニューで設定の種類を選び、必要な項目を変更して「プリント」を押してください。組み合わせられない選択は受け付けられず、妨げになっている設定が表示されます。</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PrintWindow</name>
+    <message>
+        <source>Print</source>
+        <translation>プリント</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>設定:</translation>
+    </message>
+    <message>
+        <source>Printer:</source>
+        <translation>プリンタ:</translation>
+    </message>
+    <message>
+        <source>Document:</source>
+        <translation>書類:</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Sending…</source>
+        <translation>送信中…</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>デフォルトに戻す</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Presets:</source>
+        <translation>プリセット:</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PrinterPicker</name>
+    <message>
+        <source>Find a printer</source>
+        <translation>プリンタを検索</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンタ</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::QueueDialog</name>
+    <message>
+        <source>Connecting to %1…</source>
+        <translation>%1 に接続中…</translation>
+    </message>
+    <message>
+        <source>The print server at %1 has no printers. Add one there, then try again.</source>
+        <translation>%1 のプリントサーバにはプリンタがありません。プリンタを追加して、再試行してください。</translation>
+    </message>
+    <message>
+        <source>There is no printer %1 at the print server. Choose another one.</source>
+        <translation>プリントサーバにプリンタ %1 がありません。別のプリンタを選んでください。</translation>
+    </message>
+    <message>
+        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
+        <translation>プリンタ %1 は PPD が壊れているため使用できません: %2。プリンタを設定し直すか、別のプリンタを選んでください。</translation>
+    </message>
+    <message>
+        <source>This printer does not have what you chose for the one before:</source>
+        <translation>前のプリンタで選んだ次の設定は、このプリンタにはありません:</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>再試行</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SignInPrompt</name>
+    <message>
+        <source>Name:</source>
+        <translation>名前:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>パスワード:</translation>
+    </message>
+    <message>
+        <source>The print server did not accept this name and password.</source>
+        <translation>プリントサーバはこの名前とパスワードを受け付けませんでした。</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a name and password before it prints to %2. They are sent for this job and not kept.</source>
+        <translation>プリントサーバ %1 で %2 にプリントするには名前とパスワードが必要です。このジョブにだけ送信され、保存はされません。</translation>
+    </message>
+    <message>
+        <source>The connection is not encrypted: others in the network could read the password.</source>
+        <translation>接続は暗号化されていません。ネットワーク上のほかの人にパスワードを読み取られる可能性があります。</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>ジョブを中止</translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation>サインイン</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SummaryPanel</name>
+    <message>
+        <source>Summary</source>
+        <translation>一覧</translation>
+    </message>
+</context>
+</TS>
