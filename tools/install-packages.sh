@@ -13,7 +13,7 @@ packages_of() {
         # The last three: fonts for the Latin and the East Asian languages, and what
         # find_package(Qt6 UiTools) asks for although no package depends on it.
         echo g++ cmake ninja-build ccache qt6-base-dev qt6-tools-dev qt6-l10n-tools libcups2-dev \
-            fonts-dejavu-core fonts-wqy-microhei libqt6opengl6-dev
+            libpoppler-qt6-dev fonts-dejavu-core fonts-wqy-microhei libqt6opengl6-dev
         ;;
     # cupsd and its filters are for a private server of the tests, cups-client brings cupstestppd.
     test) echo libgtest-dev libgmock-dev cups-daemon cups-client cups-core-drivers ;;
