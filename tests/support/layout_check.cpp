@@ -33,7 +33,8 @@ bool isControl(const QWidget *widget)
 {
     return qobject_cast<const QLabel *>(widget) || qobject_cast<const QAbstractButton *>(widget) ||
            qobject_cast<const QComboBox *>(widget) || qobject_cast<const QLineEdit *>(widget) ||
-           qobject_cast<const Stepper *>(widget) || qobject_cast<const QAbstractSpinBox *>(widget) ||
+           qobject_cast<const Stepper *>(widget) ||
+           qobject_cast<const QAbstractSpinBox *>(widget) ||
            qobject_cast<const QAbstractScrollArea *>(widget);
 }
 
