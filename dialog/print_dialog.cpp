@@ -2,6 +2,7 @@
 
 #include "dialog/choice_words.h"
 #include "dialog/jobs/document.h"
+#include "dialog/panels/layout_panel.h"
 #include "dialog/panels/summary_panel.h"
 #include "dialog/printers/queue_job.h"
 #include "dialog/texts.h"
@@ -125,6 +126,7 @@ void PrintDialog::showPanelsIn(PrintWindow &window)
                  case_.root.isNull() ? TrustedOwner::RootOnly : TrustedOwner::RootAndUser);
     window_ = &window;
     connectWindow();
+    buildGeneral();
     buildPanels();
     window_->fitContents();
     window_->show();
@@ -150,16 +152,52 @@ void PrintDialog::connectWindow()
             [this] { window_->notices().dismissGroup(kOfferGroup); });
 }
 
+void PrintDialog::buildGeneral()
+{
+    general_ = new GeneralView;
+    general_->show(generalState());
+    window_->setGeneral(general_);
+    connect(general_, &GeneralView::settingsChanged, this, &PrintDialog::setSettings);
+    connect(general_, &GeneralView::chosen, this, &PrintDialog::choose);
+    connect(general_, &GeneralView::problemChanged, window_, &PrintWindow::setPrintProblem);
+    connect(&host_, &DialogHost::stateReplaced, general_,
+            [this] { general_->reset(generalState()); });
+}
+
 void PrintDialog::buildPanels()
 {
-    panels_.showIn(*window_, {}, {new SummaryPanel(panels_, host_)});
+    auto *layout = new LayoutPanel(host_.settings());
+    connect(layout, &LayoutPanel::settingsChanged, this, &PrintDialog::setSettings);
+    panels_.showIn(*window_, {layout}, {new SummaryPanel(panels_, host_)});
     panels_.bringForward(panels_.firstIndex());
 }
 
 /// Everything that shows what is set follows here.
 void PrintDialog::takeChange()
 {
+    if (general_)
+        general_->show(generalState());
     panels_.refreshFront();
+}
+
+GeneralState PrintDialog::generalState() const
+{
+    const PrintSettingsMap &settings = host_.settings().all();
+    return {settings, paperList(*printer_, settings, host_.explicitPaperName()),
+            sidesList(*printer_, settings)};
+}
+
+void PrintDialog::setSettings(const SettingChanges &changes)
+{
+    for (const auto &[key, value] : changes)
+        host_.setSetting(key, value);
+}
+
+/// A refused one goes back to what holds.
+void PrintDialog::choose(const Choice &choice)
+{
+    static_cast<void>(host_.choose(choice));
+    takeChange();
 }
 
 void PrintDialog::showHelp()

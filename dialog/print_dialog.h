@@ -5,6 +5,7 @@
 #include "dialog/panel_stack.h"
 #include "dialog/print_case.h"
 #include "dialog/printers/ppd_document.h"
+#include "dialog/settings/general_view.h"
 #include "dialog/window/notice_area.h"
 #include "platform/help_viewer.h"
 
@@ -75,6 +76,7 @@ private:
 
     void connectParts();
     void connectWindow();
+    void buildGeneral();
     void buildPanels();
     void showHelp();
     void showOwnHelp();
@@ -82,6 +84,9 @@ private:
     void showOutcome(const OfferOutcome &outcome);
     void notify(const Notice &notice);
     void takeChange();
+    [[nodiscard]] GeneralState generalState() const;
+    void setSettings(const SettingChanges &changes);
+    void choose(const Choice &choice);
     void leave();
 
     // In the order of their dependence: the views go first, then the panels, at last the PPD.
@@ -92,6 +97,7 @@ private:
     PanelStack panels_;
     std::unique_ptr<PrintWindow> ownWindow_;
     PrintWindow *window_ = nullptr;    ///< this or another's; null until the panels are shown
+    GeneralView *general_ = nullptr;   ///< the window's
     std::vector<Notice> early_;        ///< shown as soon as there is a window
     HelpWindow *helpWindow_ = nullptr; ///< belongs to the window
     bool leavesAfterJob_ = false;

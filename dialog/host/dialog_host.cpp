@@ -1,6 +1,8 @@
 #include "dialog/host/dialog_host.h"
 
 #include "dialog/printers/ppd_document.h"
+#include "dialog/printers/standard_options.h"
+#include "dialog/settings/job_settings.h"
 
 #include <QScopedValueRollback>
 
@@ -161,18 +163,33 @@ OfferOutcome DialogHost::choose(const Choice &choice)
     OfferOutcome outcome = judge(choice);
     if (outcome.verdict == OfferVerdict::Accepted) {
         deliverChanges(); // in the order in which they were made
+        dropStandIns(choice.option);
         changeFromElsewhere(choice);
     }
     Q_EMIT judged(outcome);
     return outcome;
 }
 
+void DialogHost::dropStandIns(const QString &option)
+{
+    const OptionChoices counterparts = standardCounterparts(printer_);
+    const std::map<QString, QVariant> settings = settings_.all();
+    for (const auto &[key, value] : settings) {
+        if (meaningOf(key, value.toString(), counterparts).standsFor.contains(option))
+            settings_.remove(key);
+    }
+    if (option == kPageSize)
+        paperName_ = QString();
+}
+
 void DialogHost::setSetting(const QString &key, const QVariant &value)
 {
-    if (value.isValid())
-        settings_.setValue(key, value);
-    else
-        settings_.remove(key);
+    for (const SettingChange &change : withCompanions({key, value})) {
+        if (change.value.isValid())
+            settings_.setValue(change.key, change.value);
+        else
+            settings_.remove(change.key);
+    }
     announceChange();
 }
 
@@ -190,6 +207,7 @@ void DialogHost::setState(const ChoiceState &state)
     ledger_.setChosen(state.chosen);
     followPageSize();
     restorePanels();
+    Q_EMIT stateReplaced();
     announceChange();
 }
 

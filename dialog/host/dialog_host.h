@@ -67,8 +67,9 @@ public:
     void changeFromElsewhere(const Choice &choice);
     /// A person's choice in a control of the dialog's own. It is judged as an offer of a panel is;
     /// an accepted one is marked and reaches every panel, any other leaves everything as it was.
+    /// The last word counts: print settings that would stand for the option go.
     OfferOutcome choose(const Choice &choice);
-    /// A person's print setting; an invalid value removes it.
+    /// A person's print setting, and what is kept in step with it; an invalid value removes it.
     void setSetting(const QString &key, const QVariant &value);
     [[nodiscard]] ChoiceState state() const;
     /// Sets exactly this, whatever was set before; then every panel takes over what is marked.
@@ -96,6 +97,8 @@ Q_SIGNALS:
     /// Offers outside a commit, in more detail.
     void judged(const dialog::OfferOutcome &outcome);
     void panelResized();
+    /// Everything was set at once; what a person was about to type is past.
+    void stateReplaced();
     /// Marks, print settings or what was chosen may be others than before. Once for all that one
     /// event changed, from the event loop.
     void stateChanged();
@@ -116,6 +119,7 @@ private:
     void queueChange(const Change &change);
     void tellPanels(const Change &change);
     void restorePanels();
+    void dropStandIns(const QString &option);
     void announceChange();
 
     PpdDocument &printer_;

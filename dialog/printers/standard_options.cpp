@@ -254,6 +254,18 @@ OptionChoices standardCounterparts(const PpdDocument &printer)
     return all;
 }
 
+QString counterpartOf(const QString &standard, const OptionChoices &counterparts)
+{
+    if (isStandard(standard, kMedia))
+        return counterparts.contains(QLatin1String(kPageSizes[0])) ? QLatin1String(kPageSizes[0])
+                                                                   : QString();
+    for (const Saying &saying : kSayings) {
+        if (isStandard(standard, saying.standard))
+            return counterpart(saying.options, counterparts).value_or(QString());
+    }
+    return {};
+}
+
 Meaning meaningOf(const QString &name, const QString &value, const OptionChoices &counterparts)
 {
     if (isStandard(name, kMedia))

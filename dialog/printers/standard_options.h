@@ -17,6 +17,10 @@ struct Meaning
 /// default first.
 [[nodiscard]] OptionChoices standardCounterparts(const PpdDocument &printer);
 
+/// The printer's own option for a standard one: "Duplex" for "sides", the page size for "media".
+/// Null without one.
+[[nodiscard]] QString counterpartOf(const QString &standard, const OptionChoices &counterparts);
+
 /// A standard job option ("sides", "media", ...) in the words of the printer, whose counterparts
 /// are given. Where the printer has the option without such a choice, the standard one stays, and
 /// still stands for the printer's. Any other option means itself.

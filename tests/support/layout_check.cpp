@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSpinBox>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
 
@@ -309,13 +310,15 @@ Findings unlabelled(const QWidget &root)
     const std::vector<QWidget *> controls = controlsOf(root);
     const auto isLabelOf = [&](const QWidget *candidate, const QWidget *control) {
         const auto *label = qobject_cast<const QLabel *>(candidate);
-        return label && label->buddy() == control && !label->text().isEmpty() &&
-               place(label, root).right() < place(control, root).left() &&
-               isOnOneRow(place(label, root), place(control, root));
+        const bool names = (label && label->buddy() == control && !label->text().isEmpty()) ||
+                           qobject_cast<const QRadioButton *>(candidate);
+        return names && place(candidate, root).right() < place(control, root).left() &&
+               isOnOneRow(place(candidate, root), place(control, root));
     };
     Findings found;
     for (const QWidget *control : controls) {
-        if (!qobject_cast<const QComboBox *>(control) && !qobject_cast<const QLineEdit *>(control))
+        if (!qobject_cast<const QComboBox *>(control) &&
+            !qobject_cast<const QLineEdit *>(control) && !qobject_cast<const QSpinBox *>(control))
             continue;
         if (std::ranges::none_of(controls,
                                  [&](const QWidget *other) { return isLabelOf(other, control); }))

@@ -8,7 +8,7 @@
 
 /// Invariants of how a shown view looks, whatever its language, font and palette. Each check
 /// answers what is wrong, so that a failure can be read; controls are labels, buttons, pop-ups,
-/// text fields, steppers and scroll areas, as far as they are visible.
+/// text and number fields, steppers and scroll areas, as far as they are visible.
 namespace test::layout {
 
 struct Finding
@@ -35,7 +35,8 @@ void PrintTo(const Finding &finding, std::ostream *out);
 [[nodiscard]] Findings holes(const QWidget &root);
 /// Left edges that almost meet: such columns look ragged.
 [[nodiscard]] Findings ragged(const QWidget &root);
-/// Pop-ups and text fields have a label in front of them, whose buddy they are.
+/// Pop-ups and fields have a label in front of them, whose buddy they are, or a radio button that
+/// they are part of.
 [[nodiscard]] Findings unlabelled(const QWidget &root);
 /// What can have the focus tells screen readers its name.
 [[nodiscard]] Findings nameless(const QWidget &root);

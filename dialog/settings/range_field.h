@@ -1,0 +1,56 @@
+#pragma once
+
+#include "dialog/settings/page_ranges.h"
+
+#include <QWidget>
+
+#include <optional>
+
+class QLabel;
+class QLineEdit;
+class QRadioButton;
+
+namespace dialog {
+
+/// All pages, or those that a person types; what is wrong with them is said as it is typed.
+class RangeField : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit RangeField(QWidget *parent = nullptr);
+
+    /// The job setting, null for all pages. Leaves what is being typed alone while the setting
+    /// says what it said last.
+    void show(const QString &ranges);
+    using QWidget::show;
+    /// The same, and drops what was typed and could not be a setting.
+    void reset(const QString &ranges);
+    /// Null while it is not known.
+    void setPageCount(std::optional<int> count);
+    /// Where it says what is wrong; stands where its owner puts it.
+    [[nodiscard]] QLabel *remark() const { return remark_; }
+    /// Why these pages cannot be printed; null when they can.
+    [[nodiscard]] const QString &problem() const { return problem_; }
+
+Q_SIGNALS:
+    /// By a person; null for all pages.
+    void rangesChanged(const QString &ranges);
+    void problemChanged(const QString &problem);
+
+private:
+    void pickRange();
+    void pickAll();
+    void read();
+    void judge();
+
+    QRadioButton *all_;
+    QRadioButton *range_;
+    QLineEdit *text_;
+    QLabel *remark_;
+    std::optional<int> pageCount_;
+    QString setting_; ///< as it was shown or told last
+    QString problem_;
+};
+
+} // namespace dialog
