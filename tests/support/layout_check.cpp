@@ -14,7 +14,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSpinBox>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
 
@@ -318,7 +317,8 @@ Findings unlabelled(const QWidget &root)
     Findings found;
     for (const QWidget *control : controls) {
         if (!qobject_cast<const QComboBox *>(control) &&
-            !qobject_cast<const QLineEdit *>(control) && !qobject_cast<const QSpinBox *>(control))
+            !qobject_cast<const QLineEdit *>(control) &&
+            !qobject_cast<const QAbstractSpinBox *>(control))
             continue;
         if (std::ranges::none_of(controls,
                                  [&](const QWidget *other) { return isLabelOf(other, control); }))
