@@ -1,10 +1,12 @@
 // From the start of a process to a dialog with which a person can print, on a print server of its
-// own with 1, 20 and 200 queues: this dialog with an empty cache, with a filled one, and Qt's print
-// dialog, in turns.
+// own with 1, 20 and 200 queues of a sample printer, and with one queue of a printer with 200
+// options of 50 choices: this dialog with an empty cache, with a filled one, and Qt's print dialog,
+// in turns.
 //
 // Usable means: every queue is in the list, the default printer's options are there, and the window
 // has been painted.
 
+#include "bench/made_printer.h"
 #include "dialog/queue_dialog.h"
 #include "dialog/window/print_window.h"
 #include "dialog/window/printer_picker.h"
@@ -27,7 +29,17 @@
 
 namespace {
 
-constexpr int kQueues[] = {1, 20, 200};
+constexpr int kManyOptions = 200;
+constexpr int kManyChoices = 50;
+
+struct Server
+{
+    const char *printer;
+    int queues;
+    int options; ///< of the printer; 0: as many as the sample has
+};
+constexpr Server kServers[] = {
+    {"S300", 1, 0}, {"S300", 20, 0}, {"S300", 200, 0}, {"200 x 50", 1, kManyOptions}};
 constexpr int kRounds = 11;
 constexpr int kPatienceMilliseconds = 30'000;
 constexpr const char *kUsable = "usable\n";
@@ -100,13 +112,21 @@ double median(std::vector<double> times)
     return times.front() < 0 ? -1 : times[times.size() / 2];
 }
 
-void measure(int queues)
+QByteArray printerOf(const Server &measured)
 {
-    test::PrivateCupsd server;
     QFile ppd(QStringLiteral(KORVANE_ROOT_DIR "/Library/Printers/Korvane/PPDs/Korvane-S300.ppd"));
     if (!ppd.open(QIODevice::ReadOnly))
-        return;
-    const QByteArray bytes = ppd.readAll();
+        return {};
+    const QByteArray sample = ppd.readAll();
+    const int first = static_cast<int>(sample.count("*OpenUI"));
+    return sample + bench::extraOptions(first, measured.options, kManyChoices);
+}
+
+void measure(const Server &measured)
+{
+    test::PrivateCupsd server;
+    const int queues = measured.queues;
+    const QByteArray bytes = printerOf(measured);
     for (int i = 1; i <= queues; ++i)
         server.addQueue(QStringLiteral("queue%1").arg(i), bytes);
     server.run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QStringLiteral("queue1")});
@@ -123,8 +143,9 @@ void measure(int queues)
         again.push_back(timeOf(ours, queues, kept.path()));
         qt.push_back(timeOf(QStringLiteral("qt"), queues, kept.path()));
     }
-    std::printf("| %d | %.0f ms | %.0f ms | %.0f ms | %.2f | %.2f |\n", queues, median(first),
-                median(again), median(qt), median(first) / median(qt), median(again) / median(qt));
+    std::printf("| %s | %d | %.0f ms | %.0f ms | %.0f ms | %.2f | %.2f |\n", measured.printer,
+                queues, median(first), median(again), median(qt), median(first) / median(qt),
+                median(again) / median(qt));
     std::fflush(stdout);
 }
 
@@ -140,10 +161,10 @@ int main(int argc, char **argv)
         const int queues = words.value(3).toInt();
         return words.value(2) == QLatin1String("qt") ? probeQt(queues) : probeOurs(queues);
     }
-    std::puts(
-        "| queues | first opening | later openings | QPrintDialog | first : Qt | later : Qt |");
-    std::puts("|---|---|---|---|---|---|");
-    for (const int queues : kQueues)
-        measure(queues);
+    std::puts("| printer | queues | first opening | later openings | QPrintDialog | first : Qt | "
+              "later : Qt |");
+    std::puts("|---|---|---|---|---|---|---|");
+    for (const Server &measured : kServers)
+        measure(measured);
     return 0;
 }

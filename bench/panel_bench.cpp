@@ -1,6 +1,7 @@
 // Time from "PPD opened" to "panel shown", and of each action, for the sample printers and for
 // printers with many choices.
 
+#include "bench/made_printer.h"
 #include "model/pde_tools.h"
 #include "platform/console.h"
 #include "platform/controls/controls.h"
@@ -66,18 +67,6 @@ QString sample(const char *name)
         .arg(QString::fromLatin1(name));
 }
 
-QByteArray optionText(const QByteArray &keyword, int choices)
-{
-    QByteArray text =
-        "*OpenUI *" + keyword + "/" + keyword + ": PickOne\n*Default" + keyword + ": Automatic\n";
-    text += "*" + keyword + " Automatic/Automatic: \"\"\n";
-    for (int i = 1; i < choices; ++i) {
-        const QByteArray number = QByteArray::number(i);
-        text += "*" + keyword + " C" + number + "/Choice " + number + ": \"\"\n";
-    }
-    return text + "*CloseUI: *" + keyword + "\n";
-}
-
 /// A printer whose panel options have that many choices each, among further options of as many.
 QString madePrinter(int options, int choices)
 {
@@ -90,9 +79,8 @@ QString madePrinter(int options, int choices)
         "*Manufacturer: \"Korvane\"\n*ModelName: \"Korvane X\"\n*NickName: \"Korvane X\"\n";
     for (const char *keyword : {"PrintQuality", "MediaType", "ColorOutput", "ColorPreferences",
                                 "InkToUse", "Sharpen", "HalftoneLevel"})
-        text += optionText(keyword, choices);
-    for (int i = 7; i < options; ++i)
-        text += optionText("Extra" + QByteArray::number(i), choices);
+        text += bench::optionText(keyword, choices);
+    text += bench::extraOptions(7, options, choices);
     QFile file(path);
     if (file.open(QIODevice::WriteOnly))
         file.write(text);
