@@ -24,6 +24,18 @@ void addCaseOptions(QCommandLineParser &parser)
     });
 }
 
+void addPrintOptions(QCommandLineParser &parser)
+{
+    parser.addOptions({
+        valueOption("print", "Print this document without a window.", "FILE"),
+        valueOption("set", "Choose for that job, in the order given; may be repeated.",
+                    "OPTION=CHOICE"),
+        flagOption("dry-run", "Tell the options that would be sent, and send nothing."),
+        flagOption("json", "With --dry-run: tell them as JSON."),
+        flagOption("print-anyway", "Print also when a choice did not survive the rules."),
+    });
+}
+
 void addReplayOptions(QCommandLineParser &parser)
 {
     parser.addOptions({
@@ -58,6 +70,50 @@ QString readSystemVersion(const QCommandLineParser &parser, PrintCase &printCase
     return {};
 }
 
+bool asksForPrint(const QCommandLineParser &parser)
+{
+    for (const char *option : {"print", "set", "dry-run", "json", "print-anyway"}) {
+        if (parser.isSet(QString::fromLatin1(option)))
+            return true;
+    }
+    return false;
+}
+
+/// What is wrong with the words of a job without a window; null when nothing is.
+QString printProblem(const QCommandLineParser &parser, const CommandLine &line)
+{
+    const QStringList files = parser.values(QStringLiteral("print"));
+    const QStringList words = parser.positionalArguments();
+    if (files.isEmpty() && line.request.sends)
+        return QStringLiteral("there is nothing to print; add --print FILE, or --dry-run");
+    if (files.size() > 1)
+        return QStringLiteral("--print takes one FILE; this is another one: ") + files.last();
+    if (files.contains(QString()))
+        return QStringLiteral("--print needs a FILE");
+    if (files.contains(QStringLiteral("-")))
+        return QStringLiteral("standard input cannot be printed; --print needs a FILE");
+    if (!words.isEmpty())
+        return QStringLiteral("too many words: ") + words.first();
+    if (line.printCase.ppd.isEmpty() && line.printCase.queue.isEmpty())
+        return QStringLiteral("no printer; name one with --queue NAME or --ppd FILE");
+    if (!line.record.isNull())
+        return QStringLiteral("--record is for the dialog and for replay, not for --print");
+    if (line.request.output == batch::Request::Output::Json && line.request.sends)
+        return QStringLiteral("--json needs --dry-run");
+    return {};
+}
+
+void takeRequest(const QCommandLineParser &parser, CommandLine &line)
+{
+    line.command = CommandLine::Command::Print;
+    line.printCase.document = given(parser, "print");
+    line.request.sets = parser.values(QStringLiteral("set"));
+    line.request.sends = !parser.isSet(QStringLiteral("dry-run"));
+    line.request.sendsLess = parser.isSet(QStringLiteral("print-anyway"));
+    line.request.output = parser.isSet(QStringLiteral("json")) ? batch::Request::Output::Json
+                                                               : batch::Request::Output::Lines;
+}
+
 QString takePositionals(const QStringList &words, CommandLine &line)
 {
     const bool isReplay = line.command == CommandLine::Command::Replay;
@@ -80,7 +136,8 @@ CommandLine helpLine(QCommandLineParser &parser, bool isReplay)
     } else {
         parser.setApplicationDescription(QStringLiteral(
             "Opens the print dialog. Instead, \"korvane-print replay\" plays a scenario, "
-            "\"korvane-print log\" reads a debug log and \"korvane-print check-ppd\" tells what the "
+            "\"korvane-print log\" reads a debug log and \"korvane-print check-ppd\" tells what "
+            "the "
             "panels make of a PPD; each has a --help of its own."));
     }
     parser.addPositionalArgument(QStringLiteral("DOCUMENT"),
@@ -104,6 +161,8 @@ std::variant<CommandLine, UsageError> parseCommandLine(const QStringList &words)
     addCaseOptions(parser);
     if (isReplay)
         addReplayOptions(parser);
+    else
+        addPrintOptions(parser);
     if (!parser.parse(rest))
         return UsageError{parser.errorText()};
     if (parser.isSet(QStringLiteral("help")))
@@ -116,7 +175,12 @@ std::variant<CommandLine, UsageError> parseCommandLine(const QStringList &words)
     line.printCase = caseOf(parser);
     line.record = given(parser, "record");
     QString error = readSystemVersion(parser, line.printCase);
-    if (error.isNull() && line.command != CommandLine::Command::ShowVersion)
+    const bool prints = line.command == CommandLine::Command::OpenDialog && asksForPrint(parser);
+    if (prints)
+        takeRequest(parser, line);
+    if (error.isNull() && prints)
+        error = printProblem(parser, line);
+    else if (error.isNull() && line.command != CommandLine::Command::ShowVersion)
         error = takePositionals(parser.positionalArguments(), line);
     if (!error.isNull())
         return UsageError{error};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/batch/request.h"
 #include "dialog/print_case.h"
 #include "dialog/replay/player.h"
 
@@ -13,10 +14,11 @@ namespace dialog {
 /// What the program was asked to do.
 struct CommandLine
 {
-    enum class Command { OpenDialog, Replay, ShowHelp, ShowVersion };
+    enum class Command { OpenDialog, Print, Replay, ShowHelp, ShowVersion };
 
     Command command = Command::OpenDialog;
     PrintCase printCase;
+    batch::Request request; ///< of Print
     QString scenario;
     QString report; ///< null: none; "-": standard output
     QString record; ///< null: none

@@ -1,5 +1,7 @@
 #include "dialog/program.h"
 
+#include "dialog/batch/batch_run.h"
+#include "dialog/batch/signal_watch.h"
 #include "dialog/check/check_command.h"
 #include "dialog/command_line.h"
 #include "dialog/log/log_command.h"
@@ -28,10 +30,11 @@ void writeConsoleLine(const QString &line)
     std::fprintf(stderr, "%s\n", text.toUtf8().constData());
 }
 
-/// Console lines would only disturb a person at a terminal.
-void setUpConsole(const PrintCase &printCase)
+/// Console lines would only disturb a person at a terminal, and a script that looks for faults.
+void setUpConsole(const CommandLine &line)
 {
-    const bool isSilent = !printCase.showsConsole && isatty(STDERR_FILENO);
+    const bool isSilent = !line.printCase.showsConsole &&
+                          (isatty(STDERR_FILENO) || line.command == CommandLine::Command::Print);
     if (isSilent)
         platform::setConsoleSink([](const QString &) {});
     else
@@ -136,9 +139,20 @@ int runReplay(const CommandLine &line, std::unique_ptr<record::Recording> record
     return status;
 }
 
+int runPrint(const CommandLine &line)
+{
+    batch::BatchRun run(line.printCase, line.request);
+    const batch::SignalWatch signalWatch;
+    QObject::connect(&signalWatch, &batch::SignalWatch::caught, &run, &batch::BatchRun::interrupt);
+    QObject::connect(&run, &batch::BatchRun::finished, qApp,
+                     [](int status) { QCoreApplication::exit(status); });
+    run.start();
+    return QCoreApplication::exec();
+}
+
 int runCommand(const CommandLine &line)
 {
-    setUpConsole(line.printCase);
+    setUpConsole(line);
     std::unique_ptr<record::Recording> recording;
     if (!line.record.isNull()) {
         record::Recording::Opened made = record::Recording::create(line.record);
@@ -147,6 +161,8 @@ int runCommand(const CommandLine &line)
         recording = std::move(std::get<std::unique_ptr<record::Recording>>(made));
     }
     switch (line.command) {
+    case CommandLine::Command::Print:
+        return runPrint(line);
     case CommandLine::Command::Replay:
         return runReplay(line, std::move(recording));
     case CommandLine::Command::ShowHelp:
@@ -161,12 +177,14 @@ int runCommand(const CommandLine &line)
     return runDialog(line, std::move(recording));
 }
 
-/// Replay works where there is no display at all.
-void chooseQtPlatform(bool isReplay)
+/// Replay works where there is no display at all; a job without a window never uses one.
+void chooseQtPlatform(CommandLine::Command command)
 {
-    const bool hasDisplay =
-        qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    if (isReplay && !hasDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    using Command = CommandLine::Command;
+    const bool isFree = !qEnvironmentVariableIsSet("DISPLAY") &&
+                        !qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
+                        !qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    if (command == Command::Print || (command != Command::OpenDialog && isFree))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
@@ -211,7 +229,7 @@ int runProgram(int argc, char **argv)
     if (const auto *error = std::get_if<UsageError>(&parsed))
         return refuse(error->message);
     const auto &line = std::get<CommandLine>(parsed);
-    chooseQtPlatform(line.command != CommandLine::Command::OpenDialog);
+    chooseQtPlatform(line.command);
     QApplication application(argc, argv);
     if (QGuiApplication::platformName() == QLatin1String("offscreen"))
         formerMessageHandler() = qInstallMessageHandler(dropRemarksOnMissingDisplay);
