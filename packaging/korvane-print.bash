@@ -7,13 +7,13 @@ _korvane_print_value() {
     case $option in
     --ppd) _korvane_print_files "$word" '*.ppd' ;;
     --root | --job-folder | --pictures) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
-    --report | --record) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
+    --report | --record | --print) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
     --queue) mapfile -t COMPREPLY < <(compgen -W "$(lpstat -e 2>/dev/null)" -- "$word") ;;
     --system-version) mapfile -t COMPREPLY < <(compgen -W '0x1049 0x1050 0x1060' -- "$word") ;;
     --language) mapfile -t COMPREPLY < <(compgen -W 'de en es fr it ja pt zh_CN' -- "$word") ;;
     --kind) mapfile -t COMPREPLY < <(compgen -W 'I E D A N Z' -- "$word") ;;
     --level) mapfile -t COMPREPLY < <(compgen -W '1 2 3 4 5 6 7' -- "$word") ;;
-    --class | --operation | --text | --action | --file) COMPREPLY=() ;;
+    --class | --operation | --text | --action | --file | --set) COMPREPLY=() ;;
     *) return 1 ;;
     esac
 }
@@ -30,7 +30,7 @@ _korvane_print() {
     local word=${COMP_WORDS[COMP_CWORD]} former=${COMP_WORDS[COMP_CWORD - 1]} command=
     local dialog='--ppd --root --system-version --language --queue --job-folder --record --console'
     local -A options=(
-        [dialog]="$dialog --list --help --version"
+        [dialog]="$dialog --print --set --dry-run --json --print-anyway --list --help --version"
         [--list]='--json --language --help'
         [replay]="$dialog --report --pictures --stable --help --version"
         [log]='--class --operation --kind --text --actions --action --on --off --level --file --help'

@@ -8,13 +8,13 @@
 #include "dialog/printers/queue_list.h"
 #include "dialog/printers/unsendable.h"
 #include "dialog/replay/nearest_name.h"
-#include "dialog/texts.h"
 #include "dialog/usage.h"
 #include "dialog/window/printer_words.h"
 #include "platform/controls/modal_session.h"
 
 #include <QApplication>
 #include <QDialog>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -56,6 +56,8 @@ void BatchRun::start()
     const QString problem = PrintDialog::prepare(case_);
     if (!problem.isNull())
         return fail(CouldNotStart, problem);
+    if (!case_.document.isNull() && QFileInfo(case_.document).size() == 0)
+        return fail(CouldNotStart, QStringLiteral("the document %1 is empty").arg(case_.document));
     if (case_.ppd.isNull())
         return openQueue();
     PpdDocument::Opened opened = PpdDocument::open(case_.ppd);
@@ -85,7 +87,9 @@ void BatchRun::takeQueue(std::optional<QueuePrinter> answer)
     case Outcome::NoQueue:
         return missQueue();
     case Outcome::BrokenPpd:
-        return fail(CouldNotStart, text(Text::QueuePpdBroken, {case_.queue, answer->reason}));
+        return fail(
+            CouldNotStart,
+            QStringLiteral("the PPD of queue %1 is damaged: %2").arg(case_.queue, answer->reason));
     case Outcome::ServerFailed:
         return fail(CouldNotStart, problemText(answer->problem));
     }
