@@ -17,6 +17,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace dialog {
@@ -183,6 +184,7 @@ void PrintWindow::clearPanels()
     popUp_->clear();
     chooser_->hide();
     front_ = -1;
+    widest_ = 0;
     setPrintProblem({});
     notices_->dismissGroup({});
 }
@@ -230,7 +232,11 @@ void PrintWindow::fitContents()
     for (QWidget *inner = panelPlace_; inner != this; inner = inner->parentWidget())
         inner->updateGeometry(); // a scroll area keeps such news from its parents
     layout()->activate();
-    resize(neededSize().expandedTo(personsSize_).boundedTo(screen()->availableSize()));
+    const QSize needed = neededSize();
+    widest_ = std::max(widest_, needed.width()); // no panel makes the window narrower than another
+    resize(QSize(widest_, needed.height())
+               .expandedTo(personsSize_)
+               .boundedTo(screen()->availableSize()));
     setUpdatesEnabled(updates);
 }
 

@@ -102,6 +102,7 @@ private:
     QPushButton *print_ = nullptr;
     std::vector<QPointer<QWidget>> views_;
     int front_ = -1;
+    int widest_ = 0;    ///< width that a panel of this printer has needed
     QSize personsSize_; ///< invalid until a person has made the window larger or smaller
     bool isSending_ = false;
     bool isWaiting_ = false;
