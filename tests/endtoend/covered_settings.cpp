@@ -55,11 +55,14 @@ constexpr Turn kSecondTurns[] = {
 // What a story is beside its choices.
 constexpr int kVersions[] = {kSystem104, kSystem105, kSystem106};
 constexpr const char *kVersion = "system";
+constexpr const char *kOldestVersion = "0x1049";
 constexpr const char *kNewestVersion = "0x1060";
 constexpr const char *kOrder = "order";
 constexpr const char *kDown = "down";
 constexpr const char *kUp = "up";
 constexpr const char *kAnswer = "answer";
+constexpr const char *kFirst = "first";
+constexpr const char *kSecond = "second";
 constexpr const char *kLeft = "left alone";
 
 /// Of each pair the one that a printer with both hides.
@@ -117,6 +120,29 @@ constexpr Closed kClosed[] = {
     {{"ImprovePrintQuality", nullptr}, {"ImprovementSettings", "Off"}, {},              "nothing is improved"},
     {{"ImprovePrintQuality", nullptr}, {kOrder, kUp},                  {},              "improving is switched on later"},
 };
+
+/// More than two choices that have a meaning together, beside the pairs.
+const std::vector<NamedChoice> kTogether[] = {
+    // Conflict windows that need another turn after the choices that contradict each other.
+    {{kVersion, kOldestVersion}, {kOrder, kDown}, {"PrintQuality", "Draft"}, {"MediaType", "IronOn"}, {kAnswer, kFirst}},
+    {{kVersion, kOldestVersion}, {kOrder, kDown}, {"PrintQuality", "Draft"}, {"MediaType", "IronOn"}, {kAnswer, kSecond}},
+    {{kVersion, kOldestVersion}, {kOrder, kUp},   {"PrintQuality", "Draft"}, {"MediaType", "IronOn"}, {"Mirror", "On"}, {kAnswer, kFirst}},
+    {{kVersion, kOldestVersion}, {kOrder, kUp},   {"PrintQuality", "Draft"}, {"MediaType", "IronOn"}, {"Mirror", "On"}, {kAnswer, kSecond}},
+    {{kVersion, kOldestVersion}, {kOrder, kUp},   {"InkToUse", "ColorBlack"}, {"ColorOutput", kLeft}, {"MediaType", "PremiumGlossy"}, {kAnswer, kFirst}},
+    {{kVersion, kOldestVersion}, {kOrder, kUp},   {"InkToUse", "ColorBlack"}, {"ColorOutput", kLeft}, {"MediaType", "PremiumGlossy"}, {kAnswer, kSecond}},
+    {{kVersion, kOldestVersion}, {kOrder, kDown}, {"InkToUse", "BlackOnly"},  {"ColorOutput", "Black"}, {"MediaType", "PremiumGlossy"}, {"Mirror", "On"}, {kAnswer, kFirst}},
+    {{kVersion, kOldestVersion}, {kOrder, kDown}, {"InkToUse", "BlackColor"}, {"ColorOutput", "Black"}, {"MediaType", "PremiumGlossy"}, {"Mirror", "On"}, {kAnswer, kSecond}},
+    {{kVersion, kOldestVersion}, {"MediaType", "Envelope"}, {"PrintQuality", "Best"}, {kAnswer, kFirst}},
+    {{kVersion, kOldestVersion}, {"MediaType", "Envelope"}, {"PrintQuality", "Best"}, {kAnswer, kSecond}},
+    // What is typed and what is refused comes to the dialog with colour output's second turn.
+    {{kVersion, kNewestVersion}, {"typed Threshold", "5"}, {"Threshold", kLeft}, {"ColorOutput again", "Gray"}},
+    {{kVersion, kNewestVersion}, {"TonerSave", "On"}, {kOrder, kDown}, {"PrintQuality", "Best"}, {"ColorOutput again", "Gray"}},
+    // What the panel hands over though the dialog has refused it, and what it does not.
+    {{kVersion, kNewestVersion}, {kOrder, kDown}, {"PrintQuality", "Draft"}, {"HalftoneLevel", "Smooth"}, {"ColorOutput again", kLeft}},
+    {{kVersion, kNewestVersion}, {kOrder, kUp},   {"MediaType", "IronOn"}, {"PrintQuality", "Draft"}},
+    {{kVersion, kNewestVersion}, {kOrder, kDown}, {"MediaType", "PremiumGlossy"}, {"ColorOutput", "Black"}, {"InkToUse", "BlackOnly"}, {"ColorOutput again", kLeft}},
+    {{kVersion, kNewestVersion}, {kOrder, kDown}, {"ImprovementSettings", "On"}, {"ImprovePrintQuality", "ImproveTonerFixing"}, {"ImprovementSettings again", "Off"}},
+};
 // clang-format on
 
 QString hex(int version)
@@ -142,7 +168,7 @@ public:
             versions.append(hex(version));
         all_ = {{q(kVersion), versions},
                 {q(kOrder), {q(kDown), q(kUp)}},
-                {q(kAnswer), {q("first"), q("second")}}};
+                {q(kAnswer), {q(kFirst), q(kSecond)}}};
         for (const Turn &turn : kTurns)
             add(turn);
         for (const Turn &turn : kSecondTurns)
@@ -157,20 +183,36 @@ public:
         return counts;
     }
 
-    [[nodiscard]] std::vector<Exclusion> exclusions() const
+    [[nodiscard]] std::vector<Assignments> exclusions() const
     {
-        std::vector<Exclusion> exclusions;
+        std::vector<Assignments> exclusions;
         for (const Closed &closed : kClosed) {
             if (closed.onlyWith && !printer_.hasOption(q(closed.onlyWith)))
                 continue;
-            for (Exclusion &exclusion : expanded(closed))
+            for (Assignments &exclusion : expanded(closed))
                 exclusions.push_back(std::move(exclusion));
         }
         return exclusions;
     }
 
+    /// Those whose choices the printer has.
+    [[nodiscard]] std::vector<Assignments> together() const
+    {
+        std::vector<Assignments> all;
+        for (const std::vector<NamedChoice> &choices : kTogether) {
+            Assignments found;
+            for (const NamedChoice &named : choices) {
+                const Assignments one = assignments(named);
+                found.insert(found.end(), one.begin(), one.end());
+            }
+            if (found.size() == choices.size())
+                all.push_back(found);
+        }
+        return all;
+    }
+
     /// A row with nothing chosen but this.
-    [[nodiscard]] CoveringRow rowWith(const Exclusion &assignments) const
+    [[nodiscard]] CoveringRow rowWith(const Assignments &assignments) const
     {
         CoveringRow row(all_.size(), 0);
         for (const Assignment &assignment : assignments)
@@ -216,9 +258,9 @@ private:
     }
 
     /// Nothing for a factor or choice that the printer does not have.
-    [[nodiscard]] std::vector<Assignment> assignments(const NamedChoice &named) const
+    [[nodiscard]] Assignments assignments(const NamedChoice &named) const
     {
-        std::vector<Assignment> found;
+        Assignments found;
         for (std::size_t i = 0; i < all_.size(); ++i) {
             if (all_[i].name != q(named.factor))
                 continue;
@@ -233,12 +275,12 @@ private:
         return found;
     }
 
-    [[nodiscard]] std::vector<Exclusion> expanded(const Closed &closed) const
+    [[nodiscard]] std::vector<Assignments> expanded(const Closed &closed) const
     {
-        std::vector<Exclusion> exclusions;
+        std::vector<Assignments> exclusions;
         for (const Assignment &control : assignments(closed.control)) {
             for (const Assignment &beside : assignments(closed.beside)) {
-                Exclusion exclusion{control, beside};
+                Assignments exclusion{control, beside};
                 if (closed.andBeside.factor)
                     exclusion.push_back(assignments(closed.andBeside).front());
                 exclusions.push_back(exclusion);
@@ -273,8 +315,9 @@ private:
 CoveredSettings coverSettings(const dialog::PpdDocument &printer, unsigned seed)
 {
     const Factors factors(printer);
-    const CoveringArray array = coverPairs(factors.choiceCounts(), factors.exclusions(), seed);
-    CoveredSettings covered{{}, array.covered.size(), array.impossible.size()};
+    const CoveringArray array =
+        coverPairs({factors.choiceCounts(), factors.exclusions(), factors.together(), seed});
+    CoveredSettings covered{{}, array.covered.size(), array.impossible.size(), array.unmet.size()};
     for (const CoveringRow &row : array.rows)
         covered.stories.push_back(factors.story(row));
     return covered;
@@ -284,7 +327,7 @@ std::vector<ClosedChoice> closedChoices(const dialog::PpdDocument &printer)
 {
     const Factors factors(printer);
     std::vector<ClosedChoice> closed;
-    for (const Exclusion &exclusion : factors.exclusions()) {
+    for (const Assignments &exclusion : factors.exclusions()) {
         const Choice choice = factors.choiceOf(exclusion.front());
         Story story = factors.story(factors.rowWith(exclusion));
         const auto turn = std::find(story.chosen.begin(), story.chosen.end(), choice);

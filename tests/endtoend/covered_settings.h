@@ -22,6 +22,7 @@ struct CoveredSettings
     std::vector<Story> stories;
     std::size_t pairs = 0;      ///< that the stories have
     std::size_t impossible = 0; ///< that a rule keeps any story from having
+    std::size_t unmet = 0;      ///< choices that are wanted together, and cannot be
 };
 
 /// Stories that choose among all settings that the printer has in both panels. Each setting is left

@@ -44,6 +44,7 @@ void expectEveryPairToArrive(const AnyPrinter &printer, unsigned seed)
 {
     Printing printing(printer.ppd());
     const CoveredSettings covered = coverSettings(printing.open()->dialog().printer(), seed);
+    EXPECT_EQ(covered.unmet, 0U);
     for (const Story &story : covered.stories) {
         printing.play(story);
         if (testing::Test::HasFatalFailure())

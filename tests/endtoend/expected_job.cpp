@@ -78,6 +78,11 @@ constexpr Excluded kExcluded[] = {
     {{"InkToUse", "ColorOnly"},  {"ColorOutput", "Black"},              "begins with the other output's ink"},
     {{"InkToUse", "ColorBlack"}, {"ColorOutput", "Black"},              "begins with the other output's ink"},
     {{"TonerSave", "On"},        {"PrintQuality", "Best"},              "best quality takes toner"},
+    {{"HalftoneLevel", "Smooth"}, {"PrintQuality", "Draft"}, "the printer with everything: to be refused", "InkToUse"},
+    {{"Threshold", "5"},  {"PrintQuality", "Draft"}, "the printer with everything: to be refused", "InkToUse"},
+    {{"Mirror", "On"},    {"MediaType", "Transparency"}, "the printer with everything: to be refused", "TonerSave"},
+    {{"Sharpen", "High"}, {"Mirror", "On"}, "the printer with everything: to be refused", "TonerSave"},
+    {{"PaperSource", "Tray2"}, {"MediaType", "Greeting"}, "the printer with everything: to be refused", "TonerSave"},
     {{"TonerSave", "On"},        {"PrintDensity", "On"},                "density takes toner"},
 };
 
@@ -211,12 +216,14 @@ public:
             setMirror(true);
     }
 
-    /// A box that is so already is clicked twice.
+    /// A box that is so already is clicked away from it first.
     void pick(const Choice &picked)
     {
-        if (isOnOff(picked) && holds(held_, picked))
+        const bool isBox = isOnOff(picked);
+        if (isBox && holds(held_, picked))
             act({picked.option, opposite(picked.choice)});
-        act(picked);
+        if (!isBox || !holds(held_, picked))
+            act(picked);
     }
 
     [[nodiscard]] ExpectedJob job() const

@@ -87,8 +87,8 @@ void clickBox(QCheckBox *box, bool isOn)
 {
     if (box->isChecked() == isOn)
         expectDone(input::click(box));
-    expectDone(input::click(box));
-    EXPECT_EQ(box->isChecked(), isOn);
+    if (box->isChecked() != isOn) // no click has been refused
+        expectDone(input::click(box));
 }
 
 void stepTo(Stepper *stepper, int value)

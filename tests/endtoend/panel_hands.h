@@ -20,8 +20,8 @@ namespace test {
 /// Why a person cannot choose that now, in the panel in front; null if one can.
 [[nodiscard]] QString obstacleTo(const QWidget *window, const dialog::Choice &choice);
 /// Chooses it with events as from the window system, whatever kind of control it is: opens a pop-up
-/// and picks the item, clicks a box (twice where it is so already), a row or a stepper, types into
-/// a field. Fails the test when a person could not.
+/// and picks the item, clicks a box (away and back where it is so already), a row or a stepper,
+/// types into a field. Fails the test when a person could not.
 void choose(QWidget *window, const dialog::Choice &choice);
 
 /// Answers the windows that ask about conflicts, as they come.

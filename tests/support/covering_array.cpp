@@ -26,18 +26,23 @@ std::set<AssignmentPair> everyPair(const std::vector<int> &choiceCounts)
 class Greedy
 {
 public:
-    Greedy(const std::vector<int> &choiceCounts, const std::vector<Exclusion> &exclusions,
-           unsigned seed)
-        : counts_(choiceCounts), exclusions_(exclusions), random_(seed),
-          missing_(everyPair(choiceCounts))
+    explicit Greedy(const CoveringTask &task)
+        : task_(task), random_(task.seed), missing_(everyPair(task.choiceCounts))
     {
         orderFactors();
     }
 
     CoveringArray build()
     {
-        while (!missing_.empty())
-            addRowWith(*missing_.begin());
+        for (const Assignments &required : task_.required) {
+            if (!addRowWith(required))
+                array_.unmet.push_back(required);
+        }
+        while (!missing_.empty()) {
+            const AssignmentPair pair = *missing_.begin();
+            if (!addRowWith({pair.first, pair.second}))
+                array_.impossible.insert(missing_.extract(pair));
+        }
         return std::move(array_);
     }
 
@@ -45,22 +50,26 @@ private:
     /// Factors of exclusions first, so that a dead end shows early; then those with most choices.
     void orderFactors()
     {
-        order_.resize(counts_.size());
+        order_.resize(task_.choiceCounts.size());
         std::iota(order_.begin(), order_.end(), 0);
         std::stable_sort(order_.begin(), order_.end(), [this](int a, int b) {
-            return std::pair(isInExclusion(a), count(a)) > std::pair(isInExclusion(b), count(b));
+            return std::pair(isInExcluded(a), count(a)) > std::pair(isInExcluded(b), count(b));
         });
     }
 
-    [[nodiscard]] bool isInExclusion(int factor) const
+    [[nodiscard]] bool isInExcluded(int factor) const
     {
-        return std::any_of(exclusions_.begin(), exclusions_.end(), [&](const Exclusion &excluded) {
-            return std::any_of(excluded.begin(), excluded.end(),
-                               [&](const Assignment &part) { return part.factor == factor; });
-        });
+        return std::any_of(
+            task_.excluded.begin(), task_.excluded.end(), [&](const Assignments &excluded) {
+                return std::any_of(excluded.begin(), excluded.end(),
+                                   [&](const Assignment &part) { return part.factor == factor; });
+            });
     }
 
-    [[nodiscard]] int count(int factor) const { return counts_[static_cast<std::size_t>(factor)]; }
+    [[nodiscard]] int count(int factor) const
+    {
+        return task_.choiceCounts[static_cast<std::size_t>(factor)];
+    }
 
     static int &at(CoveringRow &row, int factor) { return row[static_cast<std::size_t>(factor)]; }
     static int at(const CoveringRow &row, int factor)
@@ -68,21 +77,19 @@ private:
         return row[static_cast<std::size_t>(factor)];
     }
 
-    void addRowWith(AssignmentPair pair)
+    [[nodiscard]] bool addRowWith(const Assignments &assignments)
     {
-        CoveringRow row(counts_.size(), kOpen);
-        at(row, pair.first.factor) = pair.first.choice;
-        at(row, pair.second.factor) = pair.second.choice;
-        if (!isAllowed(row) || !complete(row, 0)) {
-            array_.impossible.insert(pair);
-            missing_.erase(pair);
-            return;
-        }
+        CoveringRow row(task_.choiceCounts.size(), kOpen);
+        for (const Assignment &assignment : assignments)
+            at(row, assignment.factor) = assignment.choice;
+        if (!isAllowed(row) || !complete(row, 0))
+            return false;
         for (const AssignmentPair &got : pairsOf(row)) {
             missing_.erase(got);
             array_.covered.insert(got);
         }
         array_.rows.push_back(row);
+        return true;
     }
 
     /// Gives the open factors a choice each; false, and the row as it was, when there is no way.
@@ -131,11 +138,12 @@ private:
 
     [[nodiscard]] bool isAllowed(const CoveringRow &row) const
     {
-        return std::none_of(exclusions_.begin(), exclusions_.end(), [&](const Exclusion &excluded) {
-            return std::all_of(excluded.begin(), excluded.end(), [&](const Assignment &part) {
-                return at(row, part.factor) == part.choice;
+        return std::none_of(
+            task_.excluded.begin(), task_.excluded.end(), [&](const Assignments &excluded) {
+                return std::all_of(excluded.begin(), excluded.end(), [&](const Assignment &part) {
+                    return at(row, part.factor) == part.choice;
+                });
             });
-        });
     }
 
     static std::vector<AssignmentPair> pairsOf(const CoveringRow &row)
@@ -148,8 +156,7 @@ private:
         return pairs;
     }
 
-    const std::vector<int> &counts_;
-    const std::vector<Exclusion> &exclusions_;
+    const CoveringTask &task_;
     std::mt19937 random_;
     std::vector<int> order_;
     std::set<AssignmentPair> missing_;
@@ -158,10 +165,9 @@ private:
 
 } // namespace
 
-CoveringArray coverPairs(const std::vector<int> &choiceCounts,
-                         const std::vector<Exclusion> &exclusions, unsigned seed)
+CoveringArray coverPairs(const CoveringTask &task)
 {
-    return Greedy(choiceCounts, exclusions, seed).build();
+    return Greedy(task).build();
 }
 
 } // namespace test

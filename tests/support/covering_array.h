@@ -15,24 +15,30 @@ struct Assignment
     auto operator<=>(const Assignment &) const = default;
 };
 
-/// Assignments of different factors that cannot all stand in one row.
-using Exclusion = std::vector<Assignment>;
+/// Of different factors.
+using Assignments = std::vector<Assignment>;
 /// The choice of every factor.
 using CoveringRow = std::vector<int>;
 /// The one with the lower factor first.
 using AssignmentPair = std::pair<Assignment, Assignment>;
 
-struct CoveringArray
+struct CoveringTask
 {
-    std::vector<CoveringRow> rows;
-    std::set<AssignmentPair> covered;
-    std::set<AssignmentPair> impossible; ///< in no row without an exclusion
+    std::vector<int> choiceCounts = {};     ///< of each factor
+    std::vector<Assignments> excluded = {}; ///< not all together in a row
+    std::vector<Assignments> required = {}; ///< all together in a row, beside the pairs
+    unsigned seed = 0; ///< the same one gives the same rows, another one others
 };
 
-/// Few rows that together have every pair of assignments that any row without an exclusion can
-/// have. @p choiceCounts says how many choices each factor has. The same seed gives the same rows,
-/// another one others.
-[[nodiscard]] CoveringArray coverPairs(const std::vector<int> &choiceCounts,
-                                       const std::vector<Exclusion> &exclusions, unsigned seed = 0);
+struct CoveringArray
+{
+    std::vector<CoveringRow> rows; ///< the required ones first
+    std::set<AssignmentPair> covered;
+    std::set<AssignmentPair> impossible; ///< in no row without what is excluded
+    std::vector<Assignments> unmet;      ///< of the required ones; none if the task makes sense
+};
+
+/// Few rows that together have every pair of assignments that any row can have.
+[[nodiscard]] CoveringArray coverPairs(const CoveringTask &task);
 
 } // namespace test
