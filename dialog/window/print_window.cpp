@@ -2,6 +2,7 @@
 
 #include "dialog/window/content_scroll.h"
 #include "dialog/window/notice_area.h"
+#include "dialog/window/print_button.h"
 #include "platform/controls/pop_up_button.h"
 
 #include <QAction>
@@ -11,6 +12,7 @@
 #include <QFormLayout>
 #include <QFrame>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -120,18 +122,19 @@ QWidget *PrintWindow::makeChooser()
 QWidget *PrintWindow::makeButtons()
 {
     auto *buttons = new QDialogButtonBox(this);
-    const auto add = [&](const QString &title, QDialogButtonBox::ButtonRole role,
-                         const char *name) {
-        QPushButton *button = buttons->addButton(title, role);
+    const auto add = [&](QPushButton *button, QDialogButtonBox::ButtonRole role, const char *name) {
+        buttons->addButton(button, role);
         button->setObjectName(QString::fromLatin1(name));
         button->setAutoDefault(false);
         return button;
     };
-    QPushButton *help = add(tr("Help"), QDialogButtonBox::HelpRole, "helpButton");
-    reset_ = add(tr("Reset to Defaults"), QDialogButtonBox::ResetRole, "resetButton");
-    save_ = add(tr("Save"), QDialogButtonBox::ActionRole, "saveButton");
-    QPushButton *cancel = add(tr("Cancel"), QDialogButtonBox::RejectRole, "cancelButton");
-    print_ = add(tr("Print"), QDialogButtonBox::AcceptRole, "printButton");
+    const auto plain = [&](const QString &title, QDialogButtonBox::ButtonRole role,
+                           const char *name) { return add(new QPushButton(title), role, name); };
+    QPushButton *help = plain(tr("Help"), QDialogButtonBox::HelpRole, "helpButton");
+    reset_ = plain(tr("Reset to Defaults"), QDialogButtonBox::ResetRole, "resetButton");
+    save_ = plain(tr("Save"), QDialogButtonBox::ActionRole, "saveButton");
+    QPushButton *cancel = plain(tr("Cancel"), QDialogButtonBox::RejectRole, "cancelButton");
+    print_ = add(new PrintButton(tr("Print")), QDialogButtonBox::AcceptRole, "printButton");
     print_->setDefault(true);
     save_->setMenu(new QMenu(save_));
     save_->hide();
@@ -284,6 +287,14 @@ void PrintWindow::allowPrinting()
     print_->setEnabled(!isSending_ && !isWaiting_ && printProblem_.isNull());
     reset_->setEnabled(!isSending_ && !isWaiting_);
     printer_->setEnabled(!isSending_);
+}
+
+/// Return presses the default button, a Return that is held down once.
+void PrintWindow::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn || !event->isAutoRepeat())
+        QDialog::keyPressEvent(event);
 }
 
 void PrintWindow::reject()

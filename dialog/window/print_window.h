@@ -70,6 +70,7 @@ Q_SIGNALS:
     void left();
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void reject() override;
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;

@@ -104,8 +104,7 @@ QString DialogRun::obstacleTo(const dialog::Choice &choice)
 
 QString DialogRun::shown(const QString &option) const
 {
-    const auto *popUp = qobject_cast<QComboBox *>(controlOf(dialog_->window(), option));
-    return popUp ? popUp->currentData().toString() : QString();
+    return shownChoice(dialog_->window(), option);
 }
 
 bool DialogRun::answerReview()
@@ -117,9 +116,9 @@ bool DialogRun::answerReview()
     return true;
 }
 
-std::optional<PrintedJob> DialogRun::print()
+Pressed DialogRun::press()
 {
-    std::optional<PrintedJob> job;
+    Pressed pressed;
     bool hasEnded = false;
     QEventLoop loop;
     const auto end = [&] {
@@ -127,12 +126,12 @@ std::optional<PrintedJob> DialogRun::print()
         loop.quit();
     };
     const auto fail = [&](const QString &notice) {
-        ADD_FAILURE() << notice.toStdString();
+        pressed.failure = notice;
         end();
     };
     QObject::connect(dialog_.get(), &dialog::PrintDialog::jobMade, &loop,
                      [&](const dialog::JobRecord &record) {
-                         job = jobOf(record);
+                         pressed.job = jobOf(record);
                          end();
                      });
     QObject::connect(dialog_.get(), &dialog::PrintDialog::jobFailed, &loop, fail);
@@ -141,9 +140,16 @@ std::optional<PrintedJob> DialogRun::print()
     const bool wasReviewed = !hasEnded && answerReview();
     if (!hasEnded)
         loop.exec();
-    if (job)
-        job->wasReviewed = wasReviewed;
-    return job;
+    if (pressed.job)
+        pressed.job->wasReviewed = wasReviewed;
+    return pressed;
+}
+
+std::optional<PrintedJob> DialogRun::print()
+{
+    const Pressed pressed = press();
+    EXPECT_TRUE(pressed.job) << pressed.failure.toStdString();
+    return pressed.job;
 }
 
 } // namespace test

@@ -24,6 +24,13 @@ struct PrintedJob
     bool wasReviewed = false; ///< whether the dialog asked before it printed
 };
 
+/// What a press of Print came to; a failure in the dialog's words, null when there is none.
+struct Pressed
+{
+    std::optional<PrintedJob> job;
+    QString failure;
+};
+
 /// What the panels offered, in order, with the dialog's answers.
 struct AnsweredOffer
 {
@@ -51,12 +58,13 @@ public:
     void choose(const dialog::Choice &choice);
     /// Shows the panel; why a person could not choose that now, or null.
     [[nodiscard]] QString obstacleTo(const dialog::Choice &choice);
-    /// Keyword of the item that the option's pop-up shows.
+    /// The choice that the option's control shows, null without a control.
     [[nodiscard]] QString shown(const QString &option) const;
     [[nodiscard]] const std::vector<AnsweredOffer> &offers() const { return offers_; }
 
-    /// Clicks Print, and "Print Anyway" where the dialog asks; nothing, with a failure, when no job
-    /// comes of it.
+    /// Clicks Print, and "Print Anyway" where the dialog asks, and waits for what comes of it.
+    Pressed press();
+    /// The same; nothing, with a failure, when no job comes of it.
     [[nodiscard]] std::optional<PrintedJob> print();
 
 private:

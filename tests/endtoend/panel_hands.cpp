@@ -143,6 +143,22 @@ QWidget *controlOf(const QWidget *window, const QString &option)
     return control;
 }
 
+QString shownChoice(const QWidget *window, const QString &option)
+{
+    const QWidget *control = controlOf(window, option);
+    if (const auto *popUp = qobject_cast<const QComboBox *>(control))
+        return popUp->currentData().toString();
+    if (const auto *box = qobject_cast<const QCheckBox *>(control))
+        return box->isChecked() ? q("On") : q("Off");
+    if (const auto *stepper = qobject_cast<const Stepper *>(control))
+        return QString::number(stepper->value());
+    if (const auto *field = qobject_cast<const QLineEdit *>(control))
+        return field->text();
+    if (const auto *matrix = qobject_cast<const RadioMatrix *>(control))
+        return q(kImprovements[matrix->selectedRow()]);
+    return {};
+}
+
 QString obstacleTo(const QWidget *window, const Choice &choice)
 {
     const QWidget *control = controlOf(window, choice.option);

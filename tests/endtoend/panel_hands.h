@@ -17,6 +17,10 @@ namespace test {
 /// The control of an option, wherever it is in the window; null if there is none.
 [[nodiscard]] QWidget *controlOf(const QWidget *window, const QString &option);
 
+/// The choice that the option's control shows: a pop-up's keyword, "On" or "Off", a number, the
+/// choice of a row. Null without a control.
+[[nodiscard]] QString shownChoice(const QWidget *window, const QString &option);
+
 /// Why a person cannot choose that now, in the panel in front; null if one can.
 [[nodiscard]] QString obstacleTo(const QWidget *window, const dialog::Choice &choice);
 /// Chooses it with events as from the window system, whatever kind of control it is: opens a pop-up

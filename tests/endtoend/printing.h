@@ -41,11 +41,15 @@ public:
 
     [[nodiscard]] static QString queue() { return QStringLiteral("ink"); }
     [[nodiscard]] const PrivateCupsd &server() const { return server_; }
+    [[nodiscard]] PrivateCupsd &server() { return server_; }
     /// The dialog on the queue, without panels so far.
-    [[nodiscard]] std::unique_ptr<DialogRun> open(int systemVersion = kSystem106) const;
+    [[nodiscard]] std::unique_ptr<DialogRun> open(int systemVersion = kSystem106,
+                                                  const dialog::ServerLimits &limits = {}) const;
 
     /// Prints from the dialog; the ticket is compared now, what arrives later.
     void print(DialogRun &run, const ExpectedJob &expected, const QString &description);
+    /// The second half of it, for a job that has been printed.
+    void expect(const PrintedJob &job, const ExpectedJob &expected, const QString &description);
     /// The whole story in a dialog of its own.
     void play(const Story &story);
 
