@@ -49,6 +49,8 @@ public:
     void settleEarlier();
     /// What Print would make now. Commits the panels.
     [[nodiscard]] Ticket ticket();
+    /// What jobs are made of, as it stands. Commits nothing.
+    [[nodiscard]] JobSettings jobSettings() const;
 
 Q_SIGNALS:
     void noticed(const dialog::Notice &notice);
@@ -67,7 +69,6 @@ private:
     [[nodiscard]] QString problemBeforePrinting() const;
     void askForReview(const CommitResult &result);
     [[nodiscard]] QString reviewText(const CommitResult &result) const;
-    [[nodiscard]] JobSettings jobSettings() const;
     [[nodiscard]] Ticket makeTicket(const CommitResult &result) const;
     void printToFolder(const Ticket &ticket);
     void printToQueue(const Ticket &ticket);

@@ -168,8 +168,14 @@ void PrintDialog::buildPanels()
 {
     auto *layout = new LayoutPanel(host_.settings());
     connect(layout, &LayoutPanel::settingsChanged, this, &PrintDialog::setSettings);
-    panels_.showIn(*window_, {layout}, {new SummaryPanel(panels_, host_)});
+    panels_.showIn(*window_, {layout}, {makeSummary()});
     panels_.bringForward(panels_.firstIndex());
+}
+
+SummaryPanel *PrintDialog::makeSummary()
+{
+    return new SummaryPanel(panels_, host_, {[this] { return printer_->groups(); },
+                                             [this] { return desk_.jobSettings(); }});
 }
 
 /// Everything that shows what is set follows here.

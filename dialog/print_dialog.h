@@ -19,6 +19,7 @@ namespace dialog {
 
 class HelpWindow;
 class PrintWindow;
+class SummaryPanel;
 
 /// The print dialog as a whole: one printer, the panels of its plug-ins, the window, the job. It
 /// owns the parts and carries words between them; what each does stands in its own file.
@@ -78,6 +79,7 @@ private:
     void connectWindow();
     void buildGeneral();
     void buildPanels();
+    [[nodiscard]] SummaryPanel *makeSummary();
     void showHelp();
     void showOwnHelp();
     void showBook(const platform::HelpRequest &request);

@@ -119,6 +119,105 @@
     </message>
 </context>
 <context>
+    <name>JobSettings</name>
+    <message>
+        <source>Both</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right, then down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down, then right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left, then down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down, then left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right, then up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up, then right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left, then up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up, then left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No border</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thin line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thick line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two thin lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two thick lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit to the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PathRefusal</name>
     <message>
         <source>it lies outside /Library/Printers</source>
@@ -173,6 +272,208 @@
     </message>
     <message>
         <source>The maker&apos;s driver offers no panels for this printer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PresetMessages</name>
+    <message>
+        <source>There is no such preset any more; another print dialog has deleted or renamed it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>There is room for %n preset(s) only. Delete one that is not needed any more.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Another print dialog is changing the presets. Try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets could not be written to “%1” because there is no room left. Free some space and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” may not be read or written. Allow it, and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is a link, belongs to somebody else, or others may write to it. Replace it by a folder that only you may write to.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets in “%1” are of a newer version of this program. Update the program, or move the file away to begin anew.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be used for presets: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file of your presets for this printer was damaged. It is kept as “%1”; what could be read of it is still here. Correct the file and give it back its old name, or delete it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>A name has at most %n character(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Another preset has this name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This printer does not have everything that “%1” sets. These settings were left as the printer has them:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together on this printer:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” and “%2”</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PreviewWords</name>
+    <message>
+        <source>Page %1 is damaged and stays empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages %1 and %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n copies</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>collated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>landscape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>portrait</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>grayscale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>flipped</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PrinterLists</name>
+    <message>
+        <source>As the printer is set</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A6</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>B5 (JIS)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>US Letter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>US Legal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tabloid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photo 10 × 15 cm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DL envelope</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No. 10 envelope</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn on the long edge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn on the short edge</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -243,6 +544,170 @@
     </message>
 </context>
 <context>
+    <name>RangeTexts</name>
+    <message>
+        <source>Type the pages to print, such as 1-3, 5, 8-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is no page number. Write pages as 1-3, 5, 8-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1”: pages count from 1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1”: no document has so many pages.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” runs backwards. Write %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is no range. Write a range as 1-3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1”: the document has only %n page(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SettingWords</name>
+    <message>
+        <source>Copies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order of sheets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Odd or even pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Output tray</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flip horizontally</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First page first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages side by side</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SummaryTexts</name>
+    <message>
+        <source>Job</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>replaced by a setting of the job</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Unsendable</name>
     <message>
         <source>a setting has no name</source>
@@ -278,6 +743,69 @@
     </message>
     <message>
         <source>all settings together are too long</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>dialog::GeneralView</name>
+    <message>
+        <source>Collate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reverse order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How often the document is printed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints one whole copy after the other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints the last page first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which of these pages are printed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the pages lie on the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The paper in the printer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether the paper is printed on both sides</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paper size:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two-sided:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Odd or even:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -321,6 +849,57 @@
     </message>
 </context>
 <context>
+    <name>dialog::LayoutPanel</name>
+    <message>
+        <source>Flip horizontally</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages per sheet:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How many pages share a side of the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout order:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In which order they lie there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Border:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A line around each page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scaling:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How large the pages are on the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints every page as in a mirror</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On this system the printer&apos;s own panel mirrors the pages.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>dialog::NoticeArea</name>
     <message>
         <source>Dismiss this notice</source>
@@ -339,6 +918,90 @@
     </message>
     <message>
         <source>The maker&apos;s driver offers no panels for this printer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PreviewPane</name>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sheet shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make the preview smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make the preview larger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the whole sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Side </source>
+        <extracomment>Stands before the number of the sheet in &quot;Sheet 1 of 3&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sheet </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> of %1</source>
+        <extracomment>Stands behind the number of the sheet in &quot;Sheet 1 of 3&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page is among those chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PreviewWords</name>
+    <message>
+        <source>No document. The sheet stays empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document cannot be read. Check that it is still in its place and that you may read it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is damaged. Open it in the program that made it and save it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is protected by a password. Save a copy of it without the password and print that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document has no pages. Choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is too large to be shown. Scale it down to see it here; it can be printed as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no preview for this kind of document. It can be printed all the same.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -439,6 +1102,52 @@
     </message>
 </context>
 <context>
+    <name>dialog::RangeField</name>
+    <message numerus="yes">
+        <source>The document has %n page(s): it is printed up to its end.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints the whole document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints the pages that are named beside it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only some pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages to print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for example 1-3, 5, 8-</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages and ranges of pages, with commas between them</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>dialog::SignInPrompt</name>
     <message>
         <source>Name:</source>
@@ -473,6 +1182,18 @@
     <name>dialog::SummaryPanel</name>
     <message>
         <source>Summary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No setting matches.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy as Text</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "dialog/panels/own_panel.h"
-#include "platform/panel_protocol.h"
+#include "dialog/panels/summary.h"
 
-#include <QString>
+#include <functional>
+#include <optional>
 
-#include <vector>
-
+class QLabel;
+class QLineEdit;
 class QTreeWidget;
 
 namespace dialog {
@@ -14,34 +15,48 @@ namespace dialog {
 class DialogHost;
 class PanelStack;
 
-/// What one panel says of its settings.
-struct SummarySection
+/// What a summary tells of, beside the panels.
+struct SummarySources
 {
-    QString title;
-    SummaryInfo entries;
+    std::function<OptionGroups()> groups; ///< of the printer; asked once
+    std::function<JobSettings()> job;     ///< as a job would be made now
 };
 
-/// The summary of all panels: a section for each, a row for each of its entries. For reading only.
+/// The summary of all that is set, for reading, finding and copying: a section for each panel, a
+/// row for each setting. What differs from the default is bold, and says so to a screen reader.
 class SummaryPanel : public OwnPanel
 {
     Q_OBJECT
 
 public:
     /// Borrows the panels, of which it tells.
-    SummaryPanel(PanelStack &panels, DialogHost &host, QWidget *parent = nullptr);
+    SummaryPanel(PanelStack &panels, DialogHost &host, SummarySources sources,
+                 QWidget *parent = nullptr);
 
     [[nodiscard]] QString title() const override { return tr("Summary"); }
     [[nodiscard]] QString kind() const override { return QStringLiteral("summary"); }
     void refresh() override;
 
-    /// Replaces what is shown.
-    void show(const std::vector<SummarySection> &sections);
+    /// Replaces what is shown; what was typed to find stays.
+    void show(const Summary &summary);
     using QWidget::show;
 
 private:
+    [[nodiscard]] QWidget *makeSearchRow();
+    void makeShortcuts();
+    [[nodiscard]] std::vector<PanelSummary> panelSummaries() const;
+    [[nodiscard]] Summary shownRows() const;
+    void showRows();
+    void copy() const;
+
     PanelStack &panels_;
     DialogHost &host_;
+    SummarySources sources_;
+    std::optional<OptionGroups> groups_;
+    Summary summary_;
+    QLineEdit *find_;
     QTreeWidget *rows_;
+    QLabel *nothing_; ///< shown when nothing matches
 };
 
 } // namespace dialog
