@@ -135,10 +135,14 @@ CommandLine helpLine(QCommandLineParser &parser, bool isReplay)
         parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("The scenario."));
     } else {
         parser.setApplicationDescription(QStringLiteral(
-            "Opens the print dialog. Instead, \"korvane-print replay\" plays a scenario, "
+            "Opens the print dialog, or with --print prints without a window. Instead, "
+            "\"korvane-print --list\" lists the queues, \"korvane-print replay\" plays a scenario, "
             "\"korvane-print log\" reads a debug log and \"korvane-print check-ppd\" tells what "
             "the "
-            "panels make of a PPD; each has a --help of its own."));
+            "panels make of a PPD; each has a --help of its own.\n\n"
+            "Status of --print and --dry-run: 0 the job was taken over, or would be as chosen; "
+            "1 a choice did not survive the rules, or the job was refused; 2 it could not begin; "
+            "130 or 143 a signal ended it. Unless it is 0, nothing was printed."));
     }
     parser.addPositionalArgument(QStringLiteral("DOCUMENT"),
                                  QStringLiteral("The document to print."),

@@ -148,6 +148,16 @@ TEST_F(Command, TellsEveryMistakeInTheAssignmentsAndBeginsNothing)
     EXPECT_FALSE(QDir(jobs).exists());
 }
 
+TEST_F(Command, TheHelpTellsOptionsAndStatus)
+{
+    const ProgramRun run = runPrint({q("--help")});
+    EXPECT_EQ(run.status, 0);
+    for (const char *word : {"--print <FILE>", "--set <OPTION=CHOICE>", "--dry-run", "--json",
+                             "--print-anyway", "Status of --print"})
+        EXPECT_TRUE(run.output.contains(word)) << word;
+    EXPECT_EQ(runPrint({q("--print"), q("x"), q("--help")}).output, run.output);
+}
+
 // Printers that cannot be had.
 
 TEST_F(Command, TellsWhatIsWrongWithAPpd)

@@ -317,6 +317,20 @@ TEST_F(ScriptPrinting, AServerThatNeverAnswersIsTold)
     EXPECT_TRUE(faults(told).value(0).contains(silent.address())) << told.errors.constData();
 }
 
+TEST_F(ScriptPrinting, AServerThatWantsAPasswordAsksNobody)
+{
+    FaultServer strict(server_.address());
+    strict.demand("clerk", "secret");
+    const ProgramRun withPpd =
+        run({q("--queue"), q("ink"), q("--ppd"),
+             q(KORVANE_ROOT_DIR "/Library/Printers/Korvane/PPDs/Korvane-S300.ppd"), q("--print"),
+             kDocument});
+    EXPECT_EQ(withPpd.status, 1);
+    EXPECT_EQ(faults(withPpd).size(), 1) << withPpd.errors.constData();
+    EXPECT_GT(strict.refusals(), 0);
+    EXPECT_EQ(run({q("--queue"), q("ink"), q("--print"), kDocument}).status, 2);
+}
+
 // README.
 
 TEST_F(ScriptPrinting, TheLinesOfTheReadmeWork)
