@@ -142,7 +142,8 @@ CommandLine helpLine(QCommandLineParser &parser, bool isReplay)
             "panels make of a PPD; each has a --help of its own.\n\n"
             "Status of --print and --dry-run: 0 the job was taken over, or would be as chosen; "
             "1 a choice did not survive the rules, or the job was refused; 2 it could not begin; "
-            "130 or 143 a signal ended it. Unless it is 0, nothing was printed."));
+            "3 the answer was lost, and the next start tells whether it printed; 130 or 143 a "
+            "signal ended it. Unless it is 0 or 3, nothing was printed."));
     }
     parser.addPositionalArgument(QStringLiteral("DOCUMENT"),
                                  QStringLiteral("The document to print."),

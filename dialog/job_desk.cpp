@@ -185,6 +185,7 @@ void JobDesk::printToQueue(const Ticket &ticket)
     }
     Q_EMIT sendingChanged(true);
     sentPercent_ = 0;
+    aftermath_ = Aftermath::None;
     progressDelay_.start();
     connect(
         queuePrinting_, &QueuePrinting::finished, this,
@@ -202,11 +203,19 @@ void JobDesk::showProgress()
          {{tr("Cancel Job"), QStringLiteral("cancelJobButton"), [this] { cancel(); }}}});
 }
 
+Aftermath JobDesk::aftermathOf(const QueueJobResult &result) const
+{
+    if (result.fault == JobFault::MaybePrinted)
+        return Aftermath::MaybePrinted;
+    return queuePrinting_->isUnsettled(case_.document) ? Aftermath::Unsettled : Aftermath::None;
+}
+
 void JobDesk::finishQueueJob(Ticket ticket, const QueueJobResult &result)
 {
     progressDelay_.stop();
     Q_EMIT sendingChanged(false);
     Q_EMIT dismissed(kJobKey);
+    aftermath_ = aftermathOf(result);
     if (result.jobId == 0) {
         fail(faultMessage(result, case_.queue));
     } else {

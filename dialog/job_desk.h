@@ -26,6 +26,13 @@ struct JobRecord
 /// Whether a person is asked before a job prints with conflicts or other choices than made.
 enum class Review { Ask, Skip };
 
+/// What is left of a job that failed.
+enum class Aftermath {
+    None,         ///< nothing of it prints
+    Unsettled,    ///< nobody knows; the next print() finds out before it sends anything
+    MaybePrinted, ///< nobody will know
+};
+
 /// What Print leads to: the panels commit, a person reviews what rules have changed, and the job
 /// goes into its folder or to its queue. One job at a time.
 class JobDesk : public QObject
@@ -43,6 +50,8 @@ public:
     /// Does nothing while a job is on its way.
     void print(Review review);
     [[nodiscard]] bool isSending() const;
+    /// Of the last job, once it has failed.
+    [[nodiscard]] Aftermath aftermath() const { return aftermath_; }
     /// Takes the job on its way back; idle() follows.
     void cancel();
     /// Finds out what became of jobs of programs that are gone.
@@ -73,6 +82,7 @@ private:
     void printToFolder(const Ticket &ticket);
     void printToQueue(const Ticket &ticket);
     void finishQueueJob(Ticket ticket, const QueueJobResult &result);
+    [[nodiscard]] Aftermath aftermathOf(const QueueJobResult &result) const;
     void showProgress();
     void fail(const QString &words);
 
@@ -82,6 +92,7 @@ private:
     QueuePrinting *queuePrinting_ = nullptr; ///< null without a queue
     QTimer progressDelay_;                   ///< a short job shows none
     int sentPercent_ = 0;
+    Aftermath aftermath_ = Aftermath::None;
 };
 
 } // namespace dialog

@@ -151,8 +151,8 @@ void BatchRun::connectDialog()
         say(case_.queue.isNull() ? job.ticketPath : job.id);
         finish(Done);
     });
-    connect(dialog_.get(), &PrintDialog::jobFailed, this,
-            [this] { finish(interruptedBy_ ? BySignal + interruptedBy_ : NotPrinted); });
+    connect(dialog_.get(), &PrintDialog::jobFailed, this, &BatchRun::takeFailure,
+            Qt::QueuedConnection);
 }
 
 /// A panel that asks ends the run: without an answer nobody knows what is to print.
@@ -251,6 +251,18 @@ void BatchRun::conclude()
     if (!request_.sends)
         return finish(Done);
     dialog_->print(Review::Skip);
+}
+
+/// A lost answer is looked for once: what has arrived is not sent again, what has not is.
+void BatchRun::takeFailure()
+{
+    const Aftermath aftermath = dialog_->desk().aftermath();
+    if (interruptedBy_)
+        finish(BySignal + interruptedBy_);
+    else if (aftermath == Aftermath::Unsettled && !std::exchange(hasTriedAgain_, true))
+        dialog_->print(Review::Skip);
+    else
+        finish(aftermath == Aftermath::None ? NotPrinted : NotKnown);
 }
 
 void BatchRun::sayOptions(const JobSettings &job, const std::vector<Loss> &losses) const

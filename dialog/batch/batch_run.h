@@ -20,8 +20,15 @@ struct QueuePrinter;
 
 namespace dialog::batch {
 
-/// Status of a run. Unless it is Done, nothing was printed. A signal's is 128 and its number.
-enum Status { Done = 0, NotPrinted = 1, CouldNotStart = 2, BySignal = 128 };
+/// Status of a run. Unless it is Done or NotKnown, nothing was printed. A signal's is 128 and its
+/// number.
+enum Status {
+    Done = 0,
+    NotPrinted = 1,
+    CouldNotStart = 2,
+    NotKnown = 3, ///< the server's answer was lost; the next start finds out and tells
+    BySignal = 128,
+};
 
 /// Prints a document without a person, through the dialog: its panels are shown in a window that
 /// nobody sees, each assignment is made with the panel's own control where a person could use it,
@@ -59,6 +66,7 @@ private:
     [[nodiscard]] bool chooseInPanel(const Choice &choice);
     void noteSettings();
     void conclude();
+    void takeFailure();
     void tell(const Notice &notice) const;
     void sayOptions(const JobSettings &job, const std::vector<Loss> &losses) const;
     void fail(Status status, const QString &words);
@@ -72,7 +80,8 @@ private:
     int during_ = 0; ///< whose happenings are noted
     std::vector<Happening> course_;
     std::map<QString, QVariant> settings_; ///< as noted last
-    int interruptedBy_ = 0;                ///< number of the signal
+    bool hasTriedAgain_ = false;
+    int interruptedBy_ = 0; ///< number of the signal
     bool isFinished_ = false;
 };
 

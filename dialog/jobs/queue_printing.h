@@ -30,6 +30,11 @@ public:
     /// Finds out what became of jobs of programs that are gone; earlierSettled() tells.
     void settleEarlier();
     [[nodiscard]] bool isSending() const { return job_ != nullptr; }
+    /// Whether the end of an attempt to print the document is not known; send() finds it out first.
+    [[nodiscard]] bool isUnsettled(const QString &document) const
+    {
+        return !openAttempts(document).empty();
+    }
     /// Does nothing while another document is being sent.
     void send(const QueueDocument &document);
     void cancel();

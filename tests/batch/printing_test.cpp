@@ -331,6 +331,87 @@ TEST_F(ScriptPrinting, AServerThatWantsAPasswordAsksNobody)
     EXPECT_EQ(run({q("--queue"), q("ink"), q("--print"), kDocument}).status, 2);
 }
 
+// Lost answers.
+
+namespace {
+
+/// A queue whose server loses answers.
+class LostAnswers : public testing::Test
+{
+protected:
+    [[nodiscard]] QStringList words() const
+    {
+        return {q("--root"),  q(KORVANE_ROOT_DIR),   q("--job-folder"), user_.path("jobs"),
+                q("--queue"), QueueSession::queue(), q("--print"),      kDocument};
+    }
+    /// Jobs that have printed or will.
+    [[nodiscard]] int goodJobs() const
+    {
+        const auto jobs = session_.jobs();
+        return static_cast<int>(std::count_if(jobs.begin(), jobs.end(), [](const auto &job) {
+            return job.second.state == IPP_JSTATE_COMPLETED ||
+                   job.second.state < IPP_JSTATE_CANCELED;
+        }));
+    }
+    /// Bytes of all answers of a run without a fault, the PPD already in the cache.
+    [[nodiscard]] std::int64_t healthyBytes()
+    {
+        EXPECT_EQ(runPrint(words()).status, 0);
+        const std::int64_t before = session_.faults().answerBytes();
+        EXPECT_EQ(runPrint(words()).status, 0);
+        return session_.faults().answerBytes() - before;
+    }
+
+    UserFolders user_;
+    QueueSession session_;
+};
+
+} // namespace
+
+TEST_F(LostAnswers, AtAnyByteNeverPrintTwiceAndTheStatusIsTrue)
+{
+    constexpr int kCuts = 16;
+    const std::int64_t whole = healthyBytes();
+    int done = 0;
+    for (int cut = 0; cut < kCuts; ++cut) {
+        SCOPED_TRACE(cut);
+        const int before = goodJobs();
+        session_.faults().misbehave({FaultKind::CutAnswers, whole * cut / kCuts});
+        const ProgramRun run = runPrint(words());
+        EXPECT_TRUE(run.status == 0 || run.status == 1 || run.status == 2)
+            << run.status << run.errors.constData();
+        EXPECT_EQ(goodJobs() - before, run.status == 0 ? 1 : 0) << run.errors.constData();
+        done += run.status == 0;
+    }
+    EXPECT_GT(done, 0) << "a cut that comes after the job was made is healed";
+}
+
+TEST_F(LostAnswers, AreLookedForBeforeAnythingIsSentAgain)
+{
+    const std::int64_t whole = healthyBytes();
+    const int before = goodJobs();
+    session_.faults().misbehave({FaultKind::Silence, whole * 3 / 4});
+    const ProgramRun run = runPrint(words());
+    EXPECT_EQ(run.status, 0) << run.errors.constData();
+    EXPECT_TRUE(session_.faults().hasMisbehaved());
+    EXPECT_EQ(goodJobs() - before, 1);
+}
+
+TEST_F(LostAnswers, OfAServerThatDoesNotComeBackLeaveTheStatusOpen)
+{
+    const std::int64_t whole = healthyBytes();
+    session_.faults().misbehave({FaultKind::Silence, whole * 3 / 4});
+    Running program(words());
+    QElapsedTimer timer;
+    timer.start();
+    while (!session_.faults().hasMisbehaved() && timer.elapsed() < kPatience)
+        QThread::msleep(5);
+    session_.server().stop();
+    EXPECT_EQ(program.end(), 3);
+    EXPECT_EQ(program.output(), "");
+    EXPECT_EQ(session_.journal().size(), 1) << "for the next start";
+}
+
 // README.
 
 TEST_F(ScriptPrinting, TheLinesOfTheReadmeWork)
