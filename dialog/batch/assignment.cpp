@@ -25,11 +25,20 @@ QString choiceProblem(const Choice &wanted, const PpdDocument &printer)
                              : QString());
 }
 
-std::variant<Assignment, Mistake> unless(const QString &problem, const Assignment &assignment)
+std::variant<Assignment, Mistake> jobSettingAssignment(const Choice &wanted)
 {
-    if (problem.isNull())
-        return assignment;
-    return Mistake{problem};
+    const QString problem = jobSettingProblem(wanted);
+    if (!problem.isNull())
+        return Mistake{problem};
+    return Assignment{inStandardForm(wanted), Assignment::Target::JobSetting};
+}
+
+std::variant<Assignment, Mistake> choiceAssignment(const Choice &wanted, const PpdDocument &printer)
+{
+    const QString problem = choiceProblem(wanted, printer);
+    if (!problem.isNull())
+        return Mistake{problem};
+    return Assignment{wanted, Assignment::Target::PrinterOption};
 }
 
 } // namespace
@@ -51,9 +60,9 @@ std::variant<Assignment, Mistake> assignmentOf(const Choice &wanted, const PpdDo
 {
     const QStringList options = printer.options();
     if (options.contains(wanted.option))
-        return unless(choiceProblem(wanted, printer), {wanted, Assignment::Target::PrinterOption});
+        return choiceAssignment(wanted, printer);
     if (isJobSetting(wanted.option))
-        return unless(jobSettingProblem(wanted), {wanted, Assignment::Target::JobSetting});
+        return jobSettingAssignment(wanted);
     return Mistake{
         replay::noSuchName(QStringLiteral("option"), wanted.option, options + jobSettingNames())};
 }

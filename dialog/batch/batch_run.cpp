@@ -1,6 +1,7 @@
 #include "dialog/batch/batch_run.h"
 
 #include "dialog/batch/control_use.h"
+#include "dialog/batch/job_setting.h"
 #include "dialog/choice_words.h"
 #include "dialog/print_dialog.h"
 #include "dialog/printers/errand.h"
@@ -193,11 +194,13 @@ void BatchRun::takeTurn()
 
 void BatchRun::make(const Assignment &assignment)
 {
+    DialogHost &host = dialog_->host();
     const Choice &wanted = assignment.wanted;
     if (assignment.target == Assignment::Target::JobSetting)
-        dialog_->host().setSetting(wanted.option, wanted.choice);
+        for (const auto &[key, value] : changesFor(wanted, host.settings().all()))
+            host.setSetting(key, value);
     else if (!chooseInPanel(wanted))
-        static_cast<void>(dialog_->host().choose(wanted)); // judged() tells
+        static_cast<void>(host.choose(wanted)); // judged() tells
 }
 
 /// False where no panel has a control with which a person could do it, or needs to.

@@ -137,6 +137,20 @@ const JobListRow &jobList(JobList list)
     return kLists[static_cast<std::size_t>(list)];
 }
 
+QStringList jobListValues(JobList list)
+{
+    QStringList values;
+    for (const Default &row : kDefaults) {
+        if (row.list == list)
+            values.append(QString::fromLatin1(row.value));
+    }
+    for (const JobListItem &item : jobList(list).items) {
+        if (item.value)
+            values.append(QString::fromLatin1(item.value));
+    }
+    return values;
+}
+
 QString jobListItemText(const JobListItem &item)
 {
     return QCoreApplication::translate(kContext, item.text);

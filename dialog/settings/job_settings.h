@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <map>
@@ -40,6 +41,9 @@ struct JobListRow
 };
 
 [[nodiscard]] const JobListRow &jobList(JobList list);
+/// Every value that the setting can have, first the one that says the same as its absence, where
+/// there is such a word.
+[[nodiscard]] QStringList jobListValues(JobList list);
 /// What a person reads.
 [[nodiscard]] QString jobListItemText(const JobListItem &item);
 /// The item of the present setting; -1 for a value that is not in the list.

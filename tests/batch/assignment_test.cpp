@@ -106,15 +106,19 @@ TEST_F(Assignments, GiveTheKeywordOfAChoiceThatIsNamedByItsText)
 
 TEST_F(Assignments, RefuseValuesThatAJobSettingCannotHave)
 {
-    EXPECT_TEXT(mistakeOf("copies=0"), "copies cannot be 0; it takes a whole number from 1 on");
-    EXPECT_TEXT(mistakeOf("copies=two"), "copies cannot be two; it takes a whole number from 1 on");
+    EXPECT_TEXT(mistakeOf("copies=0"), "copies cannot be 0; it takes a whole number from 1 to 999");
+    EXPECT_TEXT(mistakeOf("copies=two"),
+                "copies cannot be two; it takes a whole number from 1 to 999");
     EXPECT_TEXT(mistakeOf("number-up=3"), "number-up cannot be 3; it takes 1, 2, 4, 6, 9, 16");
     EXPECT_TEXT(mistakeOf("mirror=On"), "mirror cannot be On; it takes true, false");
-    for (const char *ranges : {"0-2", "1-", "1,2", "3", "1-2,", "a", "-3", "1--2"}) {
-        const QString problem = jobSettingProblem({q("page-ranges"), q(ranges)});
-        const bool isRight = q(ranges) == q("1-") || q(ranges) == q("1,2") || q(ranges) == q("3");
-        EXPECT_EQ(problem.isNull(), isRight) << ranges;
-    }
+    for (const char *ranges : {"page-ranges=0-2", "page-ranges=5-3", "page-ranges=a"})
+        EXPECT_TRUE(mistakeOf(ranges).startsWith(q("page-ranges: "))) << ranges;
+}
+
+TEST_F(Assignments, BringPageRangesIntoTheirStandardForm)
+{
+    EXPECT_TEXT(read("page-ranges=1-3, 5").wanted.choice, "1-3,5");
+    EXPECT_TEXT(read("page-ranges=-4").wanted.choice, "1-4");
 }
 
 TEST(JobSettings, AreWrittenAsJobOptionsAre)
@@ -125,7 +129,19 @@ TEST(JobSettings, AreWrittenAsJobOptionsAre)
         EXPECT_EQ(name, name.toLower());
         EXPECT_EQ(names.count(name), 1) << name.toStdString();
         EXPECT_TRUE(isJobSetting(name));
-        EXPECT_FALSE(jobSettingProblem({name, QString()}).isNull()) << name.toStdString();
+        EXPECT_FALSE(jobSettingProblem({name, q("")}).isNull()) << name.toStdString();
     }
     EXPECT_FALSE(isJobSetting(q("Copies")));
+}
+
+TEST(JobSettings, ChangeWhatTheWindowsOwnControlsChange)
+{
+    using dialog::SettingChange;
+    using dialog::SettingChanges;
+    EXPECT_EQ(changesFor({q("mirror"), q("true")}, {}), (SettingChanges{{q("mirror"), q("true")}}));
+    EXPECT_EQ(changesFor({q("copies"), q("1")}, {}), (SettingChanges{{q("copies"), q("1")}}));
+    EXPECT_EQ(changesFor({q("copies"), q("2")}, {}), dialog::copiesChanges(2, {}));
+    EXPECT_EQ(changesFor({q("number-up"), q("4")}, {}),
+              dialog::withCompanions({q("number-up"), q("4")}));
+    EXPECT_EQ(changesFor({q("number-up"), q("4")}, {}).size(), 2U) << "the panels are told, too";
 }

@@ -144,7 +144,7 @@ TEST_F(Command, TellsEveryMistakeInTheAssignmentsAndBeginsNothing)
                            q("no option MediaTyp; did you mean MediaType?"),
                            q("MediaType: \"Iron-On Transfer\" is the text of a choice; write "
                              "MediaType=IronOn"),
-                           q("copies cannot be 0; it takes a whole number from 1 on")}));
+                           q("copies cannot be 0; it takes a whole number from 1 to 999")}));
     EXPECT_FALSE(QDir(jobs).exists());
 }
 
@@ -180,7 +180,10 @@ TEST_F(Command, TellsThatNoServerAnswers)
 TEST_F(Command, ADryRunTellsOneOptionALine)
 {
     EXPECT_EQ(dryRun(kInk, {q("PrintQuality=Best"), q("copies=2"), q("page-ranges=1-3")}),
-              (QStringList{q("PrintQuality=Best"), q("copies=2"), q("page-ranges=1-3")}));
+              (QStringList{q("PrintQuality=Best"), q("copies=2"),
+                           q("multiple-document-handling=separate-documents-collated-copies"),
+                           q("page-ranges=1-3")}))
+        << "as the window's own control does it, several copies are collated";
 }
 
 TEST_F(Command, AControlsOwnActionRunsThePanelsRules)
