@@ -660,14 +660,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Long edge</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Short edge</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Grayscale</source>
         <translation type="unfinished"></translation>
     </message>
@@ -685,6 +677,14 @@
     </message>
     <message>
         <source>Pages side by side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn on the long edge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn on the short edge</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -5,117 +5,117 @@
     <name>ChoiceWords</name>
     <message>
         <source>“%1: %2” and “%3: %4” do not go together.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1: %2» y «%3: %4» no se pueden combinar.</translation>
     </message>
     <message>
         <source>%1: you chose “%2”, the job has “%3”.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: eligió «%2», el trabajo tiene «%3».</translation>
     </message>
     <message>
         <source>“%1: %2” cannot be used together with “%3: %4”.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1: %2» no se puede usar junto con «%3: %4».</translation>
     </message>
     <message>
         <source>“%1: %2” cannot be chosen now.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1: %2» no se puede elegir ahora.</translation>
     </message>
 </context>
 <context>
     <name>DocumentTexts</name>
     <message>
         <source>There is no document %1. Nothing was sent; choose another document.</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe el documento %1. No se ha enviado nada; elija otro documento.</translation>
     </message>
     <message>
         <source>The document %1 cannot be read. Nothing was sent; choose another document or allow reading it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer el documento %1. No se ha enviado nada; elija otro documento o permita su lectura.</translation>
     </message>
 </context>
 <context>
     <name>JobMessages</name>
     <message>
         <source>There is no print server to send the job to (%1). Nothing was sent, and your settings are kept: start the print server or correct CUPS_SERVER, and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún servidor de impresión al que enviar el trabajo (%1). No se ha enviado nada y sus ajustes se conservan: inicie el servidor de impresión o corrija CUPS_SERVER e imprima de nuevo.</translation>
     </message>
     <message>
         <source>The print server does not answer. Your settings are kept. Print again when it does: what may have arrived by then is found, and not sent a second time.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión no responde. Sus ajustes se conservan. Imprima de nuevo cuando responda: lo que haya llegado para entonces se encontrará y no se enviará dos veces.</translation>
     </message>
     <message>
         <source>The connection to the print server broke (%1). Your settings are kept. Print again: what may have arrived is found, and not sent a second time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha interrumpido la conexión con el servidor de impresión (%1). Sus ajustes se conservan. Imprima de nuevo: lo que haya llegado se encontrará y no se enviará dos veces.</translation>
     </message>
     <message>
         <source>The print server does not let you print to the queue %1 without a name and password that it accepts. Nothing was printed, and your settings are kept: print again and sign in, ask its administrator, or choose another queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión no le permite imprimir en la cola %1 sin un nombre y una contraseña que acepte. No se ha impreso nada y sus ajustes se conservan: imprima de nuevo e inicie sesión, consulte a su administrador o elija otra cola.</translation>
     </message>
     <message>
         <source>The queue %1 takes no jobs at present. Nothing was sent, and your settings are kept: ask for the queue to be opened, or choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cola %1 no acepta trabajos en este momento. No se ha enviado nada y sus ajustes se conservan: pida que se abra la cola o elija otra.</translation>
     </message>
     <message>
         <source>The print server no longer has a queue %1. Nothing was sent, and your settings are kept: choose another queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión ya no tiene la cola %1. No se ha enviado nada y sus ajustes se conservan: elija otra cola.</translation>
     </message>
     <message>
         <source>The queue %1 cannot print a document of this kind (%2). Nothing was printed. Convert the document to PDF, or choose another queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cola %1 no puede imprimir documentos de este tipo (%2). No se ha impreso nada. Convierta el documento a PDF o elija otra cola.</translation>
     </message>
     <message>
         <source>The print server did not take the job: %1. Your settings are kept; print again when it answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión no ha aceptado el trabajo: %1. Sus ajustes se conservan; imprima de nuevo cuando responda.</translation>
     </message>
     <message>
         <source>The document can no longer be read (%1). Nothing was printed, and your settings are kept: put the document back and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya no se puede leer el documento (%1). No se ha impreso nada y sus ajustes se conservan: vuelva a poner el documento en su sitio e imprima de nuevo.</translation>
     </message>
     <message>
         <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha enviado nada porque se perdería un ajuste: %1. Elija otro valor.</translation>
     </message>
     <message>
         <source>The job could not be noted in your state folder, so nothing was sent: a second copy could not be ruled out later. Make room on that disk and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido anotar el trabajo en su carpeta de estado, así que no se ha enviado nada: después no se podría descartar una segunda copia. Libere espacio en ese disco e imprima de nuevo.</translation>
     </message>
     <message>
         <source>The job was cancelled; nothing of it prints. Your settings are kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha cancelado el trabajo; no se imprimirá nada. Sus ajustes se conservan.</translation>
     </message>
     <message>
         <source>An earlier attempt was sent whole to the queue %1, and the print server no longer knows it: it may have printed. Look at the printer before you press Print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un intento anterior se envió completo a la cola %1 y el servidor de impresión ya no lo conoce: puede que se haya impreso. Mire la impresora antes de volver a pulsar Imprimir.</translation>
     </message>
     <message>
         <source>The print server took the job and gave it up (%2). Your settings are kept; look at the queue %1, and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión aceptó el trabajo y lo abandonó (%2). Sus ajustes se conservan; revise la cola %1 e imprima de nuevo.</translation>
     </message>
     <message>
         <source>The earlier attempt had arrived as job %1, so nothing was sent again. Press Print once more for another copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>El intento anterior había llegado como trabajo %1, así que no se ha vuelto a enviar nada. Pulse Imprimir otra vez para obtener otra copia.</translation>
     </message>
     <message>
         <source>Job %1 waits, because the queue %2 is paused. It prints when somebody resumes the queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>El trabajo %1 está a la espera porque la cola %2 está en pausa. Se imprimirá cuando alguien reanude la cola.</translation>
     </message>
     <message>
         <source>The print server did not keep the setting %1 (%2). Check the first page.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión no ha mantenido el ajuste %1 (%2). Compruebe la primera página.</translation>
     </message>
     <message>
         <source>The print server changed the setting %1 from %2 to %3. Check the first page.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión ha cambiado el ajuste %1 de %2 a %3. Compruebe la primera página.</translation>
     </message>
     <message>
         <source>“%1”, sent to %2 before this dialog was opened, had arrived as job %3. It was not sent again.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1», enviado a %2 antes de abrir este diálogo, había llegado como trabajo %3. No se ha vuelto a enviar.</translation>
     </message>
     <message>
         <source>“%1”, sent to %2 before this dialog was opened, had not arrived whole, and nothing of it prints. Print it again if you still need it.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1», enviado a %2 antes de abrir este diálogo, no había llegado completo y no se imprimirá nada. Imprímalo de nuevo si aún lo necesita.</translation>
     </message>
     <message>
         <source>“%1” was sent whole to %2 before this dialog was opened, and the print server no longer knows it: it may have printed. Look at the printer before you print it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» se envió completo a %2 antes de abrir este diálogo y el servidor de impresión ya no lo conoce: puede que se haya impreso. Mire la impresora antes de imprimirlo de nuevo.</translation>
     </message>
 </context>
 <context>
@@ -221,58 +221,58 @@
     <name>PathRefusal</name>
     <message>
         <source>it lies outside /Library/Printers</source>
-        <translation type="unfinished"></translation>
+        <translation>está fuera de /Library/Printers</translation>
     </message>
     <message>
         <source>the path goes through “..”</source>
-        <translation type="unfinished"></translation>
+        <translation>la ruta pasa por «..»</translation>
     </message>
     <message>
         <source>it is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>no existe</translation>
     </message>
     <message>
         <source>it is a link</source>
-        <translation type="unfinished"></translation>
+        <translation>es un enlace</translation>
     </message>
     <message>
         <source>it belongs to somebody else</source>
-        <translation type="unfinished"></translation>
+        <translation>pertenece a otra persona</translation>
     </message>
     <message>
         <source>others may write it</source>
-        <translation type="unfinished"></translation>
+        <translation>otros pueden modificarlo</translation>
     </message>
     <message>
         <source>it is no ordinary file or folder</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo ni una carpeta normal</translation>
     </message>
 </context>
 <context>
     <name>PlugInTexts</name>
     <message>
         <source>The printer&apos;s panels are not installed: there is no %1. Install the maker&apos;s driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los paneles de la impresora no están instalados: no existe %1. Instale el controlador del fabricante.</translation>
     </message>
     <message>
         <source>The printer&apos;s panels were not loaded: %1 (%2). Install the maker&apos;s driver again as an administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han cargado los paneles de la impresora: %1 (%2). Vuelva a instalar el controlador del fabricante como administrador.</translation>
     </message>
     <message>
         <source>The printer&apos;s panels could not be loaded: %1 is damaged (%2). Install the maker&apos;s driver again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han podido cargar los paneles de la impresora: %1 está dañado (%2). Vuelva a instalar el controlador del fabricante.</translation>
     </message>
     <message>
         <source>it is cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>está cortado</translation>
     </message>
     <message>
         <source>The printer&apos;s panels do not fit this dialog: %1 was made for another version. Install the maker&apos;s current driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los paneles de la impresora no son compatibles con este diálogo: %1 se hizo para otra versión. Instale el controlador actual del fabricante.</translation>
     </message>
     <message>
         <source>The maker&apos;s driver offers no panels for this printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>El controlador del fabricante no ofrece paneles para esta impresora.</translation>
     </message>
 </context>
 <context>
@@ -481,66 +481,66 @@
     <name>PrinterWords</name>
     <message>
         <source>Not reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>No disponible</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>En pausa</translation>
     </message>
     <message>
         <source>Paused: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En pausa: %1</translation>
     </message>
     <message>
         <source>Takes no jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>No acepta trabajos</translation>
     </message>
     <message>
         <source>Offline</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin conexión</translation>
     </message>
     <message>
         <source>Offline: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin conexión: %1</translation>
     </message>
     <message>
         <source>Printing</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimiendo</translation>
     </message>
     <message>
         <source>Idle</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>No print server answers at %1 (%2). Start the server or check the network, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún servidor de impresión responde en %1 (%2). Inicie el servidor o compruebe la red e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>The print server at %1 does not answer. Wait a moment or have it restarted, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión en %1 no responde. Espere un momento o haga que lo reinicien e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>The print server at %1 refused to answer: %2. Ask its administrator for access, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión en %1 se ha negado a responder: %2. Pida acceso a su administrador e inténtelo de nuevo.</translation>
     </message>
 </context>
 <context>
     <name>QueueListCommand</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>predeterminada</translation>
     </message>
 </context>
 <context>
@@ -660,14 +660,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Long edge</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Short edge</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Grayscale</source>
         <translation type="unfinished"></translation>
     </message>
@@ -685,6 +677,14 @@
     </message>
     <message>
         <source>Pages side by side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn on the long edge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn on the short edge</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -711,39 +711,39 @@
     <name>Unsendable</name>
     <message>
         <source>a setting has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>un ajuste no tiene nombre</translation>
     </message>
     <message>
         <source>the name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre es demasiado largo</translation>
     </message>
     <message>
         <source>the name contains a character that cannot be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre contiene un carácter que no se puede enviar</translation>
     </message>
     <message>
         <source>the value is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>el valor está vacío</translation>
     </message>
     <message>
         <source>a value cannot begin with “{”</source>
-        <translation type="unfinished"></translation>
+        <translation>un valor no puede empezar por «{»</translation>
     </message>
     <message>
         <source>the value contains a character that cannot be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>el valor contiene un carácter que no se puede enviar</translation>
     </message>
     <message>
         <source>the value is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>el valor es demasiado largo</translation>
     </message>
     <message>
         <source>the printer would read it as “off”</source>
-        <translation type="unfinished"></translation>
+        <translation>la impresora lo interpretaría como «desactivado»</translation>
     </message>
     <message>
         <source>all settings together are too long</source>
-        <translation type="unfinished"></translation>
+        <translation>todos los ajustes juntos son demasiado largos</translation>
     </message>
 </context>
 <context>
@@ -813,39 +813,39 @@
     <name>dialog::JobDesk</name>
     <message>
         <source>There is nothing to print. Start the dialog with a document.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada que imprimir. Abra el diálogo con un documento.</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver</translation>
     </message>
     <message>
         <source>Print Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir de todos modos</translation>
     </message>
     <message>
         <source>Before this prints:</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes de imprimir:</translation>
     </message>
     <message>
         <source>The job could not be written to %1: %2. Make room or allow writing there, then print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido escribir el trabajo en %1: %2. Libere espacio o permita la escritura e imprima de nuevo.</translation>
     </message>
     <message>
         <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha enviado nada porque se perdería un ajuste: %1. Elija otro valor.</translation>
     </message>
     <message>
         <source>Sending to %1: %2 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviando a %1: %2 %.</translation>
     </message>
     <message>
         <source>Cancel Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar trabajo</translation>
     </message>
     <message>
         <source>Sent as job %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviado como trabajo %1.</translation>
     </message>
 </context>
 <context>
@@ -903,22 +903,22 @@
     <name>dialog::NoticeArea</name>
     <message>
         <source>Dismiss this notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar este aviso</translation>
     </message>
 </context>
 <context>
     <name>dialog::PanelStack</name>
     <message>
         <source>This printer has no PPD, so there are no panels for it. Print uses the settings that its queue has.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta impresora no tiene PPD, por lo que no hay paneles para ella. Se imprime con los ajustes de su cola.</translation>
     </message>
     <message>
         <source>The PPD of this printer names no panels. Print uses the settings that are marked in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El PPD de esta impresora no indica ningún panel. Se imprime con los ajustes marcados en él.</translation>
     </message>
     <message>
         <source>The maker&apos;s driver offers no panels for this printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>El controlador del fabricante no ofrece paneles para esta impresora.</translation>
     </message>
 </context>
 <context>
@@ -1009,96 +1009,96 @@
     <name>dialog::PrintDialog</name>
     <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija un grupo de ajustes en el menú desplegable, cambie lo que necesite y pulse Imprimir. Se rechaza la opción que la impresora no puede combinar con otra, y un aviso indica cuál lo impide.</translation>
     </message>
 </context>
 <context>
     <name>dialog::PrintWindow</name>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir</translation>
     </message>
     <message>
         <source>Settings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes:</translation>
     </message>
     <message>
         <source>Printer:</source>
-        <translation type="unfinished"></translation>
+        <translation>Impresora:</translation>
     </message>
     <message>
         <source>Document:</source>
-        <translation type="unfinished"></translation>
+        <translation>Documento:</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>Sending…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviando…</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer valores</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Presets:</source>
-        <translation type="unfinished"></translation>
+        <translation>Preajustes:</translation>
     </message>
 </context>
 <context>
     <name>dialog::PrinterPicker</name>
     <message>
         <source>Find a printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar una impresora</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Impresora</translation>
     </message>
 </context>
 <context>
     <name>dialog::QueueDialog</name>
     <message>
         <source>Connecting to %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectando con %1…</translation>
     </message>
     <message>
         <source>The print server at %1 has no printers. Add one there, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión en %1 no tiene impresoras. Añada una e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>There is no printer %1 at the print server. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión no tiene la impresora %1. Elija otra.</translation>
     </message>
     <message>
         <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede usar la impresora %1 porque su PPD está dañado: %2. Haga que vuelvan a configurar la impresora o elija otra.</translation>
     </message>
     <message>
         <source>This printer does not have what you chose for the one before:</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta impresora no tiene lo que eligió para la anterior:</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Try Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Reintentar</translation>
     </message>
 </context>
 <context>
@@ -1151,38 +1151,38 @@
     <name>dialog::SignInPrompt</name>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre:</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraseña:</translation>
     </message>
     <message>
         <source>The print server did not accept this name and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión no ha aceptado este nombre y esta contraseña.</translation>
     </message>
     <message>
         <source>The print server %1 wants a name and password before it prints to %2. They are sent for this job and not kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión %1 pide un nombre y una contraseña antes de imprimir en %2. Se envían para este trabajo y no se guardan.</translation>
     </message>
     <message>
         <source>The connection is not encrypted: others in the network could read the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conexión no está cifrada: otras personas de la red podrían leer la contraseña.</translation>
     </message>
     <message>
         <source>Cancel Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar trabajo</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar sesión</translation>
     </message>
 </context>
 <context>
     <name>dialog::SummaryPanel</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Resumen</translation>
     </message>
     <message>
         <source>No setting matches.</source>

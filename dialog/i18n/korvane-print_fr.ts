@@ -5,117 +5,117 @@
     <name>ChoiceWords</name>
     <message>
         <source>“%1: %2” and “%3: %4” do not go together.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 : %2 » et « %3 : %4 » ne vont pas ensemble.</translation>
     </message>
     <message>
         <source>%1: you chose “%2”, the job has “%3”.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : vous avez choisi « %2 », la tâche a « %3 ».</translation>
     </message>
     <message>
         <source>“%1: %2” cannot be used together with “%3: %4”.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 : %2 » ne peut pas être utilisé avec « %3 : %4 ».</translation>
     </message>
     <message>
         <source>“%1: %2” cannot be chosen now.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 : %2 » ne peut pas être choisi maintenant.</translation>
     </message>
 </context>
 <context>
     <name>DocumentTexts</name>
     <message>
         <source>There is no document %1. Nothing was sent; choose another document.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document %1 n’existe pas. Rien n’a été envoyé ; choisissez un autre document.</translation>
     </message>
     <message>
         <source>The document %1 cannot be read. Nothing was sent; choose another document or allow reading it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document %1 est illisible. Rien n’a été envoyé ; choisissez un autre document ou autorisez sa lecture.</translation>
     </message>
 </context>
 <context>
     <name>JobMessages</name>
     <message>
         <source>There is no print server to send the job to (%1). Nothing was sent, and your settings are kept: start the print server or correct CUPS_SERVER, and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de serveur d’impression auquel envoyer la tâche (%1). Rien n’a été envoyé, et vos réglages sont conservés : démarrez le serveur d’impression ou corrigez CUPS_SERVER, puis imprimez à nouveau.</translation>
     </message>
     <message>
         <source>The print server does not answer. Your settings are kept. Print again when it does: what may have arrived by then is found, and not sent a second time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression ne répond pas. Vos réglages sont conservés. Imprimez à nouveau lorsqu’il répondra : ce qui sera arrivé entre-temps sera retrouvé et ne sera pas envoyé une seconde fois.</translation>
     </message>
     <message>
         <source>The connection to the print server broke (%1). Your settings are kept. Print again: what may have arrived is found, and not sent a second time.</source>
-        <translation type="unfinished"></translation>
+        <translation>La connexion au serveur d’impression a été interrompue (%1). Vos réglages sont conservés. Imprimez à nouveau : ce qui est arrivé sera retrouvé et ne sera pas envoyé une seconde fois.</translation>
     </message>
     <message>
         <source>The print server does not let you print to the queue %1 without a name and password that it accepts. Nothing was printed, and your settings are kept: print again and sign in, ask its administrator, or choose another queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression ne vous laisse pas imprimer vers la file %1 sans un nom et un mot de passe qu’il accepte. Rien n’a été imprimé, et vos réglages sont conservés : imprimez à nouveau et identifiez-vous, adressez-vous à son administrateur, ou choisissez une autre file.</translation>
     </message>
     <message>
         <source>The queue %1 takes no jobs at present. Nothing was sent, and your settings are kept: ask for the queue to be opened, or choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La file %1 n’accepte pas de tâches actuellement. Rien n’a été envoyé, et vos réglages sont conservés : demandez que la file soit ouverte, ou choisissez-en une autre.</translation>
     </message>
     <message>
         <source>The print server no longer has a queue %1. Nothing was sent, and your settings are kept: choose another queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression n’a plus de file %1. Rien n’a été envoyé, et vos réglages sont conservés : choisissez une autre file.</translation>
     </message>
     <message>
         <source>The queue %1 cannot print a document of this kind (%2). Nothing was printed. Convert the document to PDF, or choose another queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>La file %1 ne peut pas imprimer un document de ce type (%2). Rien n’a été imprimé. Convertissez le document en PDF, ou choisissez une autre file.</translation>
     </message>
     <message>
         <source>The print server did not take the job: %1. Your settings are kept; print again when it answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression n’a pas accepté la tâche : %1. Vos réglages sont conservés ; imprimez à nouveau lorsqu’il répondra.</translation>
     </message>
     <message>
         <source>The document can no longer be read (%1). Nothing was printed, and your settings are kept: put the document back and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document n’est plus lisible (%1). Rien n’a été imprimé, et vos réglages sont conservés : remettez le document en place et imprimez à nouveau.</translation>
     </message>
     <message>
         <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été envoyé, car un réglage serait perdu : %1. Choisissez-lui une autre valeur.</translation>
     </message>
     <message>
         <source>The job could not be noted in your state folder, so nothing was sent: a second copy could not be ruled out later. Make room on that disk and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tâche n’a pas pu être notée dans votre dossier d’état, donc rien n’a été envoyé : un second exemplaire ne pourrait pas être exclu ensuite. Libérez de l’espace sur ce disque et imprimez à nouveau.</translation>
     </message>
     <message>
         <source>The job was cancelled; nothing of it prints. Your settings are kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tâche a été annulée ; rien n’en sera imprimé. Vos réglages sont conservés.</translation>
     </message>
     <message>
         <source>An earlier attempt was sent whole to the queue %1, and the print server no longer knows it: it may have printed. Look at the printer before you press Print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un essai précédent a été envoyé en entier à la file %1, et le serveur d’impression ne le connaît plus : il a peut-être été imprimé. Regardez l’imprimante avant d’appuyer à nouveau sur Imprimer.</translation>
     </message>
     <message>
         <source>The print server took the job and gave it up (%2). Your settings are kept; look at the queue %1, and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression a pris la tâche puis l’a abandonnée (%2). Vos réglages sont conservés ; vérifiez la file %1, puis imprimez à nouveau.</translation>
     </message>
     <message>
         <source>The earlier attempt had arrived as job %1, so nothing was sent again. Press Print once more for another copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’essai précédent était arrivé comme tâche %1, donc rien n’a été renvoyé. Appuyez encore une fois sur Imprimer pour un autre exemplaire.</translation>
     </message>
     <message>
         <source>Job %1 waits, because the queue %2 is paused. It prints when somebody resumes the queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tâche %1 attend, car la file %2 est en pause. Elle sera imprimée lorsque quelqu’un relancera la file.</translation>
     </message>
     <message>
         <source>The print server did not keep the setting %1 (%2). Check the first page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression n’a pas conservé le réglage %1 (%2). Vérifiez la première page.</translation>
     </message>
     <message>
         <source>The print server changed the setting %1 from %2 to %3. Check the first page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression a changé le réglage %1 de %2 en %3. Vérifiez la première page.</translation>
     </message>
     <message>
         <source>“%1”, sent to %2 before this dialog was opened, had arrived as job %3. It was not sent again.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 », envoyé à %2 avant l’ouverture de ce dialogue, était arrivé comme tâche %3. Il n’a pas été renvoyé.</translation>
     </message>
     <message>
         <source>“%1”, sent to %2 before this dialog was opened, had not arrived whole, and nothing of it prints. Print it again if you still need it.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 », envoyé à %2 avant l’ouverture de ce dialogue, n’était pas arrivé en entier, et rien n’en sera imprimé. Imprimez-le à nouveau si vous en avez encore besoin.</translation>
     </message>
     <message>
         <source>“%1” was sent whole to %2 before this dialog was opened, and the print server no longer knows it: it may have printed. Look at the printer before you print it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » a été envoyé en entier à %2 avant l’ouverture de ce dialogue, et le serveur d’impression ne le connaît plus : il a peut-être été imprimé. Regardez l’imprimante avant de l’imprimer à nouveau.</translation>
     </message>
 </context>
 <context>
@@ -221,58 +221,58 @@
     <name>PathRefusal</name>
     <message>
         <source>it lies outside /Library/Printers</source>
-        <translation type="unfinished"></translation>
+        <translation>il se trouve hors de /Library/Printers</translation>
     </message>
     <message>
         <source>the path goes through “..”</source>
-        <translation type="unfinished"></translation>
+        <translation>le chemin passe par « .. »</translation>
     </message>
     <message>
         <source>it is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’existe pas</translation>
     </message>
     <message>
         <source>it is a link</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est un lien</translation>
     </message>
     <message>
         <source>it belongs to somebody else</source>
-        <translation type="unfinished"></translation>
+        <translation>il appartient à quelqu’un d’autre</translation>
     </message>
     <message>
         <source>others may write it</source>
-        <translation type="unfinished"></translation>
+        <translation>d’autres peuvent y écrire</translation>
     </message>
     <message>
         <source>it is no ordinary file or folder</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n’est ni un fichier ni un dossier ordinaire</translation>
     </message>
 </context>
 <context>
     <name>PlugInTexts</name>
     <message>
         <source>The printer&apos;s panels are not installed: there is no %1. Install the maker&apos;s driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les panneaux de l’imprimante ne sont pas installés : %1 n’existe pas. Installez le pilote du fabricant.</translation>
     </message>
     <message>
         <source>The printer&apos;s panels were not loaded: %1 (%2). Install the maker&apos;s driver again as an administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les panneaux de l’imprimante n’ont pas été chargés : %1 (%2). Réinstallez le pilote du fabricant en tant qu’administrateur.</translation>
     </message>
     <message>
         <source>The printer&apos;s panels could not be loaded: %1 is damaged (%2). Install the maker&apos;s driver again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les panneaux de l’imprimante n’ont pas pu être chargés : %1 est endommagé (%2). Réinstallez le pilote du fabricant.</translation>
     </message>
     <message>
         <source>it is cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>il est tronqué</translation>
     </message>
     <message>
         <source>The printer&apos;s panels do not fit this dialog: %1 was made for another version. Install the maker&apos;s current driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les panneaux de l’imprimante ne conviennent pas à ce dialogue : %1 a été fait pour une autre version. Installez le pilote actuel du fabricant.</translation>
     </message>
     <message>
         <source>The maker&apos;s driver offers no panels for this printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le pilote du fabricant n’offre pas de panneaux pour cette imprimante.</translation>
     </message>
 </context>
 <context>
@@ -481,66 +481,66 @@
     <name>PrinterWords</name>
     <message>
         <source>Not reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Injoignable</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>En pause</translation>
     </message>
     <message>
         <source>Paused: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En pause : %1</translation>
     </message>
     <message>
         <source>Takes no jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>N’accepte pas de tâches</translation>
     </message>
     <message>
         <source>Offline</source>
-        <translation type="unfinished"></translation>
+        <translation>Hors ligne</translation>
     </message>
     <message>
         <source>Offline: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hors ligne : %1</translation>
     </message>
     <message>
         <source>Printing</source>
-        <translation type="unfinished"></translation>
+        <translation>Impression en cours</translation>
     </message>
     <message>
         <source>Idle</source>
-        <translation type="unfinished"></translation>
+        <translation>Prête</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>No print server answers at %1 (%2). Start the server or check the network, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun serveur d’impression ne répond à %1 (%2). Démarrez le serveur ou vérifiez le réseau, puis réessayez.</translation>
     </message>
     <message>
         <source>The print server at %1 does not answer. Wait a moment or have it restarted, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression à %1 ne répond pas. Attendez un instant ou faites-le redémarrer, puis réessayez.</translation>
     </message>
     <message>
         <source>The print server at %1 refused to answer: %2. Ask its administrator for access, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression à %1 a refusé de répondre : %2. Demandez l’accès à son administrateur, puis réessayez.</translation>
     </message>
 </context>
 <context>
     <name>QueueListCommand</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>par défaut</translation>
     </message>
 </context>
 <context>
@@ -660,14 +660,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Long edge</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Short edge</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Grayscale</source>
         <translation type="unfinished"></translation>
     </message>
@@ -685,6 +677,14 @@
     </message>
     <message>
         <source>Pages side by side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn on the long edge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn on the short edge</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -711,39 +711,39 @@
     <name>Unsendable</name>
     <message>
         <source>a setting has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>un réglage n’a pas de nom</translation>
     </message>
     <message>
         <source>the name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom est trop long</translation>
     </message>
     <message>
         <source>the name contains a character that cannot be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom contient un caractère qui ne peut pas être envoyé</translation>
     </message>
     <message>
         <source>the value is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>la valeur est vide</translation>
     </message>
     <message>
         <source>a value cannot begin with “{”</source>
-        <translation type="unfinished"></translation>
+        <translation>une valeur ne peut pas commencer par « { »</translation>
     </message>
     <message>
         <source>the value contains a character that cannot be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>la valeur contient un caractère qui ne peut pas être envoyé</translation>
     </message>
     <message>
         <source>the value is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>la valeur est trop longue</translation>
     </message>
     <message>
         <source>the printer would read it as “off”</source>
-        <translation type="unfinished"></translation>
+        <translation>l’imprimante l’interpréterait comme « désactivé »</translation>
     </message>
     <message>
         <source>all settings together are too long</source>
-        <translation type="unfinished"></translation>
+        <translation>l’ensemble des réglages est trop long</translation>
     </message>
 </context>
 <context>
@@ -813,39 +813,39 @@
     <name>dialog::JobDesk</name>
     <message>
         <source>There is nothing to print. Start the dialog with a document.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien à imprimer. Ouvrez le dialogue avec un document.</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour</translation>
     </message>
     <message>
         <source>Print Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer quand même</translation>
     </message>
     <message>
         <source>Before this prints:</source>
-        <translation type="unfinished"></translation>
+        <translation>Avant l’impression :</translation>
     </message>
     <message>
         <source>The job could not be written to %1: %2. Make room or allow writing there, then print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tâche n’a pas pu être écrite dans %1 : %2. Libérez de l’espace ou autorisez l’écriture, puis imprimez à nouveau.</translation>
     </message>
     <message>
         <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été envoyé, car un réglage serait perdu : %1. Choisissez-lui une autre valeur.</translation>
     </message>
     <message>
         <source>Sending to %1: %2 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoi à %1 : %2 %.</translation>
     </message>
     <message>
         <source>Cancel Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler la tâche</translation>
     </message>
     <message>
         <source>Sent as job %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoyé comme tâche %1.</translation>
     </message>
 </context>
 <context>
@@ -903,22 +903,22 @@
     <name>dialog::NoticeArea</name>
     <message>
         <source>Dismiss this notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer cet avis</translation>
     </message>
 </context>
 <context>
     <name>dialog::PanelStack</name>
     <message>
         <source>This printer has no PPD, so there are no panels for it. Print uses the settings that its queue has.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette imprimante n’a pas de PPD, elle n’a donc pas de panneaux. L’impression utilise les réglages de sa file.</translation>
     </message>
     <message>
         <source>The PPD of this printer names no panels. Print uses the settings that are marked in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le PPD de cette imprimante ne nomme aucun panneau. L’impression utilise les réglages qui y sont marqués.</translation>
     </message>
     <message>
         <source>The maker&apos;s driver offers no panels for this printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le pilote du fabricant n’offre pas de panneaux pour cette imprimante.</translation>
     </message>
 </context>
 <context>
@@ -1009,96 +1009,96 @@
     <name>dialog::PrintDialog</name>
     <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un groupe de réglages dans le menu local, modifiez ce qu’il faut, et appuyez sur Imprimer. Un choix que l’imprimante ne peut pas combiner avec un autre est refusé, et un avis dit lequel fait obstacle.</translation>
     </message>
 </context>
 <context>
     <name>dialog::PrintWindow</name>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer</translation>
     </message>
     <message>
         <source>Settings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages :</translation>
     </message>
     <message>
         <source>Printer:</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimante :</translation>
     </message>
     <message>
         <source>Document:</source>
-        <translation type="unfinished"></translation>
+        <translation>Document :</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>Sending…</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoi…</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir les réglages par défaut</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Presets:</source>
-        <translation type="unfinished"></translation>
+        <translation>Préréglages :</translation>
     </message>
 </context>
 <context>
     <name>dialog::PrinterPicker</name>
     <message>
         <source>Find a printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher une imprimante</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimante</translation>
     </message>
 </context>
 <context>
     <name>dialog::QueueDialog</name>
     <message>
         <source>Connecting to %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion à %1…</translation>
     </message>
     <message>
         <source>The print server at %1 has no printers. Add one there, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression à %1 n’a pas d’imprimantes. Ajoutez-en une, puis réessayez.</translation>
     </message>
     <message>
         <source>There is no printer %1 at the print server. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression n’a pas d’imprimante %1. Choisissez-en une autre.</translation>
     </message>
     <message>
         <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante %1 est inutilisable, car son PPD est endommagé : %2. Faites reconfigurer l’imprimante ou choisissez-en une autre.</translation>
     </message>
     <message>
         <source>This printer does not have what you chose for the one before:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette imprimante n’a pas ce que vous aviez choisi pour la précédente :</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>Try Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Réessayer</translation>
     </message>
 </context>
 <context>
@@ -1151,38 +1151,38 @@
     <name>dialog::SignInPrompt</name>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom :</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe :</translation>
     </message>
     <message>
         <source>The print server did not accept this name and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression n’a pas accepté ce nom et ce mot de passe.</translation>
     </message>
     <message>
         <source>The print server %1 wants a name and password before it prints to %2. They are sent for this job and not kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression %1 demande un nom et un mot de passe avant d’imprimer vers %2. Ils sont envoyés pour cette tâche et ne sont pas conservés.</translation>
     </message>
     <message>
         <source>The connection is not encrypted: others in the network could read the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>La connexion n’est pas chiffrée : d’autres personnes sur le réseau pourraient lire le mot de passe.</translation>
     </message>
     <message>
         <source>Cancel Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler la tâche</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished"></translation>
+        <translation>S’identifier</translation>
     </message>
 </context>
 <context>
     <name>dialog::SummaryPanel</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Résumé</translation>
     </message>
     <message>
         <source>No setting matches.</source>

@@ -5,117 +5,117 @@
     <name>ChoiceWords</name>
     <message>
         <source>“%1: %2” and “%3: %4” do not go together.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1: %2” e “%3: %4” non si possono combinare.</translation>
     </message>
     <message>
         <source>%1: you chose “%2”, the job has “%3”.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: hai scelto “%2”, il lavoro ha “%3”.</translation>
     </message>
     <message>
         <source>“%1: %2” cannot be used together with “%3: %4”.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1: %2” non può essere usato insieme a “%3: %4”.</translation>
     </message>
     <message>
         <source>“%1: %2” cannot be chosen now.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1: %2” non può essere scelto ora.</translation>
     </message>
 </context>
 <context>
     <name>DocumentTexts</name>
     <message>
         <source>There is no document %1. Nothing was sent; choose another document.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento %1 non esiste. Non è stato inviato nulla; scegli un altro documento.</translation>
     </message>
     <message>
         <source>The document %1 cannot be read. Nothing was sent; choose another document or allow reading it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento %1 non è leggibile. Non è stato inviato nulla; scegli un altro documento o consenti di leggerlo.</translation>
     </message>
 </context>
 <context>
     <name>JobMessages</name>
     <message>
         <source>There is no print server to send the job to (%1). Nothing was sent, and your settings are kept: start the print server or correct CUPS_SERVER, and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c’è un server di stampa a cui inviare il lavoro (%1). Non è stato inviato nulla e le tue impostazioni sono conservate: avvia il server di stampa o correggi CUPS_SERVER, poi stampa di nuovo.</translation>
     </message>
     <message>
         <source>The print server does not answer. Your settings are kept. Print again when it does: what may have arrived by then is found, and not sent a second time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa non risponde. Le tue impostazioni sono conservate. Stampa di nuovo quando risponde: ciò che nel frattempo è arrivato viene trovato e non inviato una seconda volta.</translation>
     </message>
     <message>
         <source>The connection to the print server broke (%1). Your settings are kept. Print again: what may have arrived is found, and not sent a second time.</source>
-        <translation type="unfinished"></translation>
+        <translation>La connessione al server di stampa si è interrotta (%1). Le tue impostazioni sono conservate. Stampa di nuovo: ciò che è arrivato viene trovato e non inviato una seconda volta.</translation>
     </message>
     <message>
         <source>The print server does not let you print to the queue %1 without a name and password that it accepts. Nothing was printed, and your settings are kept: print again and sign in, ask its administrator, or choose another queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa non ti permette di stampare sulla coda %1 senza un nome e una password che accetti. Non è stato stampato nulla e le tue impostazioni sono conservate: stampa di nuovo e accedi, rivolgiti all’amministratore o scegli un’altra coda.</translation>
     </message>
     <message>
         <source>The queue %1 takes no jobs at present. Nothing was sent, and your settings are kept: ask for the queue to be opened, or choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La coda %1 al momento non accetta lavori. Non è stato inviato nulla e le tue impostazioni sono conservate: chiedi che la coda venga aperta o scegline un’altra.</translation>
     </message>
     <message>
         <source>The print server no longer has a queue %1. Nothing was sent, and your settings are kept: choose another queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa non ha più la coda %1. Non è stato inviato nulla e le tue impostazioni sono conservate: scegli un’altra coda.</translation>
     </message>
     <message>
         <source>The queue %1 cannot print a document of this kind (%2). Nothing was printed. Convert the document to PDF, or choose another queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>La coda %1 non può stampare un documento di questo tipo (%2). Non è stato stampato nulla. Converti il documento in PDF o scegli un’altra coda.</translation>
     </message>
     <message>
         <source>The print server did not take the job: %1. Your settings are kept; print again when it answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa non ha accettato il lavoro: %1. Le tue impostazioni sono conservate; stampa di nuovo quando risponde.</translation>
     </message>
     <message>
         <source>The document can no longer be read (%1). Nothing was printed, and your settings are kept: put the document back and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento non è più leggibile (%1). Non è stato stampato nulla e le tue impostazioni sono conservate: rimetti il documento al suo posto e stampa di nuovo.</translation>
     </message>
     <message>
         <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato inviato nulla perché un’impostazione andrebbe persa: %1. Scegli un altro valore.</translation>
     </message>
     <message>
         <source>The job could not be noted in your state folder, so nothing was sent: a second copy could not be ruled out later. Make room on that disk and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile annotare il lavoro nella cartella di stato, quindi non è stato inviato nulla: in seguito non si potrebbe escludere una seconda copia. Libera spazio su quel disco e stampa di nuovo.</translation>
     </message>
     <message>
         <source>The job was cancelled; nothing of it prints. Your settings are kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il lavoro è stato annullato; non ne verrà stampato nulla. Le tue impostazioni sono conservate.</translation>
     </message>
     <message>
         <source>An earlier attempt was sent whole to the queue %1, and the print server no longer knows it: it may have printed. Look at the printer before you press Print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tentativo precedente è stato inviato per intero alla coda %1 e il server di stampa non lo conosce più: potrebbe essere stato stampato. Controlla la stampante prima di premere di nuovo Stampa.</translation>
     </message>
     <message>
         <source>The print server took the job and gave it up (%2). Your settings are kept; look at the queue %1, and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa ha preso il lavoro e poi l’ha abbandonato (%2). Le tue impostazioni sono conservate; controlla la coda %1 e stampa di nuovo.</translation>
     </message>
     <message>
         <source>The earlier attempt had arrived as job %1, so nothing was sent again. Press Print once more for another copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tentativo precedente era arrivato come lavoro %1, quindi non è stato inviato di nuovo nulla. Premi ancora una volta Stampa per un’altra copia.</translation>
     </message>
     <message>
         <source>Job %1 waits, because the queue %2 is paused. It prints when somebody resumes the queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il lavoro %1 è in attesa perché la coda %2 è in pausa. Verrà stampato quando qualcuno riprenderà la coda.</translation>
     </message>
     <message>
         <source>The print server did not keep the setting %1 (%2). Check the first page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa non ha mantenuto l’impostazione %1 (%2). Controlla la prima pagina.</translation>
     </message>
     <message>
         <source>The print server changed the setting %1 from %2 to %3. Check the first page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa ha cambiato l’impostazione %1 da %2 a %3. Controlla la prima pagina.</translation>
     </message>
     <message>
         <source>“%1”, sent to %2 before this dialog was opened, had arrived as job %3. It was not sent again.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”, inviato a %2 prima dell’apertura di questa finestra, era arrivato come lavoro %3. Non è stato inviato di nuovo.</translation>
     </message>
     <message>
         <source>“%1”, sent to %2 before this dialog was opened, had not arrived whole, and nothing of it prints. Print it again if you still need it.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”, inviato a %2 prima dell’apertura di questa finestra, non era arrivato per intero e non ne verrà stampato nulla. Stampalo di nuovo se ti serve ancora.</translation>
     </message>
     <message>
         <source>“%1” was sent whole to %2 before this dialog was opened, and the print server no longer knows it: it may have printed. Look at the printer before you print it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” è stato inviato per intero a %2 prima dell’apertura di questa finestra e il server di stampa non lo conosce più: potrebbe essere stato stampato. Controlla la stampante prima di stamparlo di nuovo.</translation>
     </message>
 </context>
 <context>
@@ -221,58 +221,58 @@
     <name>PathRefusal</name>
     <message>
         <source>it lies outside /Library/Printers</source>
-        <translation type="unfinished"></translation>
+        <translation>si trova fuori da /Library/Printers</translation>
     </message>
     <message>
         <source>the path goes through “..”</source>
-        <translation type="unfinished"></translation>
+        <translation>il percorso passa per “..”</translation>
     </message>
     <message>
         <source>it is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>non esiste</translation>
     </message>
     <message>
         <source>it is a link</source>
-        <translation type="unfinished"></translation>
+        <translation>è un collegamento</translation>
     </message>
     <message>
         <source>it belongs to somebody else</source>
-        <translation type="unfinished"></translation>
+        <translation>appartiene a qualcun altro</translation>
     </message>
     <message>
         <source>others may write it</source>
-        <translation type="unfinished"></translation>
+        <translation>altri possono modificarlo</translation>
     </message>
     <message>
         <source>it is no ordinary file or folder</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un normale file o una normale cartella</translation>
     </message>
 </context>
 <context>
     <name>PlugInTexts</name>
     <message>
         <source>The printer&apos;s panels are not installed: there is no %1. Install the maker&apos;s driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>I pannelli della stampante non sono installati: %1 non esiste. Installa il driver del produttore.</translation>
     </message>
     <message>
         <source>The printer&apos;s panels were not loaded: %1 (%2). Install the maker&apos;s driver again as an administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>I pannelli della stampante non sono stati caricati: %1 (%2). Reinstalla il driver del produttore come amministratore.</translation>
     </message>
     <message>
         <source>The printer&apos;s panels could not be loaded: %1 is damaged (%2). Install the maker&apos;s driver again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile caricare i pannelli della stampante: %1 è danneggiato (%2). Reinstalla il driver del produttore.</translation>
     </message>
     <message>
         <source>it is cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>è troncato</translation>
     </message>
     <message>
         <source>The printer&apos;s panels do not fit this dialog: %1 was made for another version. Install the maker&apos;s current driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>I pannelli della stampante non sono adatti a questa finestra: %1 è stato creato per un’altra versione. Installa il driver attuale del produttore.</translation>
     </message>
     <message>
         <source>The maker&apos;s driver offers no panels for this printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il driver del produttore non offre pannelli per questa stampante.</translation>
     </message>
 </context>
 <context>
@@ -481,66 +481,66 @@
     <name>PrinterWords</name>
     <message>
         <source>Not reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Non raggiungibile</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>In pausa</translation>
     </message>
     <message>
         <source>Paused: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In pausa: %1</translation>
     </message>
     <message>
         <source>Takes no jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>Non accetta lavori</translation>
     </message>
     <message>
         <source>Offline</source>
-        <translation type="unfinished"></translation>
+        <translation>Non in linea</translation>
     </message>
     <message>
         <source>Offline: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non in linea: %1</translation>
     </message>
     <message>
         <source>Printing</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa in corso</translation>
     </message>
     <message>
         <source>Idle</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronta</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>No print server answers at %1 (%2). Start the server or check the network, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun server di stampa risponde a %1 (%2). Avvia il server o controlla la rete, poi riprova.</translation>
     </message>
     <message>
         <source>The print server at %1 does not answer. Wait a moment or have it restarted, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa a %1 non risponde. Attendi un momento o fallo riavviare, poi riprova.</translation>
     </message>
     <message>
         <source>The print server at %1 refused to answer: %2. Ask its administrator for access, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa a %1 ha rifiutato di rispondere: %2. Chiedi l’accesso all’amministratore, poi riprova.</translation>
     </message>
 </context>
 <context>
     <name>QueueListCommand</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>predefinita</translation>
     </message>
 </context>
 <context>
@@ -660,14 +660,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Long edge</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Short edge</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Grayscale</source>
         <translation type="unfinished"></translation>
     </message>
@@ -685,6 +677,14 @@
     </message>
     <message>
         <source>Pages side by side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn on the long edge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn on the short edge</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -711,39 +711,39 @@
     <name>Unsendable</name>
     <message>
         <source>a setting has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>un’impostazione non ha nome</translation>
     </message>
     <message>
         <source>the name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome è troppo lungo</translation>
     </message>
     <message>
         <source>the name contains a character that cannot be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome contiene un carattere che non può essere inviato</translation>
     </message>
     <message>
         <source>the value is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>il valore è vuoto</translation>
     </message>
     <message>
         <source>a value cannot begin with “{”</source>
-        <translation type="unfinished"></translation>
+        <translation>un valore non può iniziare con “{”</translation>
     </message>
     <message>
         <source>the value contains a character that cannot be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>il valore contiene un carattere che non può essere inviato</translation>
     </message>
     <message>
         <source>the value is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>il valore è troppo lungo</translation>
     </message>
     <message>
         <source>the printer would read it as “off”</source>
-        <translation type="unfinished"></translation>
+        <translation>la stampante lo interpreterebbe come “disattivato”</translation>
     </message>
     <message>
         <source>all settings together are too long</source>
-        <translation type="unfinished"></translation>
+        <translation>tutte le impostazioni insieme sono troppo lunghe</translation>
     </message>
 </context>
 <context>
@@ -813,39 +813,39 @@
     <name>dialog::JobDesk</name>
     <message>
         <source>There is nothing to print. Start the dialog with a document.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c’è nulla da stampare. Apri la finestra con un documento.</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Indietro</translation>
     </message>
     <message>
         <source>Print Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa comunque</translation>
     </message>
     <message>
         <source>Before this prints:</source>
-        <translation type="unfinished"></translation>
+        <translation>Prima di stampare:</translation>
     </message>
     <message>
         <source>The job could not be written to %1: %2. Make room or allow writing there, then print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile scrivere il lavoro in %1: %2. Libera spazio o consenti la scrittura, poi stampa di nuovo.</translation>
     </message>
     <message>
         <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato inviato nulla perché un’impostazione andrebbe persa: %1. Scegli un altro valore.</translation>
     </message>
     <message>
         <source>Sending to %1: %2 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>Invio a %1: %2%.</translation>
     </message>
     <message>
         <source>Cancel Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla lavoro</translation>
     </message>
     <message>
         <source>Sent as job %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inviato come lavoro %1.</translation>
     </message>
 </context>
 <context>
@@ -903,22 +903,22 @@
     <name>dialog::NoticeArea</name>
     <message>
         <source>Dismiss this notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi questo avviso</translation>
     </message>
 </context>
 <context>
     <name>dialog::PanelStack</name>
     <message>
         <source>This printer has no PPD, so there are no panels for it. Print uses the settings that its queue has.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa stampante non ha un PPD, quindi non ci sono pannelli. Si stampa con le impostazioni della sua coda.</translation>
     </message>
     <message>
         <source>The PPD of this printer names no panels. Print uses the settings that are marked in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il PPD di questa stampante non indica pannelli. Si stampa con le impostazioni che vi sono selezionate.</translation>
     </message>
     <message>
         <source>The maker&apos;s driver offers no panels for this printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il driver del produttore non offre pannelli per questa stampante.</translation>
     </message>
 </context>
 <context>
@@ -1009,96 +1009,96 @@
     <name>dialog::PrintDialog</name>
     <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli un gruppo di impostazioni dal menu a comparsa, modifica ciò che serve e premi Stampa. Una scelta che la stampante non può combinare con un’altra viene rifiutata, e un avviso dice quale lo impedisce.</translation>
     </message>
 </context>
 <context>
     <name>dialog::PrintWindow</name>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa</translation>
     </message>
     <message>
         <source>Settings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni:</translation>
     </message>
     <message>
         <source>Printer:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampante:</translation>
     </message>
     <message>
         <source>Document:</source>
-        <translation type="unfinished"></translation>
+        <translation>Documento:</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno</translation>
     </message>
     <message>
         <source>Sending…</source>
-        <translation type="unfinished"></translation>
+        <translation>Invio…</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina predefiniti</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva</translation>
     </message>
     <message>
         <source>Presets:</source>
-        <translation type="unfinished"></translation>
+        <translation>Preimpostazioni:</translation>
     </message>
 </context>
 <context>
     <name>dialog::PrinterPicker</name>
     <message>
         <source>Find a printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca una stampante</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampante</translation>
     </message>
 </context>
 <context>
     <name>dialog::QueueDialog</name>
     <message>
         <source>Connecting to %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Connessione a %1…</translation>
     </message>
     <message>
         <source>The print server at %1 has no printers. Add one there, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa a %1 non ha stampanti. Aggiungine una, poi riprova.</translation>
     </message>
     <message>
         <source>There is no printer %1 at the print server. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa non ha una stampante %1. Scegline un’altra.</translation>
     </message>
     <message>
         <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante %1 non può essere usata perché il suo PPD è danneggiato: %2. Fai configurare di nuovo la stampante o scegline un’altra.</translation>
     </message>
     <message>
         <source>This printer does not have what you chose for the one before:</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa stampante non ha ciò che avevi scelto per la precedente:</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Try Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Riprova</translation>
     </message>
 </context>
 <context>
@@ -1151,38 +1151,38 @@
     <name>dialog::SignInPrompt</name>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome:</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Password:</translation>
     </message>
     <message>
         <source>The print server did not accept this name and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa non ha accettato questo nome e questa password.</translation>
     </message>
     <message>
         <source>The print server %1 wants a name and password before it prints to %2. They are sent for this job and not kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa %1 richiede un nome e una password prima di stampare su %2. Vengono inviati per questo lavoro e non conservati.</translation>
     </message>
     <message>
         <source>The connection is not encrypted: others in the network could read the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>La connessione non è cifrata: altri nella rete potrebbero leggere la password.</translation>
     </message>
     <message>
         <source>Cancel Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla lavoro</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished"></translation>
+        <translation>Accedi</translation>
     </message>
 </context>
 <context>
     <name>dialog::SummaryPanel</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Riepilogo</translation>
     </message>
     <message>
         <source>No setting matches.</source>

@@ -5,117 +5,117 @@
     <name>ChoiceWords</name>
     <message>
         <source>“%1: %2” and “%3: %4” do not go together.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1: %2” e “%3: %4” não podem ser combinados.</translation>
     </message>
     <message>
         <source>%1: you chose “%2”, the job has “%3”.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: você escolheu “%2”, o trabalho tem “%3”.</translation>
     </message>
     <message>
         <source>“%1: %2” cannot be used together with “%3: %4”.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1: %2” não pode ser usado junto com “%3: %4”.</translation>
     </message>
     <message>
         <source>“%1: %2” cannot be chosen now.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1: %2” não pode ser escolhido agora.</translation>
     </message>
 </context>
 <context>
     <name>DocumentTexts</name>
     <message>
         <source>There is no document %1. Nothing was sent; choose another document.</source>
-        <translation type="unfinished"></translation>
+        <translation>O documento %1 não existe. Nada foi enviado; escolha outro documento.</translation>
     </message>
     <message>
         <source>The document %1 cannot be read. Nothing was sent; choose another document or allow reading it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível ler o documento %1. Nada foi enviado; escolha outro documento ou permita a leitura.</translation>
     </message>
 </context>
 <context>
     <name>JobMessages</name>
     <message>
         <source>There is no print server to send the job to (%1). Nothing was sent, and your settings are kept: start the print server or correct CUPS_SERVER, and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há servidor de impressão para o qual enviar o trabalho (%1). Nada foi enviado e suas definições foram mantidas: inicie o servidor de impressão ou corrija CUPS_SERVER e imprima novamente.</translation>
     </message>
     <message>
         <source>The print server does not answer. Your settings are kept. Print again when it does: what may have arrived by then is found, and not sent a second time.</source>
-        <translation type="unfinished"></translation>
+        <translation>O servidor de impressão não responde. Suas definições foram mantidas. Imprima novamente quando ele responder: o que já tiver chegado será encontrado e não será enviado outra vez.</translation>
     </message>
     <message>
         <source>The connection to the print server broke (%1). Your settings are kept. Print again: what may have arrived is found, and not sent a second time.</source>
-        <translation type="unfinished"></translation>
+        <translation>A conexão com o servidor de impressão foi interrompida (%1). Suas definições foram mantidas. Imprima novamente: o que já tiver chegado será encontrado e não será enviado outra vez.</translation>
     </message>
     <message>
         <source>The print server does not let you print to the queue %1 without a name and password that it accepts. Nothing was printed, and your settings are kept: print again and sign in, ask its administrator, or choose another queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>O servidor de impressão não permite imprimir na fila %1 sem um nome e uma senha que ele aceite. Nada foi impresso e suas definições foram mantidas: imprima novamente e identifique-se, consulte o administrador ou escolha outra fila.</translation>
     </message>
     <message>
         <source>The queue %1 takes no jobs at present. Nothing was sent, and your settings are kept: ask for the queue to be opened, or choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>A fila %1 não aceita trabalhos no momento. Nada foi enviado e suas definições foram mantidas: peça que a fila seja aberta ou escolha outra.</translation>
     </message>
     <message>
         <source>The print server no longer has a queue %1. Nothing was sent, and your settings are kept: choose another queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>O servidor de impressão não tem mais a fila %1. Nada foi enviado e suas definições foram mantidas: escolha outra fila.</translation>
     </message>
     <message>
         <source>The queue %1 cannot print a document of this kind (%2). Nothing was printed. Convert the document to PDF, or choose another queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>A fila %1 não consegue imprimir um documento deste tipo (%2). Nada foi impresso. Converta o documento em PDF ou escolha outra fila.</translation>
     </message>
     <message>
         <source>The print server did not take the job: %1. Your settings are kept; print again when it answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>O servidor de impressão não aceitou o trabalho: %1. Suas definições foram mantidas; imprima novamente quando ele responder.</translation>
     </message>
     <message>
         <source>The document can no longer be read (%1). Nothing was printed, and your settings are kept: put the document back and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é mais possível ler o documento (%1). Nada foi impresso e suas definições foram mantidas: coloque o documento de volta e imprima novamente.</translation>
     </message>
     <message>
         <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada foi enviado porque uma definição seria perdida: %1. Escolha outro valor para ela.</translation>
     </message>
     <message>
         <source>The job could not be noted in your state folder, so nothing was sent: a second copy could not be ruled out later. Make room on that disk and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível anotar o trabalho na sua pasta de estado, por isso nada foi enviado: uma segunda cópia não poderia ser descartada depois. Libere espaço nesse disco e imprima novamente.</translation>
     </message>
     <message>
         <source>The job was cancelled; nothing of it prints. Your settings are kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>O trabalho foi cancelado; nada dele será impresso. Suas definições foram mantidas.</translation>
     </message>
     <message>
         <source>An earlier attempt was sent whole to the queue %1, and the print server no longer knows it: it may have printed. Look at the printer before you press Print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Uma tentativa anterior foi enviada por inteiro à fila %1, e o servidor de impressão não a conhece mais: ela pode ter sido impressa. Verifique a impressora antes de pressionar Imprimir novamente.</translation>
     </message>
     <message>
         <source>The print server took the job and gave it up (%2). Your settings are kept; look at the queue %1, and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>O servidor de impressão aceitou o trabalho e o abandonou (%2). Suas definições foram mantidas; verifique a fila %1 e imprima novamente.</translation>
     </message>
     <message>
         <source>The earlier attempt had arrived as job %1, so nothing was sent again. Press Print once more for another copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>A tentativa anterior havia chegado como trabalho %1, por isso nada foi enviado de novo. Pressione Imprimir mais uma vez para outra cópia.</translation>
     </message>
     <message>
         <source>Job %1 waits, because the queue %2 is paused. It prints when somebody resumes the queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>O trabalho %1 está aguardando porque a fila %2 está em pausa. Ele será impresso quando alguém retomar a fila.</translation>
     </message>
     <message>
         <source>The print server did not keep the setting %1 (%2). Check the first page.</source>
-        <translation type="unfinished"></translation>
+        <translation>O servidor de impressão não manteve a definição %1 (%2). Verifique a primeira página.</translation>
     </message>
     <message>
         <source>The print server changed the setting %1 from %2 to %3. Check the first page.</source>
-        <translation type="unfinished"></translation>
+        <translation>O servidor de impressão alterou a definição %1 de %2 para %3. Verifique a primeira página.</translation>
     </message>
     <message>
         <source>“%1”, sent to %2 before this dialog was opened, had arrived as job %3. It was not sent again.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”, enviado a %2 antes da abertura desta caixa de diálogo, havia chegado como trabalho %3. Não foi enviado de novo.</translation>
     </message>
     <message>
         <source>“%1”, sent to %2 before this dialog was opened, had not arrived whole, and nothing of it prints. Print it again if you still need it.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”, enviado a %2 antes da abertura desta caixa de diálogo, não chegou por inteiro e nada dele será impresso. Imprima-o novamente se ainda precisar dele.</translation>
     </message>
     <message>
         <source>“%1” was sent whole to %2 before this dialog was opened, and the print server no longer knows it: it may have printed. Look at the printer before you print it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” foi enviado por inteiro a %2 antes da abertura desta caixa de diálogo, e o servidor de impressão não o conhece mais: ele pode ter sido impresso. Verifique a impressora antes de imprimi-lo novamente.</translation>
     </message>
 </context>
 <context>
@@ -221,58 +221,58 @@
     <name>PathRefusal</name>
     <message>
         <source>it lies outside /Library/Printers</source>
-        <translation type="unfinished"></translation>
+        <translation>está fora de /Library/Printers</translation>
     </message>
     <message>
         <source>the path goes through “..”</source>
-        <translation type="unfinished"></translation>
+        <translation>o caminho passa por “..”</translation>
     </message>
     <message>
         <source>it is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>não existe</translation>
     </message>
     <message>
         <source>it is a link</source>
-        <translation type="unfinished"></translation>
+        <translation>é um link</translation>
     </message>
     <message>
         <source>it belongs to somebody else</source>
-        <translation type="unfinished"></translation>
+        <translation>pertence a outra pessoa</translation>
     </message>
     <message>
         <source>others may write it</source>
-        <translation type="unfinished"></translation>
+        <translation>outros podem alterá-lo</translation>
     </message>
     <message>
         <source>it is no ordinary file or folder</source>
-        <translation type="unfinished"></translation>
+        <translation>não é um arquivo nem uma pasta comum</translation>
     </message>
 </context>
 <context>
     <name>PlugInTexts</name>
     <message>
         <source>The printer&apos;s panels are not installed: there is no %1. Install the maker&apos;s driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>Os painéis da impressora não estão instalados: %1 não existe. Instale o driver do fabricante.</translation>
     </message>
     <message>
         <source>The printer&apos;s panels were not loaded: %1 (%2). Install the maker&apos;s driver again as an administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>Os painéis da impressora não foram carregados: %1 (%2). Reinstale o driver do fabricante como administrador.</translation>
     </message>
     <message>
         <source>The printer&apos;s panels could not be loaded: %1 is damaged (%2). Install the maker&apos;s driver again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível carregar os painéis da impressora: %1 está danificado (%2). Reinstale o driver do fabricante.</translation>
     </message>
     <message>
         <source>it is cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>está cortado</translation>
     </message>
     <message>
         <source>The printer&apos;s panels do not fit this dialog: %1 was made for another version. Install the maker&apos;s current driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>Os painéis da impressora não servem para esta caixa de diálogo: %1 foi feito para outra versão. Instale o driver atual do fabricante.</translation>
     </message>
     <message>
         <source>The maker&apos;s driver offers no panels for this printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>O driver do fabricante não oferece painéis para esta impressora.</translation>
     </message>
 </context>
 <context>
@@ -481,66 +481,66 @@
     <name>PrinterWords</name>
     <message>
         <source>Not reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Inacessível</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>Em pausa</translation>
     </message>
     <message>
         <source>Paused: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Em pausa: %1</translation>
     </message>
     <message>
         <source>Takes no jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>Não aceita trabalhos</translation>
     </message>
     <message>
         <source>Offline</source>
-        <translation type="unfinished"></translation>
+        <translation>Offline</translation>
     </message>
     <message>
         <source>Offline: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Offline: %1</translation>
     </message>
     <message>
         <source>Printing</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimindo</translation>
     </message>
     <message>
         <source>Idle</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronta</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>No print server answers at %1 (%2). Start the server or check the network, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum servidor de impressão responde em %1 (%2). Inicie o servidor ou verifique a rede e tente novamente.</translation>
     </message>
     <message>
         <source>The print server at %1 does not answer. Wait a moment or have it restarted, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>O servidor de impressão em %1 não responde. Espere um momento ou peça que seja reiniciado e tente novamente.</translation>
     </message>
     <message>
         <source>The print server at %1 refused to answer: %2. Ask its administrator for access, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>O servidor de impressão em %1 recusou-se a responder: %2. Peça acesso ao administrador e tente novamente.</translation>
     </message>
 </context>
 <context>
     <name>QueueListCommand</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>padrão</translation>
     </message>
 </context>
 <context>
@@ -660,14 +660,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Long edge</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Short edge</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Grayscale</source>
         <translation type="unfinished"></translation>
     </message>
@@ -685,6 +677,14 @@
     </message>
     <message>
         <source>Pages side by side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn on the long edge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn on the short edge</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -711,39 +711,39 @@
     <name>Unsendable</name>
     <message>
         <source>a setting has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>uma definição não tem nome</translation>
     </message>
     <message>
         <source>the name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>o nome é longo demais</translation>
     </message>
     <message>
         <source>the name contains a character that cannot be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>o nome contém um caractere que não pode ser enviado</translation>
     </message>
     <message>
         <source>the value is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>o valor está vazio</translation>
     </message>
     <message>
         <source>a value cannot begin with “{”</source>
-        <translation type="unfinished"></translation>
+        <translation>um valor não pode começar com “{”</translation>
     </message>
     <message>
         <source>the value contains a character that cannot be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>o valor contém um caractere que não pode ser enviado</translation>
     </message>
     <message>
         <source>the value is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>o valor é longo demais</translation>
     </message>
     <message>
         <source>the printer would read it as “off”</source>
-        <translation type="unfinished"></translation>
+        <translation>a impressora o interpretaria como “desativado”</translation>
     </message>
     <message>
         <source>all settings together are too long</source>
-        <translation type="unfinished"></translation>
+        <translation>todas as definições juntas são longas demais</translation>
     </message>
 </context>
 <context>
@@ -813,39 +813,39 @@
     <name>dialog::JobDesk</name>
     <message>
         <source>There is nothing to print. Start the dialog with a document.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há nada para imprimir. Abra a caixa de diálogo com um documento.</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltar</translation>
     </message>
     <message>
         <source>Print Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir mesmo assim</translation>
     </message>
     <message>
         <source>Before this prints:</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes de imprimir:</translation>
     </message>
     <message>
         <source>The job could not be written to %1: %2. Make room or allow writing there, then print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível gravar o trabalho em %1: %2. Libere espaço ou permita a gravação e imprima novamente.</translation>
     </message>
     <message>
         <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada foi enviado porque uma definição seria perdida: %1. Escolha outro valor para ela.</translation>
     </message>
     <message>
         <source>Sending to %1: %2 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviando para %1: %2%.</translation>
     </message>
     <message>
         <source>Cancel Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar trabalho</translation>
     </message>
     <message>
         <source>Sent as job %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviado como trabalho %1.</translation>
     </message>
 </context>
 <context>
@@ -903,22 +903,22 @@
     <name>dialog::NoticeArea</name>
     <message>
         <source>Dismiss this notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar este aviso</translation>
     </message>
 </context>
 <context>
     <name>dialog::PanelStack</name>
     <message>
         <source>This printer has no PPD, so there are no panels for it. Print uses the settings that its queue has.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta impressora não tem PPD, portanto não há painéis para ela. A impressão usa as definições da fila.</translation>
     </message>
     <message>
         <source>The PPD of this printer names no panels. Print uses the settings that are marked in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>O PPD desta impressora não indica painéis. A impressão usa as definições marcadas nele.</translation>
     </message>
     <message>
         <source>The maker&apos;s driver offers no panels for this printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>O driver do fabricante não oferece painéis para esta impressora.</translation>
     </message>
 </context>
 <context>
@@ -1009,96 +1009,96 @@
     <name>dialog::PrintDialog</name>
     <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha um grupo de definições no menu suspenso, altere o que precisar e pressione Imprimir. Uma escolha que a impressora não pode combinar com outra é recusada, e um aviso diz qual delas impede.</translation>
     </message>
 </context>
 <context>
     <name>dialog::PrintWindow</name>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir</translation>
     </message>
     <message>
         <source>Settings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Definições:</translation>
     </message>
     <message>
         <source>Printer:</source>
-        <translation type="unfinished"></translation>
+        <translation>Impressora:</translation>
     </message>
     <message>
         <source>Document:</source>
-        <translation type="unfinished"></translation>
+        <translation>Documento:</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuda</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum</translation>
     </message>
     <message>
         <source>Sending…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviando…</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar padrões</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar</translation>
     </message>
     <message>
         <source>Presets:</source>
-        <translation type="unfinished"></translation>
+        <translation>Predefinições:</translation>
     </message>
 </context>
 <context>
     <name>dialog::PrinterPicker</name>
     <message>
         <source>Find a printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Procurar uma impressora</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Impressora</translation>
     </message>
 </context>
 <context>
     <name>dialog::QueueDialog</name>
     <message>
         <source>Connecting to %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectando a %1…</translation>
     </message>
     <message>
         <source>The print server at %1 has no printers. Add one there, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>O servidor de impressão em %1 não tem impressoras. Adicione uma e tente novamente.</translation>
     </message>
     <message>
         <source>There is no printer %1 at the print server. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>O servidor de impressão não tem a impressora %1. Escolha outra.</translation>
     </message>
     <message>
         <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>A impressora %1 não pode ser usada porque seu PPD está danificado: %2. Peça que a impressora seja configurada novamente ou escolha outra.</translation>
     </message>
     <message>
         <source>This printer does not have what you chose for the one before:</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta impressora não tem o que você escolheu para a anterior:</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Try Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Tentar novamente</translation>
     </message>
 </context>
 <context>
@@ -1151,38 +1151,38 @@
     <name>dialog::SignInPrompt</name>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome:</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Senha:</translation>
     </message>
     <message>
         <source>The print server did not accept this name and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>O servidor de impressão não aceitou este nome e esta senha.</translation>
     </message>
     <message>
         <source>The print server %1 wants a name and password before it prints to %2. They are sent for this job and not kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>O servidor de impressão %1 pede um nome e uma senha antes de imprimir em %2. Eles são enviados para este trabalho e não são guardados.</translation>
     </message>
     <message>
         <source>The connection is not encrypted: others in the network could read the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>A conexão não é criptografada: outras pessoas na rede poderiam ler a senha.</translation>
     </message>
     <message>
         <source>Cancel Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar trabalho</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrar</translation>
     </message>
 </context>
 <context>
     <name>dialog::SummaryPanel</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Resumo</translation>
     </message>
     <message>
         <source>No setting matches.</source>

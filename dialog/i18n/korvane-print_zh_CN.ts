@@ -5,117 +5,117 @@
     <name>ChoiceWords</name>
     <message>
         <source>“%1: %2” and “%3: %4” do not go together.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1：%2”与“%3：%4”不能同时使用。</translation>
     </message>
     <message>
         <source>%1: you chose “%2”, the job has “%3”.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：您选择了“%2”，作业中为“%3”。</translation>
     </message>
     <message>
         <source>“%1: %2” cannot be used together with “%3: %4”.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1：%2”不能与“%3：%4”一起使用。</translation>
     </message>
     <message>
         <source>“%1: %2” cannot be chosen now.</source>
-        <translation type="unfinished"></translation>
+        <translation>现在不能选择“%1：%2”。</translation>
     </message>
 </context>
 <context>
     <name>DocumentTexts</name>
     <message>
         <source>There is no document %1. Nothing was sent; choose another document.</source>
-        <translation type="unfinished"></translation>
+        <translation>文档 %1 不存在。未发送任何内容；请选择其他文档。</translation>
     </message>
     <message>
         <source>The document %1 cannot be read. Nothing was sent; choose another document or allow reading it.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取文档 %1。未发送任何内容；请选择其他文档，或允许读取它。</translation>
     </message>
 </context>
 <context>
     <name>JobMessages</name>
     <message>
         <source>There is no print server to send the job to (%1). Nothing was sent, and your settings are kept: start the print server or correct CUPS_SERVER, and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有可接收作业的打印服务器（%1）。未发送任何内容，您的设置已保留：请启动打印服务器或更正 CUPS_SERVER，然后重新打印。</translation>
     </message>
     <message>
         <source>The print server does not answer. Your settings are kept. Print again when it does: what may have arrived by then is found, and not sent a second time.</source>
-        <translation type="unfinished"></translation>
+        <translation>打印服务器没有响应。您的设置已保留。请在其响应后重新打印：届时已送达的内容会被识别，不会重复发送。</translation>
     </message>
     <message>
         <source>The connection to the print server broke (%1). Your settings are kept. Print again: what may have arrived is found, and not sent a second time.</source>
-        <translation type="unfinished"></translation>
+        <translation>与打印服务器的连接已中断（%1）。您的设置已保留。请重新打印：已送达的内容会被识别，不会重复发送。</translation>
     </message>
     <message>
         <source>The print server does not let you print to the queue %1 without a name and password that it accepts. Nothing was printed, and your settings are kept: print again and sign in, ask its administrator, or choose another queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>打印服务器要求提供它认可的用户名和密码，才允许您打印到队列 %1。未打印任何内容，您的设置已保留：请重新打印并登录、联系管理员，或选择其他队列。</translation>
     </message>
     <message>
         <source>The queue %1 takes no jobs at present. Nothing was sent, and your settings are kept: ask for the queue to be opened, or choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>队列 %1 目前不接受作业。未发送任何内容，您的设置已保留：请要求开放该队列，或选择其他队列。</translation>
     </message>
     <message>
         <source>The print server no longer has a queue %1. Nothing was sent, and your settings are kept: choose another queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>打印服务器上已没有队列 %1。未发送任何内容，您的设置已保留：请选择其他队列。</translation>
     </message>
     <message>
         <source>The queue %1 cannot print a document of this kind (%2). Nothing was printed. Convert the document to PDF, or choose another queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>队列 %1 无法打印此类文档（%2）。未打印任何内容。请将文档转换为 PDF，或选择其他队列。</translation>
     </message>
     <message>
         <source>The print server did not take the job: %1. Your settings are kept; print again when it answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>打印服务器未接受作业：%1。您的设置已保留；请在其响应后重新打印。</translation>
     </message>
     <message>
         <source>The document can no longer be read (%1). Nothing was printed, and your settings are kept: put the document back and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法再读取文档（%1）。未打印任何内容，您的设置已保留：请将文档放回原处，然后重新打印。</translation>
     </message>
     <message>
         <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>未发送任何内容，因为有一项设置会丢失：%1。请为它选择其他值。</translation>
     </message>
     <message>
         <source>The job could not be noted in your state folder, so nothing was sent: a second copy could not be ruled out later. Make room on that disk and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法将作业记录到您的状态文件夹，因此未发送任何内容：否则之后无法排除重复打印。请在该磁盘上腾出空间，然后重新打印。</translation>
     </message>
     <message>
         <source>The job was cancelled; nothing of it prints. Your settings are kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>作业已取消，不会打印任何内容。您的设置已保留。</translation>
     </message>
     <message>
         <source>An earlier attempt was sent whole to the queue %1, and the print server no longer knows it: it may have printed. Look at the printer before you press Print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>先前的一次打印已完整发送到队列 %1，但打印服务器上已没有它的记录：它可能已经打印。请先查看打印机，再次按“打印”。</translation>
     </message>
     <message>
         <source>The print server took the job and gave it up (%2). Your settings are kept; look at the queue %1, and print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>打印服务器接受了作业，但随后将其中止（%2）。您的设置已保留；请查看队列 %1，然后重新打印。</translation>
     </message>
     <message>
         <source>The earlier attempt had arrived as job %1, so nothing was sent again. Press Print once more for another copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>先前的打印已作为作业 %1 送达，因此未再次发送。如需再打印一份，请再按一次“打印”。</translation>
     </message>
     <message>
         <source>Job %1 waits, because the queue %2 is paused. It prints when somebody resumes the queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>作业 %1 正在等待，因为队列 %2 已暂停。恢复该队列后即会打印。</translation>
     </message>
     <message>
         <source>The print server did not keep the setting %1 (%2). Check the first page.</source>
-        <translation type="unfinished"></translation>
+        <translation>打印服务器未保留设置 %1（%2）。请检查第一页。</translation>
     </message>
     <message>
         <source>The print server changed the setting %1 from %2 to %3. Check the first page.</source>
-        <translation type="unfinished"></translation>
+        <translation>打印服务器已将设置 %1 从 %2 更改为 %3。请检查第一页。</translation>
     </message>
     <message>
         <source>“%1”, sent to %2 before this dialog was opened, had arrived as job %3. It was not sent again.</source>
-        <translation type="unfinished"></translation>
+        <translation>在打开此对话框之前发送到 %2 的“%1”已作为作业 %3 送达。未再次发送。</translation>
     </message>
     <message>
         <source>“%1”, sent to %2 before this dialog was opened, had not arrived whole, and nothing of it prints. Print it again if you still need it.</source>
-        <translation type="unfinished"></translation>
+        <translation>在打开此对话框之前发送到 %2 的“%1”未完整送达，不会打印任何内容。如仍需要，请重新打印。</translation>
     </message>
     <message>
         <source>“%1” was sent whole to %2 before this dialog was opened, and the print server no longer knows it: it may have printed. Look at the printer before you print it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>在打开此对话框之前，“%1”已完整发送到 %2，但打印服务器上已没有它的记录：它可能已经打印。请先查看打印机，再重新打印。</translation>
     </message>
 </context>
 <context>
@@ -221,58 +221,58 @@
     <name>PathRefusal</name>
     <message>
         <source>it lies outside /Library/Printers</source>
-        <translation type="unfinished"></translation>
+        <translation>位于 /Library/Printers 之外</translation>
     </message>
     <message>
         <source>the path goes through “..”</source>
-        <translation type="unfinished"></translation>
+        <translation>路径中包含“..”</translation>
     </message>
     <message>
         <source>it is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>不存在</translation>
     </message>
     <message>
         <source>it is a link</source>
-        <translation type="unfinished"></translation>
+        <translation>是一个链接</translation>
     </message>
     <message>
         <source>it belongs to somebody else</source>
-        <translation type="unfinished"></translation>
+        <translation>属于其他用户</translation>
     </message>
     <message>
         <source>others may write it</source>
-        <translation type="unfinished"></translation>
+        <translation>其他用户可以写入</translation>
     </message>
     <message>
         <source>it is no ordinary file or folder</source>
-        <translation type="unfinished"></translation>
+        <translation>不是普通的文件或文件夹</translation>
     </message>
 </context>
 <context>
     <name>PlugInTexts</name>
     <message>
         <source>The printer&apos;s panels are not installed: there is no %1. Install the maker&apos;s driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>打印机的面板未安装：%1 不存在。请安装制造商的驱动程序。</translation>
     </message>
     <message>
         <source>The printer&apos;s panels were not loaded: %1 (%2). Install the maker&apos;s driver again as an administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>未加载打印机的面板：%1（%2）。请以管理员身份重新安装制造商的驱动程序。</translation>
     </message>
     <message>
         <source>The printer&apos;s panels could not be loaded: %1 is damaged (%2). Install the maker&apos;s driver again.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法加载打印机的面板：%1 已损坏（%2）。请重新安装制造商的驱动程序。</translation>
     </message>
     <message>
         <source>it is cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>文件不完整</translation>
     </message>
     <message>
         <source>The printer&apos;s panels do not fit this dialog: %1 was made for another version. Install the maker&apos;s current driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>打印机的面板与此对话框不兼容：%1 是为其他版本制作的。请安装制造商的最新驱动程序。</translation>
     </message>
     <message>
         <source>The maker&apos;s driver offers no panels for this printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>制造商的驱动程序没有为此打印机提供面板。</translation>
     </message>
 </context>
 <context>
@@ -478,66 +478,66 @@
     <name>PrinterWords</name>
     <message>
         <source>Not reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>无法连接</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>已暂停</translation>
     </message>
     <message>
         <source>Paused: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>已暂停：%1</translation>
     </message>
     <message>
         <source>Takes no jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>不接受作业</translation>
     </message>
     <message>
         <source>Offline</source>
-        <translation type="unfinished"></translation>
+        <translation>离线</translation>
     </message>
     <message>
         <source>Offline: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>离线：%1</translation>
     </message>
     <message>
         <source>Printing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打印</translation>
     </message>
     <message>
         <source>Idle</source>
-        <translation type="unfinished"></translation>
+        <translation>空闲</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（%2）</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>No print server answers at %1 (%2). Start the server or check the network, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 上没有打印服务器响应（%2）。请启动服务器或检查网络，然后重试。</translation>
     </message>
     <message>
         <source>The print server at %1 does not answer. Wait a moment or have it restarted, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 上的打印服务器没有响应。请稍候或让人重新启动它，然后重试。</translation>
     </message>
     <message>
         <source>The print server at %1 refused to answer: %2. Ask its administrator for access, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 上的打印服务器拒绝响应：%2。请向管理员申请访问权限，然后重试。</translation>
     </message>
 </context>
 <context>
     <name>QueueListCommand</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（%2）</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>默认</translation>
     </message>
 </context>
 <context>
@@ -656,14 +656,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Long edge</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Short edge</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Grayscale</source>
         <translation type="unfinished"></translation>
     </message>
@@ -681,6 +673,14 @@
     </message>
     <message>
         <source>Pages side by side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn on the long edge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn on the short edge</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -707,39 +707,39 @@
     <name>Unsendable</name>
     <message>
         <source>a setting has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>有一项设置没有名称</translation>
     </message>
     <message>
         <source>the name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>名称过长</translation>
     </message>
     <message>
         <source>the name contains a character that cannot be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>名称中含有无法发送的字符</translation>
     </message>
     <message>
         <source>the value is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>值为空</translation>
     </message>
     <message>
         <source>a value cannot begin with “{”</source>
-        <translation type="unfinished"></translation>
+        <translation>值不能以“{”开头</translation>
     </message>
     <message>
         <source>the value contains a character that cannot be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>值中含有无法发送的字符</translation>
     </message>
     <message>
         <source>the value is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>值过长</translation>
     </message>
     <message>
         <source>the printer would read it as “off”</source>
-        <translation type="unfinished"></translation>
+        <translation>打印机会将其理解为“关”</translation>
     </message>
     <message>
         <source>all settings together are too long</source>
-        <translation type="unfinished"></translation>
+        <translation>所有设置加起来过长</translation>
     </message>
 </context>
 <context>
@@ -809,39 +809,39 @@
     <name>dialog::JobDesk</name>
     <message>
         <source>There is nothing to print. Start the dialog with a document.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有可打印的内容。请带文档启动此对话框。</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>返回</translation>
     </message>
     <message>
         <source>Print Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>仍然打印</translation>
     </message>
     <message>
         <source>Before this prints:</source>
-        <translation type="unfinished"></translation>
+        <translation>打印之前：</translation>
     </message>
     <message>
         <source>The job could not be written to %1: %2. Make room or allow writing there, then print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法将作业写入 %1：%2。请腾出空间或允许写入，然后重新打印。</translation>
     </message>
     <message>
         <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>未发送任何内容，因为有一项设置会丢失：%1。请为它选择其他值。</translation>
     </message>
     <message>
         <source>Sending to %1: %2 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在发送到 %1：%2%。</translation>
     </message>
     <message>
         <source>Cancel Job</source>
-        <translation type="unfinished"></translation>
+        <translation>取消作业</translation>
     </message>
     <message>
         <source>Sent as job %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>已作为作业 %1 发送。</translation>
     </message>
 </context>
 <context>
@@ -899,22 +899,22 @@
     <name>dialog::NoticeArea</name>
     <message>
         <source>Dismiss this notice</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭此通知</translation>
     </message>
 </context>
 <context>
     <name>dialog::PanelStack</name>
     <message>
         <source>This printer has no PPD, so there are no panels for it. Print uses the settings that its queue has.</source>
-        <translation type="unfinished"></translation>
+        <translation>此打印机没有 PPD，因此没有面板。打印将使用其队列的设置。</translation>
     </message>
     <message>
         <source>The PPD of this printer names no panels. Print uses the settings that are marked in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>此打印机的 PPD 未指定面板。打印将使用其中选定的设置。</translation>
     </message>
     <message>
         <source>The maker&apos;s driver offers no panels for this printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>制造商的驱动程序没有为此打印机提供面板。</translation>
     </message>
 </context>
 <context>
@@ -1005,96 +1005,96 @@
     <name>dialog::PrintDialog</name>
     <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation type="unfinished"></translation>
+        <translation>从弹出菜单中选择一组设置，更改所需内容，然后按“打印”。打印机无法与其他选择组合的选择会被拒绝，并有通知说明是哪一项造成冲突。</translation>
     </message>
 </context>
 <context>
     <name>dialog::PrintWindow</name>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>打印</translation>
     </message>
     <message>
         <source>Settings:</source>
-        <translation type="unfinished"></translation>
+        <translation>设置：</translation>
     </message>
     <message>
         <source>Printer:</source>
-        <translation type="unfinished"></translation>
+        <translation>打印机：</translation>
     </message>
     <message>
         <source>Document:</source>
-        <translation type="unfinished"></translation>
+        <translation>文档：</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>帮助</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>无</translation>
     </message>
     <message>
         <source>Sending…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在发送…</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复默认值</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Presets:</source>
-        <translation type="unfinished"></translation>
+        <translation>预设：</translation>
     </message>
 </context>
 <context>
     <name>dialog::PrinterPicker</name>
     <message>
         <source>Find a printer</source>
-        <translation type="unfinished"></translation>
+        <translation>查找打印机</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>打印机</translation>
     </message>
 </context>
 <context>
     <name>dialog::QueueDialog</name>
     <message>
         <source>Connecting to %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在连接 %1…</translation>
     </message>
     <message>
         <source>The print server at %1 has no printers. Add one there, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 上的打印服务器没有打印机。请在那里添加一台，然后重试。</translation>
     </message>
     <message>
         <source>There is no printer %1 at the print server. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>打印服务器上没有打印机 %1。请选择其他打印机。</translation>
     </message>
     <message>
         <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法使用打印机 %1，因为其 PPD 已损坏：%2。请重新设置该打印机，或选择其他打印机。</translation>
     </message>
     <message>
         <source>This printer does not have what you chose for the one before:</source>
-        <translation type="unfinished"></translation>
+        <translation>此打印机没有您为前一台打印机选择的以下设置：</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>Try Again</source>
-        <translation type="unfinished"></translation>
+        <translation>重试</translation>
     </message>
 </context>
 <context>
@@ -1146,38 +1146,38 @@
     <name>dialog::SignInPrompt</name>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>用户名：</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>密码：</translation>
     </message>
     <message>
         <source>The print server did not accept this name and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>打印服务器不接受此用户名和密码。</translation>
     </message>
     <message>
         <source>The print server %1 wants a name and password before it prints to %2. They are sent for this job and not kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>打印服务器 %1 需要用户名和密码才能打印到 %2。它们仅用于此作业，不会保存。</translation>
     </message>
     <message>
         <source>The connection is not encrypted: others in the network could read the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>连接未加密：网络中的其他人可能会看到密码。</translation>
     </message>
     <message>
         <source>Cancel Job</source>
-        <translation type="unfinished"></translation>
+        <translation>取消作业</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished"></translation>
+        <translation>登录</translation>
     </message>
 </context>
 <context>
     <name>dialog::SummaryPanel</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>摘要</translation>
     </message>
     <message>
         <source>No setting matches.</source>
