@@ -122,99 +122,99 @@
     <name>JobSettings</name>
     <message>
         <source>Both</source>
-        <translation type="unfinished"></translation>
+        <translation>Beide</translation>
     </message>
     <message>
         <source>Odd pages only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur ungerade Seiten</translation>
     </message>
     <message>
         <source>Even pages only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur gerade Seiten</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochformat</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Querformat</translation>
     </message>
     <message>
         <source>Reverse portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochformat, umgekehrt</translation>
     </message>
     <message>
         <source>Reverse landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Querformat, umgekehrt</translation>
     </message>
     <message>
         <source>Right, then down</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach rechts, dann nach unten</translation>
     </message>
     <message>
         <source>Down, then right</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach unten, dann nach rechts</translation>
     </message>
     <message>
         <source>Left, then down</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach links, dann nach unten</translation>
     </message>
     <message>
         <source>Down, then left</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach unten, dann nach links</translation>
     </message>
     <message>
         <source>Right, then up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach rechts, dann nach oben</translation>
     </message>
     <message>
         <source>Up, then right</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach oben, dann nach rechts</translation>
     </message>
     <message>
         <source>Left, then up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach links, dann nach oben</translation>
     </message>
     <message>
         <source>Up, then left</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach oben, dann nach links</translation>
     </message>
     <message>
         <source>No border</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Rahmen</translation>
     </message>
     <message>
         <source>Thin line</source>
-        <translation type="unfinished"></translation>
+        <translation>Dünne Linie</translation>
     </message>
     <message>
         <source>Thick line</source>
-        <translation type="unfinished"></translation>
+        <translation>Dicke Linie</translation>
     </message>
     <message>
         <source>Two thin lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei dünne Linien</translation>
     </message>
     <message>
         <source>Two thick lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei dicke Linien</translation>
     </message>
     <message>
         <source>Actual size</source>
-        <translation type="unfinished"></translation>
+        <translation>Originalgröße</translation>
     </message>
     <message>
         <source>Fit to the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>An das Papier anpassen</translation>
     </message>
     <message>
         <source>Fill the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier ausfüllen</translation>
     </message>
 </context>
 <context>
@@ -279,202 +279,202 @@
     <name>PresetMessages</name>
     <message>
         <source>There is no such preset any more; another print dialog has deleted or renamed it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Voreinstellung gibt es nicht mehr; ein anderer Druckdialog hat sie gelöscht oder umbenannt.</translation>
     </message>
     <message numerus="yes">
         <source>There is room for %n preset(s) only. Delete one that is not needed any more.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Es ist nur Platz für %n Voreinstellung. Löschen Sie eine, die nicht mehr gebraucht wird.</numerusform>
+            <numerusform>Es ist nur Platz für %n Voreinstellungen. Löschen Sie eine, die nicht mehr gebraucht wird.</numerusform>
         </translation>
     </message>
     <message>
         <source>Another print dialog is changing the presets. Try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderer Druckdialog ändert gerade die Voreinstellungen. Versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>The presets could not be written to “%1” because there is no room left. Free some space and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Voreinstellungen konnten nicht nach „%1“ geschrieben werden, weil kein Platz mehr frei ist. Schaffen Sie Platz, und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>“%1” may not be read or written. Allow it, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ darf nicht gelesen oder geschrieben werden. Erlauben Sie es, und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>“%1” is a link, belongs to somebody else, or others may write to it. Replace it by a folder that only you may write to.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist ein Verweis, gehört jemand anderem, oder andere dürfen dorthin schreiben. Ersetzen Sie es durch einen Ordner, in den nur Sie schreiben dürfen.</translation>
     </message>
     <message>
         <source>The presets in “%1” are of a newer version of this program. Update the program, or move the file away to begin anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Voreinstellungen in „%1“ stammen von einer neueren Version dieses Programms. Aktualisieren Sie das Programm, oder verschieben Sie die Datei, um neu zu beginnen.</translation>
     </message>
     <message>
         <source>“%1” cannot be used for presets: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht für Voreinstellungen benutzbar: %2.</translation>
     </message>
     <message>
         <source>The file of your presets for this printer was damaged. It is kept as “%1”; what could be read of it is still here. Correct the file and give it back its old name, or delete it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei mit Ihren Voreinstellungen für diesen Drucker war beschädigt. Sie ist als „%1“ aufbewahrt; was lesbar war, ist noch da. Berichtigen Sie die Datei und geben Sie ihr den alten Namen zurück, oder löschen Sie sie.</translation>
     </message>
     <message>
         <source>Type a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie einen Namen ein.</translation>
     </message>
     <message numerus="yes">
         <source>A name has at most %n character(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ein Name hat höchstens %n Zeichen.</numerusform>
+            <numerusform>Ein Name hat höchstens %n Zeichen.</numerusform>
         </translation>
     </message>
     <message>
         <source>Another preset has this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine andere Voreinstellung heißt schon so.</translation>
     </message>
     <message>
         <source>This printer does not have everything that “%1” sets. These settings were left as the printer has them:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Drucker hat nicht alles, was „%1“ einstellt. Diese Einstellungen blieben, wie der Drucker sie hat:</translation>
     </message>
     <message>
         <source>These settings cannot be used together on this printer:</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Einstellungen sind bei diesem Drucker nicht zusammen möglich:</translation>
     </message>
     <message>
         <source>“%1” and “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ und „%2“</translation>
     </message>
 </context>
 <context>
     <name>PreviewWords</name>
     <message>
         <source>Page %1 is damaged and stays empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 ist beschädigt und bleibt leer.</translation>
     </message>
     <message>
         <source>No pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Seiten</translation>
     </message>
     <message>
         <source>Page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1</translation>
     </message>
     <message>
         <source>Pages %1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten %1 und %2</translation>
     </message>
     <message>
         <source>Pages %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten %1 bis %2</translation>
     </message>
     <message>
         <source>Sheet %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Blatt %1 von %2</translation>
     </message>
     <message>
         <source>Sheet %1 of %2, front</source>
-        <translation type="unfinished"></translation>
+        <translation>Blatt %1 von %2, Vorderseite</translation>
     </message>
     <message>
         <source>Sheet %1 of %2, back</source>
-        <translation type="unfinished"></translation>
+        <translation>Blatt %1 von %2, Rückseite</translation>
     </message>
     <message>
         <source>front</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorderseite</translation>
     </message>
     <message>
         <source>back</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückseite</translation>
     </message>
     <message numerus="yes">
         <source>%n copies</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Exemplar</numerusform>
+            <numerusform>%n Exemplare</numerusform>
         </translation>
     </message>
     <message>
         <source>collated</source>
-        <translation type="unfinished"></translation>
+        <translation>sortiert</translation>
     </message>
     <message>
         <source>landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Querformat</translation>
     </message>
     <message>
         <source>portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochformat</translation>
     </message>
     <message>
         <source>grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Graustufen</translation>
     </message>
     <message>
         <source>flipped</source>
-        <translation type="unfinished"></translation>
+        <translation>gespiegelt</translation>
     </message>
 </context>
 <context>
     <name>PrinterLists</name>
     <message>
         <source>As the printer is set</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie im Drucker eingestellt</translation>
     </message>
     <message>
         <source>A4</source>
-        <translation type="unfinished"></translation>
+        <translation>A4</translation>
     </message>
     <message>
         <source>A3</source>
-        <translation type="unfinished"></translation>
+        <translation>A3</translation>
     </message>
     <message>
         <source>A5</source>
-        <translation type="unfinished"></translation>
+        <translation>A5</translation>
     </message>
     <message>
         <source>A6</source>
-        <translation type="unfinished"></translation>
+        <translation>A6</translation>
     </message>
     <message>
         <source>B5 (JIS)</source>
-        <translation type="unfinished"></translation>
+        <translation>B5 (JIS)</translation>
     </message>
     <message>
         <source>US Letter</source>
-        <translation type="unfinished"></translation>
+        <translation>US Letter</translation>
     </message>
     <message>
         <source>US Legal</source>
-        <translation type="unfinished"></translation>
+        <translation>US Legal</translation>
     </message>
     <message>
         <source>Tabloid</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabloid</translation>
     </message>
     <message>
         <source>Photo 10 × 15 cm</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto 10 × 15 cm</translation>
     </message>
     <message>
         <source>DL envelope</source>
-        <translation type="unfinished"></translation>
+        <translation>Umschlag DL</translation>
     </message>
     <message>
         <source>No. 10 envelope</source>
-        <translation type="unfinished"></translation>
+        <translation>Umschlag Nr. 10</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Turn on the long edge</source>
-        <translation type="unfinished"></translation>
+        <translation>An der langen Kante wenden</translation>
     </message>
     <message>
         <source>Turn on the short edge</source>
-        <translation type="unfinished"></translation>
+        <translation>An der kurzen Kante wenden</translation>
     </message>
 </context>
 <context>
@@ -547,33 +547,33 @@
     <name>RangeTexts</name>
     <message>
         <source>Type the pages to print, such as 1-3, 5, 8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie die zu druckenden Seiten ein, etwa 1-3, 5, 8-.</translation>
     </message>
     <message>
         <source>“%1” is no page number. Write pages as 1-3, 5, 8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Seitenzahl. Schreiben Sie Seiten als 1-3, 5, 8-.</translation>
     </message>
     <message>
         <source>“%1”: pages count from 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“: Seiten zählen ab 1.</translation>
     </message>
     <message>
         <source>“%1”: no document has so many pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“: So viele Seiten hat kein Dokument.</translation>
     </message>
     <message>
         <source>“%1” runs backwards. Write %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ läuft rückwärts. Schreiben Sie %2.</translation>
     </message>
     <message>
         <source>“%1” is no range. Write a range as 1-3.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Bereich. Schreiben Sie einen Bereich als 1-3.</translation>
     </message>
     <message numerus="yes">
         <source>“%1”: the document has only %n page(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>„%1“: Das Dokument hat nur %n Seite.</numerusform>
+            <numerusform>„%1“: Das Dokument hat nur %n Seiten.</numerusform>
         </translation>
     </message>
 </context>
@@ -581,130 +581,130 @@
     <name>SettingWords</name>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemplare</translation>
     </message>
     <message>
         <source>Collate</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortieren</translation>
     </message>
     <message>
         <source>Order of sheets</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge der Blätter</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten</translation>
     </message>
     <message>
         <source>Odd or even pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungerade oder gerade Seiten</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtung</translation>
     </message>
     <message>
         <source>Two-sided</source>
-        <translation type="unfinished"></translation>
+        <translation>Beidseitig</translation>
     </message>
     <message>
         <source>Pages per sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten pro Blatt</translation>
     </message>
     <message>
         <source>Layout order</source>
-        <translation type="unfinished"></translation>
+        <translation>Anordnung</translation>
     </message>
     <message>
         <source>Border</source>
-        <translation type="unfinished"></translation>
+        <translation>Rahmen</translation>
     </message>
     <message>
         <source>Scaling</source>
-        <translation type="unfinished"></translation>
+        <translation>Skalierung</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualität</translation>
     </message>
     <message>
         <source>Output tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabefach</translation>
     </message>
     <message>
         <source>Flip horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal spiegeln</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>First page first</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Seite zuerst</translation>
     </message>
     <message>
         <source>Last page first</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Seite zuerst</translation>
     </message>
     <message>
         <source>Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Graustufen</translation>
     </message>
     <message>
         <source>Draft</source>
-        <translation type="unfinished"></translation>
+        <translation>Entwurf</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoch</translation>
     </message>
     <message>
         <source>Pages side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten nebeneinander</translation>
     </message>
     <message>
         <source>Turn on the long edge</source>
-        <translation type="unfinished"></translation>
+        <translation>An der langen Kante wenden</translation>
     </message>
     <message>
         <source>Turn on the short edge</source>
-        <translation type="unfinished"></translation>
+        <translation>An der kurzen Kante wenden</translation>
     </message>
 </context>
 <context>
     <name>SummaryTexts</name>
     <message>
         <source>Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Auftrag</translation>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere</translation>
     </message>
     <message>
         <source>changed</source>
-        <translation type="unfinished"></translation>
+        <translation>geändert</translation>
     </message>
     <message>
         <source>replaced by a setting of the job</source>
-        <translation type="unfinished"></translation>
+        <translation>durch eine Einstellung des Auftrags ersetzt</translation>
     </message>
 </context>
 <context>
@@ -750,63 +750,63 @@
     <name>dialog::GeneralView</name>
     <message>
         <source>Collate</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortieren</translation>
     </message>
     <message>
         <source>Reverse order</source>
-        <translation type="unfinished"></translation>
+        <translation>Umgekehrte Reihenfolge</translation>
     </message>
     <message>
         <source>How often the document is printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie oft das Dokument gedruckt wird</translation>
     </message>
     <message>
         <source>Prints one whole copy after the other</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckt ein vollständiges Exemplar nach dem anderen</translation>
     </message>
     <message>
         <source>Prints the last page first</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckt die letzte Seite zuerst</translation>
     </message>
     <message>
         <source>Which of these pages are printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche dieser Seiten gedruckt werden</translation>
     </message>
     <message>
         <source>How the pages lie on the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie die Seiten auf dem Papier liegen</translation>
     </message>
     <message>
         <source>The paper in the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Papier im Drucker</translation>
     </message>
     <message>
         <source>Whether the paper is printed on both sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob das Papier beidseitig bedruckt wird</translation>
     </message>
     <message>
         <source>Paper size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierformat:</translation>
     </message>
     <message>
         <source>Two-sided:</source>
-        <translation type="unfinished"></translation>
+        <translation>Beidseitig:</translation>
     </message>
     <message>
         <source>Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemplare:</translation>
     </message>
     <message>
         <source>Pages:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten:</translation>
     </message>
     <message>
         <source>Odd or even:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerade/ungerade:</translation>
     </message>
     <message>
         <source>Orientation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtung:</translation>
     </message>
 </context>
 <context>
@@ -852,51 +852,51 @@
     <name>dialog::LayoutPanel</name>
     <message>
         <source>Flip horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal spiegeln</translation>
     </message>
     <message>
         <source>Pages per sheet:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten pro Blatt:</translation>
     </message>
     <message>
         <source>How many pages share a side of the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele Seiten sich eine Papierseite teilen</translation>
     </message>
     <message>
         <source>Layout order:</source>
-        <translation type="unfinished"></translation>
+        <translation>Anordnung:</translation>
     </message>
     <message>
         <source>In which order they lie there</source>
-        <translation type="unfinished"></translation>
+        <translation>In welcher Reihenfolge sie dort liegen</translation>
     </message>
     <message>
         <source>Border:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rahmen:</translation>
     </message>
     <message>
         <source>A line around each page</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Linie um jede Seite</translation>
     </message>
     <message>
         <source>Scaling:</source>
-        <translation type="unfinished"></translation>
+        <translation>Skalierung:</translation>
     </message>
     <message>
         <source>How large the pages are on the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie groß die Seiten auf dem Papier sind</translation>
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout</translation>
     </message>
     <message>
         <source>Prints every page as in a mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckt jede Seite wie im Spiegel</translation>
     </message>
     <message>
         <source>On this system the printer&apos;s own panel mirrors the pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem System spiegelt die Einstellungsseite des Druckers die Seiten.</translation>
     </message>
 </context>
 <context>
@@ -925,84 +925,84 @@
     <name>dialog::PreviewPane</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>Previous sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Voriges Blatt</translation>
     </message>
     <message>
         <source>Next sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächstes Blatt</translation>
     </message>
     <message>
         <source>Sheet shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezeigtes Blatt</translation>
     </message>
     <message>
         <source>Make the preview smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau verkleinern</translation>
     </message>
     <message>
         <source>Make the preview larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau vergrößern</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Einpassen</translation>
     </message>
     <message>
         <source>Show the whole sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzes Blatt zeigen</translation>
     </message>
     <message>
         <source>Side </source>
         <extracomment>Stands before the number of the sheet in &quot;Sheet 1 of 3&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Seite </translation>
     </message>
     <message>
         <source>Sheet </source>
-        <translation type="unfinished"></translation>
+        <translation>Blatt </translation>
     </message>
     <message>
         <source> of %1</source>
         <extracomment>Stands behind the number of the sheet in &quot;Sheet 1 of 3&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> von %1</translation>
     </message>
     <message>
         <source>Nothing would be printed: no page is among those chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es würde nichts gedruckt: Keine Seite gehört zu den gewählten.</translation>
     </message>
 </context>
 <context>
     <name>dialog::PreviewWords</name>
     <message>
         <source>No document. The sheet stays empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Dokument. Das Blatt bleibt leer.</translation>
     </message>
     <message>
         <source>The document cannot be read. Check that it is still in its place and that you may read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument ist nicht lesbar. Prüfen Sie, ob es noch an seinem Platz ist und Sie es lesen dürfen.</translation>
     </message>
     <message>
         <source>The document is damaged. Open it in the program that made it and save it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument ist beschädigt. Öffnen Sie es in dem Programm, das es erstellt hat, und sichern Sie es neu.</translation>
     </message>
     <message>
         <source>The document is protected by a password. Save a copy of it without the password and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument ist durch ein Passwort geschützt. Sichern Sie eine Kopie ohne Passwort, und drucken Sie diese.</translation>
     </message>
     <message>
         <source>The document has no pages. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument hat keine Seiten. Wählen Sie ein anderes.</translation>
     </message>
     <message>
         <source>The picture is too large to be shown. Scale it down to see it here; it can be printed as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist zu groß, um gezeigt zu werden. Verkleinern Sie es, um es hier zu sehen; gedruckt werden kann es, wie es ist.</translation>
     </message>
     <message>
         <source>There is no preview for this kind of document. It can be printed all the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für Dokumente dieser Art gibt es keine Vorschau. Gedruckt werden können sie trotzdem.</translation>
     </message>
 </context>
 <context>
@@ -1105,46 +1105,46 @@
     <name>dialog::RangeField</name>
     <message numerus="yes">
         <source>The document has %n page(s): it is printed up to its end.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Das Dokument hat %n Seite: Es wird bis zu seinem Ende gedruckt.</numerusform>
+            <numerusform>Das Dokument hat %n Seiten: Es wird bis zu seinem Ende gedruckt.</numerusform>
         </translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>Only:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur:</translation>
     </message>
     <message>
         <source>Prints the whole document</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckt das ganze Dokument</translation>
     </message>
     <message>
         <source>Prints the pages that are named beside it</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckt die Seiten, die daneben stehen</translation>
     </message>
     <message>
         <source>All pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Seiten</translation>
     </message>
     <message>
         <source>Only some pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur einige Seiten</translation>
     </message>
     <message>
         <source>Pages to print</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu druckende Seiten</translation>
     </message>
     <message>
         <source>for example 1-3, 5, 8-</source>
-        <translation type="unfinished"></translation>
+        <translation>zum Beispiel 1-3, 5, 8-</translation>
     </message>
     <message>
         <source>Pages and ranges of pages, with commas between them</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten und Seitenbereiche, durch Kommas getrennt</translation>
     </message>
 </context>
 <context>
@@ -1186,15 +1186,15 @@
     </message>
     <message>
         <source>No setting matches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Einstellung passt.</translation>
     </message>
     <message>
         <source>Find a setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellung suchen</translation>
     </message>
     <message>
         <source>Copy as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Text kopieren</translation>
     </message>
 </context>
 </TS>

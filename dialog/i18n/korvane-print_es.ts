@@ -122,99 +122,99 @@
     <name>JobSettings</name>
     <message>
         <source>Both</source>
-        <translation type="unfinished"></translation>
+        <translation>Ambas</translation>
     </message>
     <message>
         <source>Odd pages only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo páginas impares</translation>
     </message>
     <message>
         <source>Even pages only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo páginas pares</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automático</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal</translation>
     </message>
     <message>
         <source>Reverse portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical invertida</translation>
     </message>
     <message>
         <source>Reverse landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal invertida</translation>
     </message>
     <message>
         <source>Right, then down</source>
-        <translation type="unfinished"></translation>
+        <translation>A la derecha, luego abajo</translation>
     </message>
     <message>
         <source>Down, then right</source>
-        <translation type="unfinished"></translation>
+        <translation>Abajo, luego a la derecha</translation>
     </message>
     <message>
         <source>Left, then down</source>
-        <translation type="unfinished"></translation>
+        <translation>A la izquierda, luego abajo</translation>
     </message>
     <message>
         <source>Down, then left</source>
-        <translation type="unfinished"></translation>
+        <translation>Abajo, luego a la izquierda</translation>
     </message>
     <message>
         <source>Right, then up</source>
-        <translation type="unfinished"></translation>
+        <translation>A la derecha, luego arriba</translation>
     </message>
     <message>
         <source>Up, then right</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba, luego a la derecha</translation>
     </message>
     <message>
         <source>Left, then up</source>
-        <translation type="unfinished"></translation>
+        <translation>A la izquierda, luego arriba</translation>
     </message>
     <message>
         <source>Up, then left</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba, luego a la izquierda</translation>
     </message>
     <message>
         <source>No border</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin borde</translation>
     </message>
     <message>
         <source>Thin line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea fina</translation>
     </message>
     <message>
         <source>Thick line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea gruesa</translation>
     </message>
     <message>
         <source>Two thin lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Dos líneas finas</translation>
     </message>
     <message>
         <source>Two thick lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Dos líneas gruesas</translation>
     </message>
     <message>
         <source>Actual size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño real</translation>
     </message>
     <message>
         <source>Fit to the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar al papel</translation>
     </message>
     <message>
         <source>Fill the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Llenar el papel</translation>
     </message>
 </context>
 <context>
@@ -279,202 +279,202 @@
     <name>PresetMessages</name>
     <message>
         <source>There is no such preset any more; another print dialog has deleted or renamed it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este preajuste ya no existe; otro diálogo de impresión lo ha eliminado o le ha cambiado el nombre.</translation>
     </message>
     <message numerus="yes">
         <source>There is room for %n preset(s) only. Delete one that is not needed any more.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Solo hay sitio para %n preajuste. Elimine uno que ya no necesite.</numerusform>
+            <numerusform>Solo hay sitio para %n preajustes. Elimine uno que ya no necesite.</numerusform>
         </translation>
     </message>
     <message>
         <source>Another print dialog is changing the presets. Try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro diálogo de impresión está cambiando los preajustes. Inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>The presets could not be written to “%1” because there is no room left. Free some space and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han podido escribir los preajustes en «%1» porque no queda espacio. Libere espacio e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>“%1” may not be read or written. Allow it, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se permite leer o escribir «%1». Permítalo e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>“%1” is a link, belongs to somebody else, or others may write to it. Replace it by a folder that only you may write to.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» es un enlace, pertenece a otra persona u otros pueden escribir en él. Sustitúyalo por una carpeta en la que solo usted pueda escribir.</translation>
     </message>
     <message>
         <source>The presets in “%1” are of a newer version of this program. Update the program, or move the file away to begin anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los preajustes de «%1» son de una versión más reciente de este programa. Actualice el programa o mueva el archivo para empezar de cero.</translation>
     </message>
     <message>
         <source>“%1” cannot be used for presets: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede usar para preajustes: %2.</translation>
     </message>
     <message>
         <source>The file of your presets for this printer was damaged. It is kept as “%1”; what could be read of it is still here. Correct the file and give it back its old name, or delete it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de sus preajustes para esta impresora estaba dañado. Se conserva como «%1»; lo que se pudo leer sigue aquí. Corrija el archivo y devuélvale su nombre, o elimínelo.</translation>
     </message>
     <message>
         <source>Type a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba un nombre.</translation>
     </message>
     <message numerus="yes">
         <source>A name has at most %n character(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Un nombre tiene como máximo %n carácter.</numerusform>
+            <numerusform>Un nombre tiene como máximo %n caracteres.</numerusform>
         </translation>
     </message>
     <message>
         <source>Another preset has this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro preajuste tiene este nombre.</translation>
     </message>
     <message>
         <source>This printer does not have everything that “%1” sets. These settings were left as the printer has them:</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta impresora no tiene todo lo que ajusta «%1». Estos ajustes se han dejado como los tiene la impresora:</translation>
     </message>
     <message>
         <source>These settings cannot be used together on this printer:</source>
-        <translation type="unfinished"></translation>
+        <translation>Estos ajustes no se pueden usar juntos en esta impresora:</translation>
     </message>
     <message>
         <source>“%1” and “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» y «%2»</translation>
     </message>
 </context>
 <context>
     <name>PreviewWords</name>
     <message>
         <source>Page %1 is damaged and stays empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>La página %1 está dañada y queda vacía.</translation>
     </message>
     <message>
         <source>No pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna página</translation>
     </message>
     <message>
         <source>Page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Página %1</translation>
     </message>
     <message>
         <source>Pages %1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas %1 y %2</translation>
     </message>
     <message>
         <source>Pages %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas %1 a %2</translation>
     </message>
     <message>
         <source>Sheet %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoja %1 de %2</translation>
     </message>
     <message>
         <source>Sheet %1 of %2, front</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoja %1 de %2, anverso</translation>
     </message>
     <message>
         <source>Sheet %1 of %2, back</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoja %1 de %2, reverso</translation>
     </message>
     <message>
         <source>front</source>
-        <translation type="unfinished"></translation>
+        <translation>anverso</translation>
     </message>
     <message>
         <source>back</source>
-        <translation type="unfinished"></translation>
+        <translation>reverso</translation>
     </message>
     <message numerus="yes">
         <source>%n copies</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n copia</numerusform>
+            <numerusform>%n copias</numerusform>
         </translation>
     </message>
     <message>
         <source>collated</source>
-        <translation type="unfinished"></translation>
+        <translation>intercaladas</translation>
     </message>
     <message>
         <source>landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>horizontal</translation>
     </message>
     <message>
         <source>portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>vertical</translation>
     </message>
     <message>
         <source>grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>escala de grises</translation>
     </message>
     <message>
         <source>flipped</source>
-        <translation type="unfinished"></translation>
+        <translation>volteada</translation>
     </message>
 </context>
 <context>
     <name>PrinterLists</name>
     <message>
         <source>As the printer is set</source>
-        <translation type="unfinished"></translation>
+        <translation>Según la impresora</translation>
     </message>
     <message>
         <source>A4</source>
-        <translation type="unfinished"></translation>
+        <translation>A4</translation>
     </message>
     <message>
         <source>A3</source>
-        <translation type="unfinished"></translation>
+        <translation>A3</translation>
     </message>
     <message>
         <source>A5</source>
-        <translation type="unfinished"></translation>
+        <translation>A5</translation>
     </message>
     <message>
         <source>A6</source>
-        <translation type="unfinished"></translation>
+        <translation>A6</translation>
     </message>
     <message>
         <source>B5 (JIS)</source>
-        <translation type="unfinished"></translation>
+        <translation>B5 (JIS)</translation>
     </message>
     <message>
         <source>US Letter</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta EE. UU.</translation>
     </message>
     <message>
         <source>US Legal</source>
-        <translation type="unfinished"></translation>
+        <translation>Legal EE. UU.</translation>
     </message>
     <message>
         <source>Tabloid</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabloide</translation>
     </message>
     <message>
         <source>Photo 10 × 15 cm</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto 10 × 15 cm</translation>
     </message>
     <message>
         <source>DL envelope</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre DL</translation>
     </message>
     <message>
         <source>No. 10 envelope</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre n.º 10</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Desactivado</translation>
     </message>
     <message>
         <source>Turn on the long edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar por el borde largo</translation>
     </message>
     <message>
         <source>Turn on the short edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar por el borde corto</translation>
     </message>
 </context>
 <context>
@@ -547,33 +547,33 @@
     <name>RangeTexts</name>
     <message>
         <source>Type the pages to print, such as 1-3, 5, 8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba las páginas que desea imprimir, por ejemplo 1-3, 5, 8-.</translation>
     </message>
     <message>
         <source>“%1” is no page number. Write pages as 1-3, 5, 8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un número de página. Escriba las páginas así: 1-3, 5, 8-.</translation>
     </message>
     <message>
         <source>“%1”: pages count from 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1»: las páginas se cuentan desde 1.</translation>
     </message>
     <message>
         <source>“%1”: no document has so many pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1»: ningún documento tiene tantas páginas.</translation>
     </message>
     <message>
         <source>“%1” runs backwards. Write %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» está al revés. Escriba %2.</translation>
     </message>
     <message>
         <source>“%1” is no range. Write a range as 1-3.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un intervalo. Escriba un intervalo así: 1-3.</translation>
     </message>
     <message numerus="yes">
         <source>“%1”: the document has only %n page(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>«%1»: el documento solo tiene %n página.</numerusform>
+            <numerusform>«%1»: el documento solo tiene %n páginas.</numerusform>
         </translation>
     </message>
 </context>
@@ -581,130 +581,130 @@
     <name>SettingWords</name>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>Copias</translation>
     </message>
     <message>
         <source>Collate</source>
-        <translation type="unfinished"></translation>
+        <translation>Intercalar</translation>
     </message>
     <message>
         <source>Order of sheets</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden de las hojas</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas</translation>
     </message>
     <message>
         <source>Odd or even pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas pares o impares</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papel</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientación</translation>
     </message>
     <message>
         <source>Two-sided</source>
-        <translation type="unfinished"></translation>
+        <translation>A dos caras</translation>
     </message>
     <message>
         <source>Pages per sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas por hoja</translation>
     </message>
     <message>
         <source>Layout order</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden de las páginas</translation>
     </message>
     <message>
         <source>Border</source>
-        <translation type="unfinished"></translation>
+        <translation>Borde</translation>
     </message>
     <message>
         <source>Scaling</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color</translation>
     </message>
     <message>
         <source>Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Calidad</translation>
     </message>
     <message>
         <source>Output tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Bandeja de salida</translation>
     </message>
     <message>
         <source>Flip horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltear horizontalmente</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Activado</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Desactivado</translation>
     </message>
     <message>
         <source>First page first</source>
-        <translation type="unfinished"></translation>
+        <translation>Primera página primero</translation>
     </message>
     <message>
         <source>Last page first</source>
-        <translation type="unfinished"></translation>
+        <translation>Última página primero</translation>
     </message>
     <message>
         <source>Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala de grises</translation>
     </message>
     <message>
         <source>Draft</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrador</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Alta</translation>
     </message>
     <message>
         <source>Pages side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas contiguas</translation>
     </message>
     <message>
         <source>Turn on the long edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar por el borde largo</translation>
     </message>
     <message>
         <source>Turn on the short edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar por el borde corto</translation>
     </message>
 </context>
 <context>
     <name>SummaryTexts</name>
     <message>
         <source>Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Trabajo</translation>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>Otros</translation>
     </message>
     <message>
         <source>changed</source>
-        <translation type="unfinished"></translation>
+        <translation>cambiado</translation>
     </message>
     <message>
         <source>replaced by a setting of the job</source>
-        <translation type="unfinished"></translation>
+        <translation>sustituido por un ajuste del trabajo</translation>
     </message>
 </context>
 <context>
@@ -750,63 +750,63 @@
     <name>dialog::GeneralView</name>
     <message>
         <source>Collate</source>
-        <translation type="unfinished"></translation>
+        <translation>Intercalar</translation>
     </message>
     <message>
         <source>Reverse order</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden inverso</translation>
     </message>
     <message>
         <source>How often the document is printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuántas veces se imprime el documento</translation>
     </message>
     <message>
         <source>Prints one whole copy after the other</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime una copia completa tras otra</translation>
     </message>
     <message>
         <source>Prints the last page first</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime primero la última página</translation>
     </message>
     <message>
         <source>Which of these pages are printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuáles de estas páginas se imprimen</translation>
     </message>
     <message>
         <source>How the pages lie on the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Cómo se colocan las páginas en el papel</translation>
     </message>
     <message>
         <source>The paper in the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>El papel de la impresora</translation>
     </message>
     <message>
         <source>Whether the paper is printed on both sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Si el papel se imprime por las dos caras</translation>
     </message>
     <message>
         <source>Paper size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del papel:</translation>
     </message>
     <message>
         <source>Two-sided:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dos caras:</translation>
     </message>
     <message>
         <source>Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>Copias:</translation>
     </message>
     <message>
         <source>Pages:</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas:</translation>
     </message>
     <message>
         <source>Odd or even:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pares/impares:</translation>
     </message>
     <message>
         <source>Orientation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientación:</translation>
     </message>
 </context>
 <context>
@@ -837,7 +837,7 @@
     </message>
     <message>
         <source>Sending to %1: %2 %.</source>
-        <translation>Enviando a %1: %2 %.</translation>
+        <translation>Enviando a %1: %2&#xa0;%.</translation>
     </message>
     <message>
         <source>Cancel Job</source>
@@ -852,51 +852,51 @@
     <name>dialog::LayoutPanel</name>
     <message>
         <source>Flip horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltear horizontalmente</translation>
     </message>
     <message>
         <source>Pages per sheet:</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas por hoja:</translation>
     </message>
     <message>
         <source>How many pages share a side of the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuántas páginas comparten una cara del papel</translation>
     </message>
     <message>
         <source>Layout order:</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden de las páginas:</translation>
     </message>
     <message>
         <source>In which order they lie there</source>
-        <translation type="unfinished"></translation>
+        <translation>En qué orden se colocan</translation>
     </message>
     <message>
         <source>Border:</source>
-        <translation type="unfinished"></translation>
+        <translation>Borde:</translation>
     </message>
     <message>
         <source>A line around each page</source>
-        <translation type="unfinished"></translation>
+        <translation>Una línea alrededor de cada página</translation>
     </message>
     <message>
         <source>Scaling:</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala:</translation>
     </message>
     <message>
         <source>How large the pages are on the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué tamaño tienen las páginas en el papel</translation>
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposición</translation>
     </message>
     <message>
         <source>Prints every page as in a mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime cada página como en un espejo</translation>
     </message>
     <message>
         <source>On this system the printer&apos;s own panel mirrors the pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>En este sistema, el panel de la impresora voltea las páginas.</translation>
     </message>
 </context>
 <context>
@@ -925,84 +925,84 @@
     <name>dialog::PreviewPane</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>Previous sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoja anterior</translation>
     </message>
     <message>
         <source>Next sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoja siguiente</translation>
     </message>
     <message>
         <source>Sheet shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoja mostrada</translation>
     </message>
     <message>
         <source>Make the preview smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Reducir la vista previa</translation>
     </message>
     <message>
         <source>Make the preview larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Ampliar la vista previa</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar</translation>
     </message>
     <message>
         <source>Show the whole sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la hoja entera</translation>
     </message>
     <message>
         <source>Side </source>
         <extracomment>Stands before the number of the sheet in &quot;Sheet 1 of 3&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Cara </translation>
     </message>
     <message>
         <source>Sheet </source>
-        <translation type="unfinished"></translation>
+        <translation>Hoja </translation>
     </message>
     <message>
         <source> of %1</source>
         <extracomment>Stands behind the number of the sheet in &quot;Sheet 1 of 3&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> de %1</translation>
     </message>
     <message>
         <source>Nothing would be printed: no page is among those chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se imprimiría nada: ninguna página está entre las elegidas.</translation>
     </message>
 </context>
 <context>
     <name>dialog::PreviewWords</name>
     <message>
         <source>No document. The sheet stays empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay documento. La hoja queda vacía.</translation>
     </message>
     <message>
         <source>The document cannot be read. Check that it is still in its place and that you may read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer el documento. Compruebe que sigue en su sitio y que tiene permiso para leerlo.</translation>
     </message>
     <message>
         <source>The document is damaged. Open it in the program that made it and save it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El documento está dañado. Ábralo en el programa que lo creó y guárdelo de nuevo.</translation>
     </message>
     <message>
         <source>The document is protected by a password. Save a copy of it without the password and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>El documento está protegido con contraseña. Guarde una copia sin contraseña e imprímala.</translation>
     </message>
     <message>
         <source>The document has no pages. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El documento no tiene páginas. Elija otro.</translation>
     </message>
     <message>
         <source>The picture is too large to be shown. Scale it down to see it here; it can be printed as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen es demasiado grande para mostrarla. Redúzcala para verla aquí; se puede imprimir tal como está.</translation>
     </message>
     <message>
         <source>There is no preview for this kind of document. It can be printed all the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay vista previa para este tipo de documento. Se puede imprimir de todos modos.</translation>
     </message>
 </context>
 <context>
@@ -1105,46 +1105,46 @@
     <name>dialog::RangeField</name>
     <message numerus="yes">
         <source>The document has %n page(s): it is printed up to its end.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>El documento tiene %n página: se imprime hasta el final.</numerusform>
+            <numerusform>El documento tiene %n páginas: se imprime hasta el final.</numerusform>
         </translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas</translation>
     </message>
     <message>
         <source>Only:</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo:</translation>
     </message>
     <message>
         <source>Prints the whole document</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime todo el documento</translation>
     </message>
     <message>
         <source>Prints the pages that are named beside it</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime las páginas indicadas al lado</translation>
     </message>
     <message>
         <source>All pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las páginas</translation>
     </message>
     <message>
         <source>Only some pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo algunas páginas</translation>
     </message>
     <message>
         <source>Pages to print</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas que imprimir</translation>
     </message>
     <message>
         <source>for example 1-3, 5, 8-</source>
-        <translation type="unfinished"></translation>
+        <translation>por ejemplo 1-3, 5, 8-</translation>
     </message>
     <message>
         <source>Pages and ranges of pages, with commas between them</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas e intervalos de páginas, separados por comas</translation>
     </message>
 </context>
 <context>
@@ -1186,15 +1186,15 @@
     </message>
     <message>
         <source>No setting matches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún ajuste coincide.</translation>
     </message>
     <message>
         <source>Find a setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar un ajuste</translation>
     </message>
     <message>
         <source>Copy as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar como texto</translation>
     </message>
 </context>
 </TS>

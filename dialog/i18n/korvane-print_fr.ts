@@ -5,57 +5,57 @@
     <name>ChoiceWords</name>
     <message>
         <source>“%1: %2” and “%3: %4” do not go together.</source>
-        <translation>« %1 : %2 » et « %3 : %4 » ne vont pas ensemble.</translation>
+        <translation>«&#xa0;%1&#xa0;: %2&#xa0;» et «&#xa0;%3&#xa0;: %4&#xa0;» ne vont pas ensemble.</translation>
     </message>
     <message>
         <source>%1: you chose “%2”, the job has “%3”.</source>
-        <translation>%1 : vous avez choisi « %2 », la tâche a « %3 ».</translation>
+        <translation>%1&#xa0;: vous avez choisi «&#xa0;%2&#xa0;», la tâche a «&#xa0;%3&#xa0;».</translation>
     </message>
     <message>
         <source>“%1: %2” cannot be used together with “%3: %4”.</source>
-        <translation>« %1 : %2 » ne peut pas être utilisé avec « %3 : %4 ».</translation>
+        <translation>«&#xa0;%1&#xa0;: %2&#xa0;» ne peut pas être utilisé avec «&#xa0;%3&#xa0;: %4&#xa0;».</translation>
     </message>
     <message>
         <source>“%1: %2” cannot be chosen now.</source>
-        <translation>« %1 : %2 » ne peut pas être choisi maintenant.</translation>
+        <translation>«&#xa0;%1&#xa0;: %2&#xa0;» ne peut pas être choisi maintenant.</translation>
     </message>
 </context>
 <context>
     <name>DocumentTexts</name>
     <message>
         <source>There is no document %1. Nothing was sent; choose another document.</source>
-        <translation>Le document %1 n’existe pas. Rien n’a été envoyé ; choisissez un autre document.</translation>
+        <translation>Le document %1 n’existe pas. Rien n’a été envoyé&#x202f;; choisissez un autre document.</translation>
     </message>
     <message>
         <source>The document %1 cannot be read. Nothing was sent; choose another document or allow reading it.</source>
-        <translation>Le document %1 est illisible. Rien n’a été envoyé ; choisissez un autre document ou autorisez sa lecture.</translation>
+        <translation>Le document %1 est illisible. Rien n’a été envoyé&#x202f;; choisissez un autre document ou autorisez sa lecture.</translation>
     </message>
 </context>
 <context>
     <name>JobMessages</name>
     <message>
         <source>There is no print server to send the job to (%1). Nothing was sent, and your settings are kept: start the print server or correct CUPS_SERVER, and print again.</source>
-        <translation>Il n’y a pas de serveur d’impression auquel envoyer la tâche (%1). Rien n’a été envoyé, et vos réglages sont conservés : démarrez le serveur d’impression ou corrigez CUPS_SERVER, puis imprimez à nouveau.</translation>
+        <translation>Il n’y a pas de serveur d’impression auquel envoyer la tâche (%1). Rien n’a été envoyé, et vos réglages sont conservés&#xa0;: démarrez le serveur d’impression ou corrigez CUPS_SERVER, puis imprimez à nouveau.</translation>
     </message>
     <message>
         <source>The print server does not answer. Your settings are kept. Print again when it does: what may have arrived by then is found, and not sent a second time.</source>
-        <translation>Le serveur d’impression ne répond pas. Vos réglages sont conservés. Imprimez à nouveau lorsqu’il répondra : ce qui sera arrivé entre-temps sera retrouvé et ne sera pas envoyé une seconde fois.</translation>
+        <translation>Le serveur d’impression ne répond pas. Vos réglages sont conservés. Imprimez à nouveau lorsqu’il répondra&#xa0;: ce qui sera arrivé entre-temps sera retrouvé et ne sera pas envoyé une seconde fois.</translation>
     </message>
     <message>
         <source>The connection to the print server broke (%1). Your settings are kept. Print again: what may have arrived is found, and not sent a second time.</source>
-        <translation>La connexion au serveur d’impression a été interrompue (%1). Vos réglages sont conservés. Imprimez à nouveau : ce qui est arrivé sera retrouvé et ne sera pas envoyé une seconde fois.</translation>
+        <translation>La connexion au serveur d’impression a été interrompue (%1). Vos réglages sont conservés. Imprimez à nouveau&#xa0;: ce qui est arrivé sera retrouvé et ne sera pas envoyé une seconde fois.</translation>
     </message>
     <message>
         <source>The print server does not let you print to the queue %1 without a name and password that it accepts. Nothing was printed, and your settings are kept: print again and sign in, ask its administrator, or choose another queue.</source>
-        <translation>Le serveur d’impression ne vous laisse pas imprimer vers la file %1 sans un nom et un mot de passe qu’il accepte. Rien n’a été imprimé, et vos réglages sont conservés : imprimez à nouveau et identifiez-vous, adressez-vous à son administrateur, ou choisissez une autre file.</translation>
+        <translation>Le serveur d’impression ne vous laisse pas imprimer vers la file %1 sans un nom et un mot de passe qu’il accepte. Rien n’a été imprimé, et vos réglages sont conservés&#xa0;: imprimez à nouveau et identifiez-vous, adressez-vous à son administrateur, ou choisissez une autre file.</translation>
     </message>
     <message>
         <source>The queue %1 takes no jobs at present. Nothing was sent, and your settings are kept: ask for the queue to be opened, or choose another one.</source>
-        <translation>La file %1 n’accepte pas de tâches actuellement. Rien n’a été envoyé, et vos réglages sont conservés : demandez que la file soit ouverte, ou choisissez-en une autre.</translation>
+        <translation>La file %1 n’accepte pas de tâches actuellement. Rien n’a été envoyé, et vos réglages sont conservés&#xa0;: demandez que la file soit ouverte, ou choisissez-en une autre.</translation>
     </message>
     <message>
         <source>The print server no longer has a queue %1. Nothing was sent, and your settings are kept: choose another queue.</source>
-        <translation>Le serveur d’impression n’a plus de file %1. Rien n’a été envoyé, et vos réglages sont conservés : choisissez une autre file.</translation>
+        <translation>Le serveur d’impression n’a plus de file %1. Rien n’a été envoyé, et vos réglages sont conservés&#xa0;: choisissez une autre file.</translation>
     </message>
     <message>
         <source>The queue %1 cannot print a document of this kind (%2). Nothing was printed. Convert the document to PDF, or choose another queue.</source>
@@ -63,31 +63,31 @@
     </message>
     <message>
         <source>The print server did not take the job: %1. Your settings are kept; print again when it answers.</source>
-        <translation>Le serveur d’impression n’a pas accepté la tâche : %1. Vos réglages sont conservés ; imprimez à nouveau lorsqu’il répondra.</translation>
+        <translation>Le serveur d’impression n’a pas accepté la tâche&#xa0;: %1. Vos réglages sont conservés&#x202f;; imprimez à nouveau lorsqu’il répondra.</translation>
     </message>
     <message>
         <source>The document can no longer be read (%1). Nothing was printed, and your settings are kept: put the document back and print again.</source>
-        <translation>Le document n’est plus lisible (%1). Rien n’a été imprimé, et vos réglages sont conservés : remettez le document en place et imprimez à nouveau.</translation>
+        <translation>Le document n’est plus lisible (%1). Rien n’a été imprimé, et vos réglages sont conservés&#xa0;: remettez le document en place et imprimez à nouveau.</translation>
     </message>
     <message>
         <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
-        <translation>Rien n’a été envoyé, car un réglage serait perdu : %1. Choisissez-lui une autre valeur.</translation>
+        <translation>Rien n’a été envoyé, car un réglage serait perdu&#xa0;: %1. Choisissez-lui une autre valeur.</translation>
     </message>
     <message>
         <source>The job could not be noted in your state folder, so nothing was sent: a second copy could not be ruled out later. Make room on that disk and print again.</source>
-        <translation>La tâche n’a pas pu être notée dans votre dossier d’état, donc rien n’a été envoyé : un second exemplaire ne pourrait pas être exclu ensuite. Libérez de l’espace sur ce disque et imprimez à nouveau.</translation>
+        <translation>La tâche n’a pas pu être notée dans votre dossier d’état, donc rien n’a été envoyé&#xa0;: un second exemplaire ne pourrait pas être exclu ensuite. Libérez de l’espace sur ce disque et imprimez à nouveau.</translation>
     </message>
     <message>
         <source>The job was cancelled; nothing of it prints. Your settings are kept.</source>
-        <translation>La tâche a été annulée ; rien n’en sera imprimé. Vos réglages sont conservés.</translation>
+        <translation>La tâche a été annulée&#x202f;; rien n’en sera imprimé. Vos réglages sont conservés.</translation>
     </message>
     <message>
         <source>An earlier attempt was sent whole to the queue %1, and the print server no longer knows it: it may have printed. Look at the printer before you press Print again.</source>
-        <translation>Un essai précédent a été envoyé en entier à la file %1, et le serveur d’impression ne le connaît plus : il a peut-être été imprimé. Regardez l’imprimante avant d’appuyer à nouveau sur Imprimer.</translation>
+        <translation>Un essai précédent a été envoyé en entier à la file %1, et le serveur d’impression ne le connaît plus&#xa0;: il a peut-être été imprimé. Regardez l’imprimante avant d’appuyer à nouveau sur Imprimer.</translation>
     </message>
     <message>
         <source>The print server took the job and gave it up (%2). Your settings are kept; look at the queue %1, and print again.</source>
-        <translation>Le serveur d’impression a pris la tâche puis l’a abandonnée (%2). Vos réglages sont conservés ; vérifiez la file %1, puis imprimez à nouveau.</translation>
+        <translation>Le serveur d’impression a pris la tâche puis l’a abandonnée (%2). Vos réglages sont conservés&#x202f;; vérifiez la file %1, puis imprimez à nouveau.</translation>
     </message>
     <message>
         <source>The earlier attempt had arrived as job %1, so nothing was sent again. Press Print once more for another copy.</source>
@@ -107,114 +107,114 @@
     </message>
     <message>
         <source>“%1”, sent to %2 before this dialog was opened, had arrived as job %3. It was not sent again.</source>
-        <translation>« %1 », envoyé à %2 avant l’ouverture de ce dialogue, était arrivé comme tâche %3. Il n’a pas été renvoyé.</translation>
+        <translation>«&#xa0;%1&#xa0;», envoyé à %2 avant l’ouverture de ce dialogue, était arrivé comme tâche %3. Il n’a pas été renvoyé.</translation>
     </message>
     <message>
         <source>“%1”, sent to %2 before this dialog was opened, had not arrived whole, and nothing of it prints. Print it again if you still need it.</source>
-        <translation>« %1 », envoyé à %2 avant l’ouverture de ce dialogue, n’était pas arrivé en entier, et rien n’en sera imprimé. Imprimez-le à nouveau si vous en avez encore besoin.</translation>
+        <translation>«&#xa0;%1&#xa0;», envoyé à %2 avant l’ouverture de ce dialogue, n’était pas arrivé en entier, et rien n’en sera imprimé. Imprimez-le à nouveau si vous en avez encore besoin.</translation>
     </message>
     <message>
         <source>“%1” was sent whole to %2 before this dialog was opened, and the print server no longer knows it: it may have printed. Look at the printer before you print it again.</source>
-        <translation>« %1 » a été envoyé en entier à %2 avant l’ouverture de ce dialogue, et le serveur d’impression ne le connaît plus : il a peut-être été imprimé. Regardez l’imprimante avant de l’imprimer à nouveau.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été envoyé en entier à %2 avant l’ouverture de ce dialogue, et le serveur d’impression ne le connaît plus&#xa0;: il a peut-être été imprimé. Regardez l’imprimante avant de l’imprimer à nouveau.</translation>
     </message>
 </context>
 <context>
     <name>JobSettings</name>
     <message>
         <source>Both</source>
-        <translation type="unfinished"></translation>
+        <translation>Les deux</translation>
     </message>
     <message>
         <source>Odd pages only</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages impaires seulement</translation>
     </message>
     <message>
         <source>Even pages only</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages paires seulement</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatique</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Portrait</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Paysage</translation>
     </message>
     <message>
         <source>Reverse portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Portrait inversé</translation>
     </message>
     <message>
         <source>Reverse landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Paysage inversé</translation>
     </message>
     <message>
         <source>Right, then down</source>
-        <translation type="unfinished"></translation>
+        <translation>À droite, puis vers le bas</translation>
     </message>
     <message>
         <source>Down, then right</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers le bas, puis à droite</translation>
     </message>
     <message>
         <source>Left, then down</source>
-        <translation type="unfinished"></translation>
+        <translation>À gauche, puis vers le bas</translation>
     </message>
     <message>
         <source>Down, then left</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers le bas, puis à gauche</translation>
     </message>
     <message>
         <source>Right, then up</source>
-        <translation type="unfinished"></translation>
+        <translation>À droite, puis vers le haut</translation>
     </message>
     <message>
         <source>Up, then right</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers le haut, puis à droite</translation>
     </message>
     <message>
         <source>Left, then up</source>
-        <translation type="unfinished"></translation>
+        <translation>À gauche, puis vers le haut</translation>
     </message>
     <message>
         <source>Up, then left</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers le haut, puis à gauche</translation>
     </message>
     <message>
         <source>No border</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun cadre</translation>
     </message>
     <message>
         <source>Thin line</source>
-        <translation type="unfinished"></translation>
+        <translation>Trait fin</translation>
     </message>
     <message>
         <source>Thick line</source>
-        <translation type="unfinished"></translation>
+        <translation>Trait épais</translation>
     </message>
     <message>
         <source>Two thin lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Deux traits fins</translation>
     </message>
     <message>
         <source>Two thick lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Deux traits épais</translation>
     </message>
     <message>
         <source>Actual size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille réelle</translation>
     </message>
     <message>
         <source>Fit to the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Adapter au papier</translation>
     </message>
     <message>
         <source>Fill the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplir le papier</translation>
     </message>
 </context>
 <context>
@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>the path goes through “..”</source>
-        <translation>le chemin passe par « .. »</translation>
+        <translation>le chemin passe par «&#xa0;..&#xa0;»</translation>
     </message>
     <message>
         <source>it is not there</source>
@@ -252,15 +252,15 @@
     <name>PlugInTexts</name>
     <message>
         <source>The printer&apos;s panels are not installed: there is no %1. Install the maker&apos;s driver.</source>
-        <translation>Les panneaux de l’imprimante ne sont pas installés : %1 n’existe pas. Installez le pilote du fabricant.</translation>
+        <translation>Les panneaux de l’imprimante ne sont pas installés&#xa0;: %1 n’existe pas. Installez le pilote du fabricant.</translation>
     </message>
     <message>
         <source>The printer&apos;s panels were not loaded: %1 (%2). Install the maker&apos;s driver again as an administrator.</source>
-        <translation>Les panneaux de l’imprimante n’ont pas été chargés : %1 (%2). Réinstallez le pilote du fabricant en tant qu’administrateur.</translation>
+        <translation>Les panneaux de l’imprimante n’ont pas été chargés&#xa0;: %1 (%2). Réinstallez le pilote du fabricant en tant qu’administrateur.</translation>
     </message>
     <message>
         <source>The printer&apos;s panels could not be loaded: %1 is damaged (%2). Install the maker&apos;s driver again.</source>
-        <translation>Les panneaux de l’imprimante n’ont pas pu être chargés : %1 est endommagé (%2). Réinstallez le pilote du fabricant.</translation>
+        <translation>Les panneaux de l’imprimante n’ont pas pu être chargés&#xa0;: %1 est endommagé (%2). Réinstallez le pilote du fabricant.</translation>
     </message>
     <message>
         <source>it is cut off</source>
@@ -268,7 +268,7 @@
     </message>
     <message>
         <source>The printer&apos;s panels do not fit this dialog: %1 was made for another version. Install the maker&apos;s current driver.</source>
-        <translation>Les panneaux de l’imprimante ne conviennent pas à ce dialogue : %1 a été fait pour une autre version. Installez le pilote actuel du fabricant.</translation>
+        <translation>Les panneaux de l’imprimante ne conviennent pas à ce dialogue&#xa0;: %1 a été fait pour une autre version. Installez le pilote actuel du fabricant.</translation>
     </message>
     <message>
         <source>The maker&apos;s driver offers no panels for this printer.</source>
@@ -279,202 +279,202 @@
     <name>PresetMessages</name>
     <message>
         <source>There is no such preset any more; another print dialog has deleted or renamed it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce préréglage n’existe plus&#x202f;; un autre dialogue d’impression l’a supprimé ou renommé.</translation>
     </message>
     <message numerus="yes">
         <source>There is room for %n preset(s) only. Delete one that is not needed any more.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Il n’y a de place que pour %n préréglage. Supprimez-en un qui ne sert plus.</numerusform>
+            <numerusform>Il n’y a de place que pour %n préréglages. Supprimez-en un qui ne sert plus.</numerusform>
         </translation>
     </message>
     <message>
         <source>Another print dialog is changing the presets. Try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre dialogue d’impression modifie les préréglages. Réessayez.</translation>
     </message>
     <message>
         <source>The presets could not be written to “%1” because there is no room left. Free some space and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les préréglages n’ont pas pu être écrits dans «&#xa0;%1&#xa0;», car il n’y a plus de place. Libérez de l’espace et réessayez.</translation>
     </message>
     <message>
         <source>“%1” may not be read or written. Allow it, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être lu ou écrit. Autorisez-le et réessayez.</translation>
     </message>
     <message>
         <source>“%1” is a link, belongs to somebody else, or others may write to it. Replace it by a folder that only you may write to.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» est un lien, appartient à quelqu’un d’autre, ou d’autres peuvent y écrire. Remplacez-le par un dossier où vous seul pouvez écrire.</translation>
     </message>
     <message>
         <source>The presets in “%1” are of a newer version of this program. Update the program, or move the file away to begin anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les préréglages de «&#xa0;%1&#xa0;» viennent d’une version plus récente de ce programme. Mettez le programme à jour, ou déplacez le fichier pour repartir à neuf.</translation>
     </message>
     <message>
         <source>“%1” cannot be used for presets: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas servir aux préréglages&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The file of your presets for this printer was damaged. It is kept as “%1”; what could be read of it is still here. Correct the file and give it back its old name, or delete it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de vos préréglages pour cette imprimante était endommagé. Il est conservé sous «&#xa0;%1&#xa0;»&#x202f;; ce qui a pu en être lu est toujours là. Corrigez le fichier et rendez-lui son ancien nom, ou supprimez-le.</translation>
     </message>
     <message>
         <source>Type a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez un nom.</translation>
     </message>
     <message numerus="yes">
         <source>A name has at most %n character(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Un nom a au plus %n caractère.</numerusform>
+            <numerusform>Un nom a au plus %n caractères.</numerusform>
         </translation>
     </message>
     <message>
         <source>Another preset has this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre préréglage porte ce nom.</translation>
     </message>
     <message>
         <source>This printer does not have everything that “%1” sets. These settings were left as the printer has them:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette imprimante n’a pas tout ce que règle «&#xa0;%1&#xa0;». Ces réglages sont restés ceux de l’imprimante&#xa0;:</translation>
     </message>
     <message>
         <source>These settings cannot be used together on this printer:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces réglages ne peuvent pas être utilisés ensemble sur cette imprimante&#xa0;:</translation>
     </message>
     <message>
         <source>“%1” and “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;»</translation>
     </message>
 </context>
 <context>
     <name>PreviewWords</name>
     <message>
         <source>Page %1 is damaged and stays empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>La page %1 est endommagée et reste vide.</translation>
     </message>
     <message>
         <source>No pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune page</translation>
     </message>
     <message>
         <source>Page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Page %1</translation>
     </message>
     <message>
         <source>Pages %1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages %1 et %2</translation>
     </message>
     <message>
         <source>Pages %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages %1 à %2</translation>
     </message>
     <message>
         <source>Sheet %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Feuille %1 sur %2</translation>
     </message>
     <message>
         <source>Sheet %1 of %2, front</source>
-        <translation type="unfinished"></translation>
+        <translation>Feuille %1 sur %2, recto</translation>
     </message>
     <message>
         <source>Sheet %1 of %2, back</source>
-        <translation type="unfinished"></translation>
+        <translation>Feuille %1 sur %2, verso</translation>
     </message>
     <message>
         <source>front</source>
-        <translation type="unfinished"></translation>
+        <translation>recto</translation>
     </message>
     <message>
         <source>back</source>
-        <translation type="unfinished"></translation>
+        <translation>verso</translation>
     </message>
     <message numerus="yes">
         <source>%n copies</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n exemplaire</numerusform>
+            <numerusform>%n exemplaires</numerusform>
         </translation>
     </message>
     <message>
         <source>collated</source>
-        <translation type="unfinished"></translation>
+        <translation>assemblées</translation>
     </message>
     <message>
         <source>landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>paysage</translation>
     </message>
     <message>
         <source>portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>portrait</translation>
     </message>
     <message>
         <source>grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>niveaux de gris</translation>
     </message>
     <message>
         <source>flipped</source>
-        <translation type="unfinished"></translation>
+        <translation>inversée</translation>
     </message>
 </context>
 <context>
     <name>PrinterLists</name>
     <message>
         <source>As the printer is set</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme réglé sur l’imprimante</translation>
     </message>
     <message>
         <source>A4</source>
-        <translation type="unfinished"></translation>
+        <translation>A4</translation>
     </message>
     <message>
         <source>A3</source>
-        <translation type="unfinished"></translation>
+        <translation>A3</translation>
     </message>
     <message>
         <source>A5</source>
-        <translation type="unfinished"></translation>
+        <translation>A5</translation>
     </message>
     <message>
         <source>A6</source>
-        <translation type="unfinished"></translation>
+        <translation>A6</translation>
     </message>
     <message>
         <source>B5 (JIS)</source>
-        <translation type="unfinished"></translation>
+        <translation>B5 (JIS)</translation>
     </message>
     <message>
         <source>US Letter</source>
-        <translation type="unfinished"></translation>
+        <translation>US Letter</translation>
     </message>
     <message>
         <source>US Legal</source>
-        <translation type="unfinished"></translation>
+        <translation>US Legal</translation>
     </message>
     <message>
         <source>Tabloid</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabloïd</translation>
     </message>
     <message>
         <source>Photo 10 × 15 cm</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo 10 × 15 cm</translation>
     </message>
     <message>
         <source>DL envelope</source>
-        <translation type="unfinished"></translation>
+        <translation>Enveloppe DL</translation>
     </message>
     <message>
         <source>No. 10 envelope</source>
-        <translation type="unfinished"></translation>
+        <translation>Enveloppe nº 10</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactivé</translation>
     </message>
     <message>
         <source>Turn on the long edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Reliure sur le bord long</translation>
     </message>
     <message>
         <source>Turn on the short edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Reliure sur le bord court</translation>
     </message>
 </context>
 <context>
@@ -489,7 +489,7 @@
     </message>
     <message>
         <source>Paused: %1</source>
-        <translation>En pause : %1</translation>
+        <translation>En pause&#xa0;: %1</translation>
     </message>
     <message>
         <source>Takes no jobs</source>
@@ -501,7 +501,7 @@
     </message>
     <message>
         <source>Offline: %1</source>
-        <translation>Hors ligne : %1</translation>
+        <translation>Hors ligne&#xa0;: %1</translation>
     </message>
     <message>
         <source>Printing</source>
@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>The print server at %1 refused to answer: %2. Ask its administrator for access, then try again.</source>
-        <translation>Le serveur d’impression à %1 a refusé de répondre : %2. Demandez l’accès à son administrateur, puis réessayez.</translation>
+        <translation>Le serveur d’impression à %1 a refusé de répondre&#xa0;: %2. Demandez l’accès à son administrateur, puis réessayez.</translation>
     </message>
 </context>
 <context>
@@ -547,33 +547,33 @@
     <name>RangeTexts</name>
     <message>
         <source>Type the pages to print, such as 1-3, 5, 8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez les pages à imprimer, par exemple 1-3, 5, 8-.</translation>
     </message>
     <message>
         <source>“%1” is no page number. Write pages as 1-3, 5, 8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un numéro de page. Écrivez les pages ainsi&#xa0;: 1-3, 5, 8-.</translation>
     </message>
     <message>
         <source>“%1”: pages count from 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;»&#xa0;: les pages sont comptées à partir de 1.</translation>
     </message>
     <message>
         <source>“%1”: no document has so many pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;»&#xa0;: aucun document n’a autant de pages.</translation>
     </message>
     <message>
         <source>“%1” runs backwards. Write %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» est à l’envers. Écrivez %2.</translation>
     </message>
     <message>
         <source>“%1” is no range. Write a range as 1-3.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un intervalle. Écrivez un intervalle ainsi&#xa0;: 1-3.</translation>
     </message>
     <message numerus="yes">
         <source>“%1”: the document has only %n page(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>«&#xa0;%1&#xa0;»&#xa0;: le document n’a que %n page.</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;»&#xa0;: le document n’a que %n pages.</numerusform>
         </translation>
     </message>
 </context>
@@ -581,130 +581,130 @@
     <name>SettingWords</name>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>Copies</translation>
     </message>
     <message>
         <source>Collate</source>
-        <translation type="unfinished"></translation>
+        <translation>Assembler</translation>
     </message>
     <message>
         <source>Order of sheets</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre des feuilles</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages</translation>
     </message>
     <message>
         <source>Odd or even pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages paires ou impaires</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientation</translation>
     </message>
     <message>
         <source>Two-sided</source>
-        <translation type="unfinished"></translation>
+        <translation>Recto verso</translation>
     </message>
     <message>
         <source>Pages per sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages par feuille</translation>
     </message>
     <message>
         <source>Layout order</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposition</translation>
     </message>
     <message>
         <source>Border</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadre</translation>
     </message>
     <message>
         <source>Scaling</source>
-        <translation type="unfinished"></translation>
+        <translation>Échelle</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur</translation>
     </message>
     <message>
         <source>Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualité</translation>
     </message>
     <message>
         <source>Output tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Bac de sortie</translation>
     </message>
     <message>
         <source>Flip horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Inverser horizontalement</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Activé</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactivé</translation>
     </message>
     <message>
         <source>First page first</source>
-        <translation type="unfinished"></translation>
+        <translation>Première page d’abord</translation>
     </message>
     <message>
         <source>Last page first</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière page d’abord</translation>
     </message>
     <message>
         <source>Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveaux de gris</translation>
     </message>
     <message>
         <source>Draft</source>
-        <translation type="unfinished"></translation>
+        <translation>Brouillon</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normale</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Haute</translation>
     </message>
     <message>
         <source>Pages side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages côte à côte</translation>
     </message>
     <message>
         <source>Turn on the long edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Reliure sur le bord long</translation>
     </message>
     <message>
         <source>Turn on the short edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Reliure sur le bord court</translation>
     </message>
 </context>
 <context>
     <name>SummaryTexts</name>
     <message>
         <source>Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Tâche</translation>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres</translation>
     </message>
     <message>
         <source>changed</source>
-        <translation type="unfinished"></translation>
+        <translation>modifié</translation>
     </message>
     <message>
         <source>replaced by a setting of the job</source>
-        <translation type="unfinished"></translation>
+        <translation>remplacé par un réglage de la tâche</translation>
     </message>
 </context>
 <context>
@@ -727,7 +727,7 @@
     </message>
     <message>
         <source>a value cannot begin with “{”</source>
-        <translation>une valeur ne peut pas commencer par « { »</translation>
+        <translation>une valeur ne peut pas commencer par «&#xa0;{&#xa0;»</translation>
     </message>
     <message>
         <source>the value contains a character that cannot be sent</source>
@@ -739,7 +739,7 @@
     </message>
     <message>
         <source>the printer would read it as “off”</source>
-        <translation>l’imprimante l’interpréterait comme « désactivé »</translation>
+        <translation>l’imprimante l’interpréterait comme «&#xa0;désactivé&#xa0;»</translation>
     </message>
     <message>
         <source>all settings together are too long</source>
@@ -750,63 +750,63 @@
     <name>dialog::GeneralView</name>
     <message>
         <source>Collate</source>
-        <translation type="unfinished"></translation>
+        <translation>Assembler</translation>
     </message>
     <message>
         <source>Reverse order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre inverse</translation>
     </message>
     <message>
         <source>How often the document is printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de fois le document est imprimé</translation>
     </message>
     <message>
         <source>Prints one whole copy after the other</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime un exemplaire complet après l’autre</translation>
     </message>
     <message>
         <source>Prints the last page first</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime la dernière page en premier</translation>
     </message>
     <message>
         <source>Which of these pages are printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesquelles de ces pages sont imprimées</translation>
     </message>
     <message>
         <source>How the pages lie on the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment les pages sont placées sur le papier</translation>
     </message>
     <message>
         <source>The paper in the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Le papier dans l’imprimante</translation>
     </message>
     <message>
         <source>Whether the paper is printed on both sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le papier est imprimé des deux côtés</translation>
     </message>
     <message>
         <source>Paper size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille du papier&#xa0;:</translation>
     </message>
     <message>
         <source>Two-sided:</source>
-        <translation type="unfinished"></translation>
+        <translation>Recto verso&#xa0;:</translation>
     </message>
     <message>
         <source>Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>Copies&#xa0;:</translation>
     </message>
     <message>
         <source>Pages:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages&#xa0;:</translation>
     </message>
     <message>
         <source>Odd or even:</source>
-        <translation type="unfinished"></translation>
+        <translation>Paires/impaires&#xa0;:</translation>
     </message>
     <message>
         <source>Orientation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientation&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -825,19 +825,19 @@
     </message>
     <message>
         <source>Before this prints:</source>
-        <translation>Avant l’impression :</translation>
+        <translation>Avant l’impression&#xa0;:</translation>
     </message>
     <message>
         <source>The job could not be written to %1: %2. Make room or allow writing there, then print again.</source>
-        <translation>La tâche n’a pas pu être écrite dans %1 : %2. Libérez de l’espace ou autorisez l’écriture, puis imprimez à nouveau.</translation>
+        <translation>La tâche n’a pas pu être écrite dans %1&#xa0;: %2. Libérez de l’espace ou autorisez l’écriture, puis imprimez à nouveau.</translation>
     </message>
     <message>
         <source>Nothing was sent, because a setting would get lost: %1. Choose another value for it.</source>
-        <translation>Rien n’a été envoyé, car un réglage serait perdu : %1. Choisissez-lui une autre valeur.</translation>
+        <translation>Rien n’a été envoyé, car un réglage serait perdu&#xa0;: %1. Choisissez-lui une autre valeur.</translation>
     </message>
     <message>
         <source>Sending to %1: %2 %.</source>
-        <translation>Envoi à %1 : %2 %.</translation>
+        <translation>Envoi à %1&#xa0;: %2&#xa0;%.</translation>
     </message>
     <message>
         <source>Cancel Job</source>
@@ -852,51 +852,51 @@
     <name>dialog::LayoutPanel</name>
     <message>
         <source>Flip horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Inverser horizontalement</translation>
     </message>
     <message>
         <source>Pages per sheet:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages par feuille&#xa0;:</translation>
     </message>
     <message>
         <source>How many pages share a side of the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de pages se partagent un côté du papier</translation>
     </message>
     <message>
         <source>Layout order:</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposition&#xa0;:</translation>
     </message>
     <message>
         <source>In which order they lie there</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans quel ordre elles y sont placées</translation>
     </message>
     <message>
         <source>Border:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadre&#xa0;:</translation>
     </message>
     <message>
         <source>A line around each page</source>
-        <translation type="unfinished"></translation>
+        <translation>Un trait autour de chaque page</translation>
     </message>
     <message>
         <source>Scaling:</source>
-        <translation type="unfinished"></translation>
+        <translation>Échelle&#xa0;:</translation>
     </message>
     <message>
         <source>How large the pages are on the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>La taille des pages sur le papier</translation>
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposition</translation>
     </message>
     <message>
         <source>Prints every page as in a mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime chaque page comme dans un miroir</translation>
     </message>
     <message>
         <source>On this system the printer&apos;s own panel mirrors the pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur ce système, le panneau de l’imprimante inverse les pages.</translation>
     </message>
 </context>
 <context>
@@ -925,84 +925,84 @@
     <name>dialog::PreviewPane</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu</translation>
     </message>
     <message>
         <source>Previous sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Feuille précédente</translation>
     </message>
     <message>
         <source>Next sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Feuille suivante</translation>
     </message>
     <message>
         <source>Sheet shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Feuille affichée</translation>
     </message>
     <message>
         <source>Make the preview smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire l’aperçu</translation>
     </message>
     <message>
         <source>Make the preview larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Agrandir l’aperçu</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuster</translation>
     </message>
     <message>
         <source>Show the whole sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la feuille entière</translation>
     </message>
     <message>
         <source>Side </source>
         <extracomment>Stands before the number of the sheet in &quot;Sheet 1 of 3&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Face </translation>
     </message>
     <message>
         <source>Sheet </source>
-        <translation type="unfinished"></translation>
+        <translation>Feuille </translation>
     </message>
     <message>
         <source> of %1</source>
         <extracomment>Stands behind the number of the sheet in &quot;Sheet 1 of 3&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> sur %1</translation>
     </message>
     <message>
         <source>Nothing would be printed: no page is among those chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne serait imprimé&#xa0;: aucune page n’est parmi celles choisies.</translation>
     </message>
 </context>
 <context>
     <name>dialog::PreviewWords</name>
     <message>
         <source>No document. The sheet stays empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun document. La feuille reste vide.</translation>
     </message>
     <message>
         <source>The document cannot be read. Check that it is still in its place and that you may read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document est illisible. Vérifiez qu’il est toujours à sa place et que vous pouvez le lire.</translation>
     </message>
     <message>
         <source>The document is damaged. Open it in the program that made it and save it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document est endommagé. Ouvrez-le dans le programme qui l’a créé et enregistrez-le à nouveau.</translation>
     </message>
     <message>
         <source>The document is protected by a password. Save a copy of it without the password and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document est protégé par un mot de passe. Enregistrez-en une copie sans mot de passe et imprimez-la.</translation>
     </message>
     <message>
         <source>The document has no pages. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document n’a pas de pages. Choisissez-en un autre.</translation>
     </message>
     <message>
         <source>The picture is too large to be shown. Scale it down to see it here; it can be printed as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image est trop grande pour être affichée. Réduisez-la pour la voir ici&#x202f;; elle peut être imprimée telle quelle.</translation>
     </message>
     <message>
         <source>There is no preview for this kind of document. It can be printed all the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas d’aperçu pour ce type de document. Il peut être imprimé quand même.</translation>
     </message>
 </context>
 <context>
@@ -1020,15 +1020,15 @@
     </message>
     <message>
         <source>Settings:</source>
-        <translation>Réglages :</translation>
+        <translation>Réglages&#xa0;:</translation>
     </message>
     <message>
         <source>Printer:</source>
-        <translation>Imprimante :</translation>
+        <translation>Imprimante&#xa0;:</translation>
     </message>
     <message>
         <source>Document:</source>
-        <translation>Document :</translation>
+        <translation>Document&#xa0;:</translation>
     </message>
     <message>
         <source>Help</source>
@@ -1056,7 +1056,7 @@
     </message>
     <message>
         <source>Presets:</source>
-        <translation>Préréglages :</translation>
+        <translation>Préréglages&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1086,15 +1086,15 @@
     </message>
     <message>
         <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
-        <translation>L’imprimante %1 est inutilisable, car son PPD est endommagé : %2. Faites reconfigurer l’imprimante ou choisissez-en une autre.</translation>
+        <translation>L’imprimante %1 est inutilisable, car son PPD est endommagé&#xa0;: %2. Faites reconfigurer l’imprimante ou choisissez-en une autre.</translation>
     </message>
     <message>
         <source>This printer does not have what you chose for the one before:</source>
-        <translation>Cette imprimante n’a pas ce que vous aviez choisi pour la précédente :</translation>
+        <translation>Cette imprimante n’a pas ce que vous aviez choisi pour la précédente&#xa0;:</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Try Again</source>
@@ -1105,57 +1105,57 @@
     <name>dialog::RangeField</name>
     <message numerus="yes">
         <source>The document has %n page(s): it is printed up to its end.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Le document a %n page&#xa0;: il est imprimé jusqu’à la fin.</numerusform>
+            <numerusform>Le document a %n pages&#xa0;: il est imprimé jusqu’à la fin.</numerusform>
         </translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes</translation>
     </message>
     <message>
         <source>Only:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement&#xa0;:</translation>
     </message>
     <message>
         <source>Prints the whole document</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime tout le document</translation>
     </message>
     <message>
         <source>Prints the pages that are named beside it</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime les pages indiquées à côté</translation>
     </message>
     <message>
         <source>All pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les pages</translation>
     </message>
     <message>
         <source>Only some pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Certaines pages seulement</translation>
     </message>
     <message>
         <source>Pages to print</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages à imprimer</translation>
     </message>
     <message>
         <source>for example 1-3, 5, 8-</source>
-        <translation type="unfinished"></translation>
+        <translation>par exemple 1-3, 5, 8-</translation>
     </message>
     <message>
         <source>Pages and ranges of pages, with commas between them</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages et intervalles de pages, séparés par des virgules</translation>
     </message>
 </context>
 <context>
     <name>dialog::SignInPrompt</name>
     <message>
         <source>Name:</source>
-        <translation>Nom :</translation>
+        <translation>Nom&#xa0;:</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Mot de passe :</translation>
+        <translation>Mot de passe&#xa0;:</translation>
     </message>
     <message>
         <source>The print server did not accept this name and password.</source>
@@ -1167,7 +1167,7 @@
     </message>
     <message>
         <source>The connection is not encrypted: others in the network could read the password.</source>
-        <translation>La connexion n’est pas chiffrée : d’autres personnes sur le réseau pourraient lire le mot de passe.</translation>
+        <translation>La connexion n’est pas chiffrée&#xa0;: d’autres personnes sur le réseau pourraient lire le mot de passe.</translation>
     </message>
     <message>
         <source>Cancel Job</source>
@@ -1186,15 +1186,15 @@
     </message>
     <message>
         <source>No setting matches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun réglage ne correspond.</translation>
     </message>
     <message>
         <source>Find a setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher un réglage</translation>
     </message>
     <message>
         <source>Copy as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier comme texte</translation>
     </message>
 </context>
 </TS>

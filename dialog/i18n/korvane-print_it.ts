@@ -122,99 +122,99 @@
     <name>JobSettings</name>
     <message>
         <source>Both</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrambe</translation>
     </message>
     <message>
         <source>Odd pages only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo pagine dispari</translation>
     </message>
     <message>
         <source>Even pages only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo pagine pari</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatico</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Verticale</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Orizzontale</translation>
     </message>
     <message>
         <source>Reverse portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Verticale capovolto</translation>
     </message>
     <message>
         <source>Reverse landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Orizzontale capovolto</translation>
     </message>
     <message>
         <source>Right, then down</source>
-        <translation type="unfinished"></translation>
+        <translation>A destra, poi in basso</translation>
     </message>
     <message>
         <source>Down, then right</source>
-        <translation type="unfinished"></translation>
+        <translation>In basso, poi a destra</translation>
     </message>
     <message>
         <source>Left, then down</source>
-        <translation type="unfinished"></translation>
+        <translation>A sinistra, poi in basso</translation>
     </message>
     <message>
         <source>Down, then left</source>
-        <translation type="unfinished"></translation>
+        <translation>In basso, poi a sinistra</translation>
     </message>
     <message>
         <source>Right, then up</source>
-        <translation type="unfinished"></translation>
+        <translation>A destra, poi in alto</translation>
     </message>
     <message>
         <source>Up, then right</source>
-        <translation type="unfinished"></translation>
+        <translation>In alto, poi a destra</translation>
     </message>
     <message>
         <source>Left, then up</source>
-        <translation type="unfinished"></translation>
+        <translation>A sinistra, poi in alto</translation>
     </message>
     <message>
         <source>Up, then left</source>
-        <translation type="unfinished"></translation>
+        <translation>In alto, poi a sinistra</translation>
     </message>
     <message>
         <source>No border</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun bordo</translation>
     </message>
     <message>
         <source>Thin line</source>
-        <translation type="unfinished"></translation>
+        <translation>Linea sottile</translation>
     </message>
     <message>
         <source>Thick line</source>
-        <translation type="unfinished"></translation>
+        <translation>Linea spessa</translation>
     </message>
     <message>
         <source>Two thin lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Due linee sottili</translation>
     </message>
     <message>
         <source>Two thick lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Due linee spesse</translation>
     </message>
     <message>
         <source>Actual size</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensioni reali</translation>
     </message>
     <message>
         <source>Fit to the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Adatta alla carta</translation>
     </message>
     <message>
         <source>Fill the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Riempi la carta</translation>
     </message>
 </context>
 <context>
@@ -279,202 +279,202 @@
     <name>PresetMessages</name>
     <message>
         <source>There is no such preset any more; another print dialog has deleted or renamed it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa preimpostazione non esiste più; un’altra finestra di stampa l’ha eliminata o rinominata.</translation>
     </message>
     <message numerus="yes">
         <source>There is room for %n preset(s) only. Delete one that is not needed any more.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>C’è posto solo per %n preimpostazione. Eliminane una che non serve più.</numerusform>
+            <numerusform>C’è posto solo per %n preimpostazioni. Eliminane una che non serve più.</numerusform>
         </translation>
     </message>
     <message>
         <source>Another print dialog is changing the presets. Try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un’altra finestra di stampa sta modificando le preimpostazioni. Riprova.</translation>
     </message>
     <message>
         <source>The presets could not be written to “%1” because there is no room left. Free some space and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile scrivere le preimpostazioni in “%1” perché non c’è più spazio. Libera spazio e riprova.</translation>
     </message>
     <message>
         <source>“%1” may not be read or written. Allow it, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non può essere letto o scritto. Consentilo e riprova.</translation>
     </message>
     <message>
         <source>“%1” is a link, belongs to somebody else, or others may write to it. Replace it by a folder that only you may write to.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” è un collegamento, appartiene a qualcun altro o altri possono scriverci. Sostituiscilo con una cartella in cui solo tu puoi scrivere.</translation>
     </message>
     <message>
         <source>The presets in “%1” are of a newer version of this program. Update the program, or move the file away to begin anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le preimpostazioni in “%1” sono di una versione più recente di questo programma. Aggiorna il programma o sposta il file per ricominciare.</translation>
     </message>
     <message>
         <source>“%1” cannot be used for presets: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non può essere usato per le preimpostazioni: %2.</translation>
     </message>
     <message>
         <source>The file of your presets for this printer was damaged. It is kept as “%1”; what could be read of it is still here. Correct the file and give it back its old name, or delete it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file delle tue preimpostazioni per questa stampante era danneggiato. È conservato come “%1”; ciò che è stato possibile leggere è ancora qui. Correggi il file e ridagli il vecchio nome, oppure eliminalo.</translation>
     </message>
     <message>
         <source>Type a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Digita un nome.</translation>
     </message>
     <message numerus="yes">
         <source>A name has at most %n character(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Un nome ha al massimo %n carattere.</numerusform>
+            <numerusform>Un nome ha al massimo %n caratteri.</numerusform>
         </translation>
     </message>
     <message>
         <source>Another preset has this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un’altra preimpostazione ha questo nome.</translation>
     </message>
     <message>
         <source>This printer does not have everything that “%1” sets. These settings were left as the printer has them:</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa stampante non ha tutto ciò che “%1” imposta. Queste impostazioni sono rimaste quelle della stampante:</translation>
     </message>
     <message>
         <source>These settings cannot be used together on this printer:</source>
-        <translation type="unfinished"></translation>
+        <translation>Queste impostazioni non possono essere usate insieme su questa stampante:</translation>
     </message>
     <message>
         <source>“%1” and “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” e “%2”</translation>
     </message>
 </context>
 <context>
     <name>PreviewWords</name>
     <message>
         <source>Page %1 is damaged and stays empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pagina %1 è danneggiata e resta vuota.</translation>
     </message>
     <message>
         <source>No pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna pagina</translation>
     </message>
     <message>
         <source>Page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina %1</translation>
     </message>
     <message>
         <source>Pages %1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine %1 e %2</translation>
     </message>
     <message>
         <source>Pages %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine da %1 a %2</translation>
     </message>
     <message>
         <source>Sheet %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Foglio %1 di %2</translation>
     </message>
     <message>
         <source>Sheet %1 of %2, front</source>
-        <translation type="unfinished"></translation>
+        <translation>Foglio %1 di %2, fronte</translation>
     </message>
     <message>
         <source>Sheet %1 of %2, back</source>
-        <translation type="unfinished"></translation>
+        <translation>Foglio %1 di %2, retro</translation>
     </message>
     <message>
         <source>front</source>
-        <translation type="unfinished"></translation>
+        <translation>fronte</translation>
     </message>
     <message>
         <source>back</source>
-        <translation type="unfinished"></translation>
+        <translation>retro</translation>
     </message>
     <message numerus="yes">
         <source>%n copies</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n copia</numerusform>
+            <numerusform>%n copie</numerusform>
         </translation>
     </message>
     <message>
         <source>collated</source>
-        <translation type="unfinished"></translation>
+        <translation>fascicolate</translation>
     </message>
     <message>
         <source>landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>orizzontale</translation>
     </message>
     <message>
         <source>portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>verticale</translation>
     </message>
     <message>
         <source>grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>scala di grigi</translation>
     </message>
     <message>
         <source>flipped</source>
-        <translation type="unfinished"></translation>
+        <translation>capovolta</translation>
     </message>
 </context>
 <context>
     <name>PrinterLists</name>
     <message>
         <source>As the printer is set</source>
-        <translation type="unfinished"></translation>
+        <translation>Come impostato nella stampante</translation>
     </message>
     <message>
         <source>A4</source>
-        <translation type="unfinished"></translation>
+        <translation>A4</translation>
     </message>
     <message>
         <source>A3</source>
-        <translation type="unfinished"></translation>
+        <translation>A3</translation>
     </message>
     <message>
         <source>A5</source>
-        <translation type="unfinished"></translation>
+        <translation>A5</translation>
     </message>
     <message>
         <source>A6</source>
-        <translation type="unfinished"></translation>
+        <translation>A6</translation>
     </message>
     <message>
         <source>B5 (JIS)</source>
-        <translation type="unfinished"></translation>
+        <translation>B5 (JIS)</translation>
     </message>
     <message>
         <source>US Letter</source>
-        <translation type="unfinished"></translation>
+        <translation>US Letter</translation>
     </message>
     <message>
         <source>US Legal</source>
-        <translation type="unfinished"></translation>
+        <translation>US Legal</translation>
     </message>
     <message>
         <source>Tabloid</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabloid</translation>
     </message>
     <message>
         <source>Photo 10 × 15 cm</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto 10 × 15 cm</translation>
     </message>
     <message>
         <source>DL envelope</source>
-        <translation type="unfinished"></translation>
+        <translation>Busta DL</translation>
     </message>
     <message>
         <source>No. 10 envelope</source>
-        <translation type="unfinished"></translation>
+        <translation>Busta n. 10</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Disattivato</translation>
     </message>
     <message>
         <source>Turn on the long edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Gira sul lato lungo</translation>
     </message>
     <message>
         <source>Turn on the short edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Gira sul lato corto</translation>
     </message>
 </context>
 <context>
@@ -547,33 +547,33 @@
     <name>RangeTexts</name>
     <message>
         <source>Type the pages to print, such as 1-3, 5, 8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>Digita le pagine da stampare, per esempio 1-3, 5, 8-.</translation>
     </message>
     <message>
         <source>“%1” is no page number. Write pages as 1-3, 5, 8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un numero di pagina. Scrivi le pagine così: 1-3, 5, 8-.</translation>
     </message>
     <message>
         <source>“%1”: pages count from 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”: le pagine si contano da 1.</translation>
     </message>
     <message>
         <source>“%1”: no document has so many pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”: nessun documento ha così tante pagine.</translation>
     </message>
     <message>
         <source>“%1” runs backwards. Write %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” è al contrario. Scrivi %2.</translation>
     </message>
     <message>
         <source>“%1” is no range. Write a range as 1-3.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un intervallo. Scrivi un intervallo così: 1-3.</translation>
     </message>
     <message numerus="yes">
         <source>“%1”: the document has only %n page(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>“%1”: il documento ha solo %n pagina.</numerusform>
+            <numerusform>“%1”: il documento ha solo %n pagine.</numerusform>
         </translation>
     </message>
 </context>
@@ -581,130 +581,130 @@
     <name>SettingWords</name>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie</translation>
     </message>
     <message>
         <source>Collate</source>
-        <translation type="unfinished"></translation>
+        <translation>Fascicola</translation>
     </message>
     <message>
         <source>Order of sheets</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordine dei fogli</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine</translation>
     </message>
     <message>
         <source>Odd or even pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine pari o dispari</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientamento</translation>
     </message>
     <message>
         <source>Two-sided</source>
-        <translation type="unfinished"></translation>
+        <translation>Fronte-retro</translation>
     </message>
     <message>
         <source>Pages per sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine per foglio</translation>
     </message>
     <message>
         <source>Layout order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordine di layout</translation>
     </message>
     <message>
         <source>Border</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordo</translation>
     </message>
     <message>
         <source>Scaling</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore</translation>
     </message>
     <message>
         <source>Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualità</translation>
     </message>
     <message>
         <source>Output tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Vassoio di uscita</translation>
     </message>
     <message>
         <source>Flip horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Capovolgi in orizzontale</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Attivato</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Disattivato</translation>
     </message>
     <message>
         <source>First page first</source>
-        <translation type="unfinished"></translation>
+        <translation>Prima la prima pagina</translation>
     </message>
     <message>
         <source>Last page first</source>
-        <translation type="unfinished"></translation>
+        <translation>Prima l’ultima pagina</translation>
     </message>
     <message>
         <source>Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala di grigi</translation>
     </message>
     <message>
         <source>Draft</source>
-        <translation type="unfinished"></translation>
+        <translation>Bozza</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normale</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Alta</translation>
     </message>
     <message>
         <source>Pages side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine affiancate</translation>
     </message>
     <message>
         <source>Turn on the long edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Gira sul lato lungo</translation>
     </message>
     <message>
         <source>Turn on the short edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Gira sul lato corto</translation>
     </message>
 </context>
 <context>
     <name>SummaryTexts</name>
     <message>
         <source>Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Lavoro</translation>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>Altre</translation>
     </message>
     <message>
         <source>changed</source>
-        <translation type="unfinished"></translation>
+        <translation>modificato</translation>
     </message>
     <message>
         <source>replaced by a setting of the job</source>
-        <translation type="unfinished"></translation>
+        <translation>sostituito da un’impostazione del lavoro</translation>
     </message>
 </context>
 <context>
@@ -750,63 +750,63 @@
     <name>dialog::GeneralView</name>
     <message>
         <source>Collate</source>
-        <translation type="unfinished"></translation>
+        <translation>Fascicola</translation>
     </message>
     <message>
         <source>Reverse order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordine inverso</translation>
     </message>
     <message>
         <source>How often the document is printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Quante volte viene stampato il documento</translation>
     </message>
     <message>
         <source>Prints one whole copy after the other</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa una copia completa dopo l’altra</translation>
     </message>
     <message>
         <source>Prints the last page first</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa per prima l’ultima pagina</translation>
     </message>
     <message>
         <source>Which of these pages are printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Quali di queste pagine vengono stampate</translation>
     </message>
     <message>
         <source>How the pages lie on the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Come sono disposte le pagine sulla carta</translation>
     </message>
     <message>
         <source>The paper in the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>La carta nella stampante</translation>
     </message>
     <message>
         <source>Whether the paper is printed on both sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Se la carta viene stampata su entrambi i lati</translation>
     </message>
     <message>
         <source>Paper size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato carta:</translation>
     </message>
     <message>
         <source>Two-sided:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fronte-retro:</translation>
     </message>
     <message>
         <source>Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie:</translation>
     </message>
     <message>
         <source>Pages:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine:</translation>
     </message>
     <message>
         <source>Odd or even:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pari/dispari:</translation>
     </message>
     <message>
         <source>Orientation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientamento:</translation>
     </message>
 </context>
 <context>
@@ -852,51 +852,51 @@
     <name>dialog::LayoutPanel</name>
     <message>
         <source>Flip horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Capovolgi in orizzontale</translation>
     </message>
     <message>
         <source>Pages per sheet:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine per foglio:</translation>
     </message>
     <message>
         <source>How many pages share a side of the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Quante pagine condividono un lato della carta</translation>
     </message>
     <message>
         <source>Layout order:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordine di layout:</translation>
     </message>
     <message>
         <source>In which order they lie there</source>
-        <translation type="unfinished"></translation>
+        <translation>In quale ordine sono disposte</translation>
     </message>
     <message>
         <source>Border:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordo:</translation>
     </message>
     <message>
         <source>A line around each page</source>
-        <translation type="unfinished"></translation>
+        <translation>Una linea intorno a ogni pagina</translation>
     </message>
     <message>
         <source>Scaling:</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala:</translation>
     </message>
     <message>
         <source>How large the pages are on the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Quanto sono grandi le pagine sulla carta</translation>
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout</translation>
     </message>
     <message>
         <source>Prints every page as in a mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa ogni pagina come in uno specchio</translation>
     </message>
     <message>
         <source>On this system the printer&apos;s own panel mirrors the pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su questo sistema è il pannello della stampante a capovolgere le pagine.</translation>
     </message>
 </context>
 <context>
@@ -925,84 +925,84 @@
     <name>dialog::PreviewPane</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteprima</translation>
     </message>
     <message>
         <source>Previous sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Foglio precedente</translation>
     </message>
     <message>
         <source>Next sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Foglio successivo</translation>
     </message>
     <message>
         <source>Sheet shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Foglio mostrato</translation>
     </message>
     <message>
         <source>Make the preview smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Riduci l’anteprima</translation>
     </message>
     <message>
         <source>Make the preview larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingrandisci l’anteprima</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Adatta</translation>
     </message>
     <message>
         <source>Show the whole sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra l’intero foglio</translation>
     </message>
     <message>
         <source>Side </source>
         <extracomment>Stands before the number of the sheet in &quot;Sheet 1 of 3&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Lato </translation>
     </message>
     <message>
         <source>Sheet </source>
-        <translation type="unfinished"></translation>
+        <translation>Foglio </translation>
     </message>
     <message>
         <source> of %1</source>
         <extracomment>Stands behind the number of the sheet in &quot;Sheet 1 of 3&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> di %1</translation>
     </message>
     <message>
         <source>Nothing would be printed: no page is among those chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non verrebbe stampato nulla: nessuna pagina è tra quelle scelte.</translation>
     </message>
 </context>
 <context>
     <name>dialog::PreviewWords</name>
     <message>
         <source>No document. The sheet stays empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun documento. Il foglio resta vuoto.</translation>
     </message>
     <message>
         <source>The document cannot be read. Check that it is still in its place and that you may read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento non è leggibile. Controlla che sia ancora al suo posto e che tu possa leggerlo.</translation>
     </message>
     <message>
         <source>The document is damaged. Open it in the program that made it and save it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento è danneggiato. Aprilo nel programma che l’ha creato e salvalo di nuovo.</translation>
     </message>
     <message>
         <source>The document is protected by a password. Save a copy of it without the password and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento è protetto da una password. Salvane una copia senza password e stampa quella.</translation>
     </message>
     <message>
         <source>The document has no pages. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento non ha pagine. Scegline un altro.</translation>
     </message>
     <message>
         <source>The picture is too large to be shown. Scale it down to see it here; it can be printed as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’immagine è troppo grande per essere mostrata. Riducila per vederla qui; può essere stampata così com’è.</translation>
     </message>
     <message>
         <source>There is no preview for this kind of document. It can be printed all the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c’è anteprima per questo tipo di documento. Può comunque essere stampato.</translation>
     </message>
 </context>
 <context>
@@ -1105,46 +1105,46 @@
     <name>dialog::RangeField</name>
     <message numerus="yes">
         <source>The document has %n page(s): it is printed up to its end.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Il documento ha %n pagina: viene stampato fino alla fine.</numerusform>
+            <numerusform>Il documento ha %n pagine: viene stampato fino alla fine.</numerusform>
         </translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte</translation>
     </message>
     <message>
         <source>Only:</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo:</translation>
     </message>
     <message>
         <source>Prints the whole document</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa tutto il documento</translation>
     </message>
     <message>
         <source>Prints the pages that are named beside it</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa le pagine indicate accanto</translation>
     </message>
     <message>
         <source>All pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte le pagine</translation>
     </message>
     <message>
         <source>Only some pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo alcune pagine</translation>
     </message>
     <message>
         <source>Pages to print</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine da stampare</translation>
     </message>
     <message>
         <source>for example 1-3, 5, 8-</source>
-        <translation type="unfinished"></translation>
+        <translation>per esempio 1-3, 5, 8-</translation>
     </message>
     <message>
         <source>Pages and ranges of pages, with commas between them</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine e intervalli di pagine, separati da virgole</translation>
     </message>
 </context>
 <context>
@@ -1186,15 +1186,15 @@
     </message>
     <message>
         <source>No setting matches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna impostazione corrisponde.</translation>
     </message>
     <message>
         <source>Find a setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca un’impostazione</translation>
     </message>
     <message>
         <source>Copy as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia come testo</translation>
     </message>
 </context>
 </TS>

@@ -122,99 +122,99 @@
     <name>JobSettings</name>
     <message>
         <source>Both</source>
-        <translation type="unfinished"></translation>
+        <translation>両方</translation>
     </message>
     <message>
         <source>Odd pages only</source>
-        <translation type="unfinished"></translation>
+        <translation>奇数ページのみ</translation>
     </message>
     <message>
         <source>Even pages only</source>
-        <translation type="unfinished"></translation>
+        <translation>偶数ページのみ</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>自動</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>縦</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>横</translation>
     </message>
     <message>
         <source>Reverse portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>縦 (180°回転)</translation>
     </message>
     <message>
         <source>Reverse landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>横 (180°回転)</translation>
     </message>
     <message>
         <source>Right, then down</source>
-        <translation type="unfinished"></translation>
+        <translation>右へ、次に下へ</translation>
     </message>
     <message>
         <source>Down, then right</source>
-        <translation type="unfinished"></translation>
+        <translation>下へ、次に右へ</translation>
     </message>
     <message>
         <source>Left, then down</source>
-        <translation type="unfinished"></translation>
+        <translation>左へ、次に下へ</translation>
     </message>
     <message>
         <source>Down, then left</source>
-        <translation type="unfinished"></translation>
+        <translation>下へ、次に左へ</translation>
     </message>
     <message>
         <source>Right, then up</source>
-        <translation type="unfinished"></translation>
+        <translation>右へ、次に上へ</translation>
     </message>
     <message>
         <source>Up, then right</source>
-        <translation type="unfinished"></translation>
+        <translation>上へ、次に右へ</translation>
     </message>
     <message>
         <source>Left, then up</source>
-        <translation type="unfinished"></translation>
+        <translation>左へ、次に上へ</translation>
     </message>
     <message>
         <source>Up, then left</source>
-        <translation type="unfinished"></translation>
+        <translation>上へ、次に左へ</translation>
     </message>
     <message>
         <source>No border</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>Thin line</source>
-        <translation type="unfinished"></translation>
+        <translation>細線</translation>
     </message>
     <message>
         <source>Thick line</source>
-        <translation type="unfinished"></translation>
+        <translation>太線</translation>
     </message>
     <message>
         <source>Two thin lines</source>
-        <translation type="unfinished"></translation>
+        <translation>細い二重線</translation>
     </message>
     <message>
         <source>Two thick lines</source>
-        <translation type="unfinished"></translation>
+        <translation>太い二重線</translation>
     </message>
     <message>
         <source>Actual size</source>
-        <translation type="unfinished"></translation>
+        <translation>実際のサイズ</translation>
     </message>
     <message>
         <source>Fit to the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙に合わせる</translation>
     </message>
     <message>
         <source>Fill the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙いっぱいに拡大</translation>
     </message>
 </context>
 <context>
@@ -279,199 +279,199 @@
     <name>PresetMessages</name>
     <message>
         <source>There is no such preset any more; another print dialog has deleted or renamed it.</source>
-        <translation type="unfinished"></translation>
+        <translation>このプリセットはもうありません。別のプリントダイアログで削除されたか、名前が変更されました。</translation>
     </message>
     <message numerus="yes">
         <source>There is room for %n preset(s) only. Delete one that is not needed any more.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>保存できるプリセットは %n 個までです。不要なものを削除してください。</numerusform>
         </translation>
     </message>
     <message>
         <source>Another print dialog is changing the presets. Try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>別のプリントダイアログがプリセットを変更しています。もう一度お試しください。</translation>
     </message>
     <message>
         <source>The presets could not be written to “%1” because there is no room left. Free some space and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>空き容量がないため、プリセットを「%1」に書き込めませんでした。空きを増やして、もう一度お試しください。</translation>
     </message>
     <message>
         <source>“%1” may not be read or written. Allow it, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」の読み書きが許可されていません。許可してから、もう一度お試しください。</translation>
     </message>
     <message>
         <source>“%1” is a link, belongs to somebody else, or others may write to it. Replace it by a folder that only you may write to.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はリンクか、所有者が異なるか、ほかのユーザが書き込めます。自分だけが書き込めるフォルダに置き換えてください。</translation>
     </message>
     <message>
         <source>The presets in “%1” are of a newer version of this program. Update the program, or move the file away to begin anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」のプリセットは、このプログラムの新しいバージョンのものです。プログラムを更新するか、ファイルを移動して新しく始めてください。</translation>
     </message>
     <message>
         <source>“%1” cannot be used for presets: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はプリセットに使用できません: %2。</translation>
     </message>
     <message>
         <source>The file of your presets for this printer was damaged. It is kept as “%1”; what could be read of it is still here. Correct the file and give it back its old name, or delete it.</source>
-        <translation type="unfinished"></translation>
+        <translation>このプリンタのプリセットのファイルが壊れていました。「%1」として保管され、読み取れたものは残っています。ファイルを修正して元の名前に戻すか、削除してください。</translation>
     </message>
     <message>
         <source>Type a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>名前を入力してください。</translation>
     </message>
     <message numerus="yes">
         <source>A name has at most %n character(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>名前は %n 文字までです。</numerusform>
         </translation>
     </message>
     <message>
         <source>Another preset has this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>この名前のプリセットがすでにあります。</translation>
     </message>
     <message>
         <source>This printer does not have everything that “%1” sets. These settings were left as the printer has them:</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」の設定の一部がこのプリンタにはありません。次の設定はプリンタのままです:</translation>
     </message>
     <message>
         <source>These settings cannot be used together on this printer:</source>
-        <translation type="unfinished"></translation>
+        <translation>次の設定は、このプリンタでは同時に使えません:</translation>
     </message>
     <message>
         <source>“%1” and “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」と「%2」</translation>
     </message>
 </context>
 <context>
     <name>PreviewWords</name>
     <message>
         <source>Page %1 is damaged and stays empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ %1 は壊れているため、空白になります。</translation>
     </message>
     <message>
         <source>No pages</source>
-        <translation type="unfinished"></translation>
+        <translation>ページなし</translation>
     </message>
     <message>
         <source>Page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ %1</translation>
     </message>
     <message>
         <source>Pages %1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ %1 と %2</translation>
     </message>
     <message>
         <source>Pages %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ %1–%2</translation>
     </message>
     <message>
         <source>Sheet %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙 %1/%2</translation>
     </message>
     <message>
         <source>Sheet %1 of %2, front</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙 %1/%2、表面</translation>
     </message>
     <message>
         <source>Sheet %1 of %2, back</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙 %1/%2、裏面</translation>
     </message>
     <message>
         <source>front</source>
-        <translation type="unfinished"></translation>
+        <translation>表面</translation>
     </message>
     <message>
         <source>back</source>
-        <translation type="unfinished"></translation>
+        <translation>裏面</translation>
     </message>
     <message numerus="yes">
         <source>%n copies</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 部</numerusform>
         </translation>
     </message>
     <message>
         <source>collated</source>
-        <translation type="unfinished"></translation>
+        <translation>部単位</translation>
     </message>
     <message>
         <source>landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>横</translation>
     </message>
     <message>
         <source>portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>縦</translation>
     </message>
     <message>
         <source>grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>グレースケール</translation>
     </message>
     <message>
         <source>flipped</source>
-        <translation type="unfinished"></translation>
+        <translation>左右反転</translation>
     </message>
 </context>
 <context>
     <name>PrinterLists</name>
     <message>
         <source>As the printer is set</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンタの設定に従う</translation>
     </message>
     <message>
         <source>A4</source>
-        <translation type="unfinished"></translation>
+        <translation>A4</translation>
     </message>
     <message>
         <source>A3</source>
-        <translation type="unfinished"></translation>
+        <translation>A3</translation>
     </message>
     <message>
         <source>A5</source>
-        <translation type="unfinished"></translation>
+        <translation>A5</translation>
     </message>
     <message>
         <source>A6</source>
-        <translation type="unfinished"></translation>
+        <translation>A6</translation>
     </message>
     <message>
         <source>B5 (JIS)</source>
-        <translation type="unfinished"></translation>
+        <translation>B5 (JIS)</translation>
     </message>
     <message>
         <source>US Letter</source>
-        <translation type="unfinished"></translation>
+        <translation>USレター</translation>
     </message>
     <message>
         <source>US Legal</source>
-        <translation type="unfinished"></translation>
+        <translation>USリーガル</translation>
     </message>
     <message>
         <source>Tabloid</source>
-        <translation type="unfinished"></translation>
+        <translation>タブロイド</translation>
     </message>
     <message>
         <source>Photo 10 × 15 cm</source>
-        <translation type="unfinished"></translation>
+        <translation>写真 10 × 15 cm</translation>
     </message>
     <message>
         <source>DL envelope</source>
-        <translation type="unfinished"></translation>
+        <translation>封筒 DL</translation>
     </message>
     <message>
         <source>No. 10 envelope</source>
-        <translation type="unfinished"></translation>
+        <translation>封筒 No. 10</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>Turn on the long edge</source>
-        <translation type="unfinished"></translation>
+        <translation>長辺でとじる</translation>
     </message>
     <message>
         <source>Turn on the short edge</source>
-        <translation type="unfinished"></translation>
+        <translation>短辺でとじる</translation>
     </message>
 </context>
 <context>
@@ -544,32 +544,32 @@
     <name>RangeTexts</name>
     <message>
         <source>Type the pages to print, such as 1-3, 5, 8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントするページを 1-3, 5, 8- のように入力してください。</translation>
     </message>
     <message>
         <source>“%1” is no page number. Write pages as 1-3, 5, 8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はページ番号ではありません。1-3, 5, 8- のように入力してください。</translation>
     </message>
     <message>
         <source>“%1”: pages count from 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」: ページ番号は 1 から始まります。</translation>
     </message>
     <message>
         <source>“%1”: no document has so many pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」: これほど多くのページを持つ書類はありません。</translation>
     </message>
     <message>
         <source>“%1” runs backwards. Write %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は逆順です。%2 と入力してください。</translation>
     </message>
     <message>
         <source>“%1” is no range. Write a range as 1-3.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は範囲ではありません。範囲は 1-3 のように入力してください。</translation>
     </message>
     <message numerus="yes">
         <source>“%1”: the document has only %n page(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>「%1」: 書類は %n ページしかありません。</numerusform>
         </translation>
     </message>
 </context>
@@ -577,130 +577,130 @@
     <name>SettingWords</name>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>部数</translation>
     </message>
     <message>
         <source>Collate</source>
-        <translation type="unfinished"></translation>
+        <translation>部単位で印刷</translation>
     </message>
     <message>
         <source>Order of sheets</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙の順序</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ</translation>
     </message>
     <message>
         <source>Odd or even pages</source>
-        <translation type="unfinished"></translation>
+        <translation>奇数/偶数ページ</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>方向</translation>
     </message>
     <message>
         <source>Two-sided</source>
-        <translation type="unfinished"></translation>
+        <translation>両面</translation>
     </message>
     <message>
         <source>Pages per sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>1枚あたりのページ数</translation>
     </message>
     <message>
         <source>Layout order</source>
-        <translation type="unfinished"></translation>
+        <translation>レイアウトの順序</translation>
     </message>
     <message>
         <source>Border</source>
-        <translation type="unfinished"></translation>
+        <translation>枠線</translation>
     </message>
     <message>
         <source>Scaling</source>
-        <translation type="unfinished"></translation>
+        <translation>拡大/縮小</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>カラー</translation>
     </message>
     <message>
         <source>Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>品質</translation>
     </message>
     <message>
         <source>Output tray</source>
-        <translation type="unfinished"></translation>
+        <translation>排紙トレイ</translation>
     </message>
     <message>
         <source>Flip horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>左右反転</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>オン</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>First page first</source>
-        <translation type="unfinished"></translation>
+        <translation>最初のページから</translation>
     </message>
     <message>
         <source>Last page first</source>
-        <translation type="unfinished"></translation>
+        <translation>最後のページから</translation>
     </message>
     <message>
         <source>Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>グレースケール</translation>
     </message>
     <message>
         <source>Draft</source>
-        <translation type="unfinished"></translation>
+        <translation>ドラフト</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>標準</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>高品質</translation>
     </message>
     <message>
         <source>Pages side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>横に並ぶページ数</translation>
     </message>
     <message>
         <source>Turn on the long edge</source>
-        <translation type="unfinished"></translation>
+        <translation>長辺でとじる</translation>
     </message>
     <message>
         <source>Turn on the short edge</source>
-        <translation type="unfinished"></translation>
+        <translation>短辺でとじる</translation>
     </message>
 </context>
 <context>
     <name>SummaryTexts</name>
     <message>
         <source>Job</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ</translation>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>その他</translation>
     </message>
     <message>
         <source>changed</source>
-        <translation type="unfinished"></translation>
+        <translation>変更あり</translation>
     </message>
     <message>
         <source>replaced by a setting of the job</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブの設定が優先されます</translation>
     </message>
 </context>
 <context>
@@ -746,63 +746,63 @@
     <name>dialog::GeneralView</name>
     <message>
         <source>Collate</source>
-        <translation type="unfinished"></translation>
+        <translation>部単位で印刷</translation>
     </message>
     <message>
         <source>Reverse order</source>
-        <translation type="unfinished"></translation>
+        <translation>逆順</translation>
     </message>
     <message>
         <source>How often the document is printed</source>
-        <translation type="unfinished"></translation>
+        <translation>書類をプリントする部数</translation>
     </message>
     <message>
         <source>Prints one whole copy after the other</source>
-        <translation type="unfinished"></translation>
+        <translation>1部ずつまとめてプリントします</translation>
     </message>
     <message>
         <source>Prints the last page first</source>
-        <translation type="unfinished"></translation>
+        <translation>最後のページからプリントします</translation>
     </message>
     <message>
         <source>Which of these pages are printed</source>
-        <translation type="unfinished"></translation>
+        <translation>これらのうちプリントするページ</translation>
     </message>
     <message>
         <source>How the pages lie on the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙上のページの向き</translation>
     </message>
     <message>
         <source>The paper in the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンタにセットした用紙</translation>
     </message>
     <message>
         <source>Whether the paper is printed on both sides</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙の両面にプリントするかどうか</translation>
     </message>
     <message>
         <source>Paper size:</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙サイズ:</translation>
     </message>
     <message>
         <source>Two-sided:</source>
-        <translation type="unfinished"></translation>
+        <translation>両面:</translation>
     </message>
     <message>
         <source>Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>部数:</translation>
     </message>
     <message>
         <source>Pages:</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ:</translation>
     </message>
     <message>
         <source>Odd or even:</source>
-        <translation type="unfinished"></translation>
+        <translation>奇数/偶数:</translation>
     </message>
     <message>
         <source>Orientation:</source>
-        <translation type="unfinished"></translation>
+        <translation>方向:</translation>
     </message>
 </context>
 <context>
@@ -848,51 +848,51 @@
     <name>dialog::LayoutPanel</name>
     <message>
         <source>Flip horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>左右反転</translation>
     </message>
     <message>
         <source>Pages per sheet:</source>
-        <translation type="unfinished"></translation>
+        <translation>1枚あたりのページ数:</translation>
     </message>
     <message>
         <source>How many pages share a side of the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙の片面に並べるページ数</translation>
     </message>
     <message>
         <source>Layout order:</source>
-        <translation type="unfinished"></translation>
+        <translation>レイアウトの順序:</translation>
     </message>
     <message>
         <source>In which order they lie there</source>
-        <translation type="unfinished"></translation>
+        <translation>ページを並べる順序</translation>
     </message>
     <message>
         <source>Border:</source>
-        <translation type="unfinished"></translation>
+        <translation>枠線:</translation>
     </message>
     <message>
         <source>A line around each page</source>
-        <translation type="unfinished"></translation>
+        <translation>各ページを囲む線</translation>
     </message>
     <message>
         <source>Scaling:</source>
-        <translation type="unfinished"></translation>
+        <translation>拡大/縮小:</translation>
     </message>
     <message>
         <source>How large the pages are on the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙上のページの大きさ</translation>
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>レイアウト</translation>
     </message>
     <message>
         <source>Prints every page as in a mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>各ページを鏡に映したようにプリントします</translation>
     </message>
     <message>
         <source>On this system the printer&apos;s own panel mirrors the pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>このシステムでは、プリンタの設定パネルでページを左右反転します。</translation>
     </message>
 </context>
 <context>
@@ -921,84 +921,84 @@
     <name>dialog::PreviewPane</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>プレビュー</translation>
     </message>
     <message>
         <source>Previous sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>前の用紙</translation>
     </message>
     <message>
         <source>Next sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>次の用紙</translation>
     </message>
     <message>
         <source>Sheet shown</source>
-        <translation type="unfinished"></translation>
+        <translation>表示中の用紙</translation>
     </message>
     <message>
         <source>Make the preview smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>プレビューを縮小</translation>
     </message>
     <message>
         <source>Make the preview larger</source>
-        <translation type="unfinished"></translation>
+        <translation>プレビューを拡大</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>全体</translation>
     </message>
     <message>
         <source>Show the whole sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙全体を表示</translation>
     </message>
     <message>
         <source>Side </source>
         <extracomment>Stands before the number of the sheet in &quot;Sheet 1 of 3&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>面 </translation>
     </message>
     <message>
         <source>Sheet </source>
-        <translation type="unfinished"></translation>
+        <translation>用紙 </translation>
     </message>
     <message>
         <source> of %1</source>
         <extracomment>Stands behind the number of the sheet in &quot;Sheet 1 of 3&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>/%1</translation>
     </message>
     <message>
         <source>Nothing would be printed: no page is among those chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したページに該当するものがないため、何もプリントされません。</translation>
     </message>
 </context>
 <context>
     <name>dialog::PreviewWords</name>
     <message>
         <source>No document. The sheet stays empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>書類がありません。用紙は空白のままです。</translation>
     </message>
     <message>
         <source>The document cannot be read. Check that it is still in its place and that you may read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>書類を読み込めません。元の場所にあり、読み取り権限があることを確認してください。</translation>
     </message>
     <message>
         <source>The document is damaged. Open it in the program that made it and save it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>書類が壊れています。作成したプログラムで開いて、保存し直してください。</translation>
     </message>
     <message>
         <source>The document is protected by a password. Save a copy of it without the password and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>書類はパスワードで保護されています。パスワードなしのコピーを保存して、それをプリントしてください。</translation>
     </message>
     <message>
         <source>The document has no pages. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>書類にページがありません。別の書類を選んでください。</translation>
     </message>
     <message>
         <source>The picture is too large to be shown. Scale it down to see it here; it can be printed as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像が大きすぎて表示できません。ここで見るには縮小してください。プリントはこのままできます。</translation>
     </message>
     <message>
         <source>There is no preview for this kind of document. It can be printed all the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>この種類の書類はプレビューできませんが、プリントはできます。</translation>
     </message>
 </context>
 <context>
@@ -1101,45 +1101,45 @@
     <name>dialog::RangeField</name>
     <message numerus="yes">
         <source>The document has %n page(s): it is printed up to its end.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>書類は %n ページです。最後のページまでプリントします。</numerusform>
         </translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて</translation>
     </message>
     <message>
         <source>Only:</source>
-        <translation type="unfinished"></translation>
+        <translation>指定:</translation>
     </message>
     <message>
         <source>Prints the whole document</source>
-        <translation type="unfinished"></translation>
+        <translation>書類全体をプリントします</translation>
     </message>
     <message>
         <source>Prints the pages that are named beside it</source>
-        <translation type="unfinished"></translation>
+        <translation>横に入力したページをプリントします</translation>
     </message>
     <message>
         <source>All pages</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのページ</translation>
     </message>
     <message>
         <source>Only some pages</source>
-        <translation type="unfinished"></translation>
+        <translation>一部のページのみ</translation>
     </message>
     <message>
         <source>Pages to print</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントするページ</translation>
     </message>
     <message>
         <source>for example 1-3, 5, 8-</source>
-        <translation type="unfinished"></translation>
+        <translation>例: 1-3, 5, 8-</translation>
     </message>
     <message>
         <source>Pages and ranges of pages, with commas between them</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ番号とページ範囲をコンマで区切って入力</translation>
     </message>
 </context>
 <context>
@@ -1181,15 +1181,15 @@
     </message>
     <message>
         <source>No setting matches.</source>
-        <translation type="unfinished"></translation>
+        <translation>該当する設定がありません。</translation>
     </message>
     <message>
         <source>Find a setting</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を検索</translation>
     </message>
     <message>
         <source>Copy as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストとしてコピー</translation>
     </message>
 </context>
 </TS>
