@@ -216,9 +216,13 @@ public:
             setMirror(true);
     }
 
-    /// A box that is so already is clicked away from it first.
+    /// A control that is so already is clicked away from it first.
     void pick(const Choice &picked)
     {
+        if (picked.option == q("Threshold")) {
+            stepTo(picked.choice.toInt());
+            return;
+        }
         const bool isBox = isOnOff(picked);
         if (isBox && holds(held_, picked))
             act({picked.option, opposite(picked.choice)});
@@ -243,6 +247,18 @@ public:
     }
 
 private:
+    /// Each step is a choice, so that a refused one leaves the mark of the step before.
+    void stepTo(int target)
+    {
+        constexpr int kHighest = 5;
+        const QString option = q("Threshold");
+        int value = held_.at(option).toInt();
+        if (value == target)
+            act({option, QString::number(value += value < kHighest ? 1 : -1)});
+        while (value != target)
+            act({option, QString::number(value += value < target ? 1 : -1)});
+    }
+
     [[nodiscard]] bool asksTheDialog() const { return story_.systemVersion >= kSystem105; }
     [[nodiscard]] bool mirrorsTheJob() const { return story_.systemVersion >= kSystem106; }
     [[nodiscard]] bool isIronOn() const { return holds(held_, choice("MediaType", "IronOn")); }
@@ -362,6 +378,10 @@ private:
         std::set<QString> instructed; // silent for the rest
         for (const Conflict *conflict; (conflict = firstConflict(instructed));) {
             windows_.append(q(conflict->window));
+            if (story_.answer == Answer::Third) {
+                ignored_.insert(q(conflict->one.option));
+                continue;
+            }
             const auto &answer =
                 story_.answer == Answer::First ? conflict->first : conflict->second;
             for (const KeywordPair &change : answer)
@@ -379,7 +399,8 @@ private:
     {
         for (const Conflict &conflict : kConflicts) {
             if (holds(held_, choiceOf(conflict.one)) && holds(held_, choiceOf(conflict.other)) &&
-                !instructed.contains(q(conflict.one.option)))
+                !instructed.contains(q(conflict.one.option)) &&
+                !ignored_.contains(q(conflict.one.option)))
                 return &conflict;
         }
         return nullptr;
@@ -432,6 +453,7 @@ private:
     Values chosen_;
     Values printSettings_;
     QStringList windows_;
+    std::set<QString> ignored_; ///< conflicts, by their first option
     bool hasOffered_ = false;
     bool bringsMirror_ = false;
     bool isMirroredByHand_ = false;
@@ -451,8 +473,7 @@ QString described(const Story &story)
         words << q("preset") << marked.option + u'=' + marked.choice;
     for (const Choice &picked : story.chosen)
         words << q("chosen") << picked.option + u'=' + picked.choice;
-    if (story.answer == Answer::Second)
-        words << q("with the second answers");
+    words << q("with answer") << QString::number(static_cast<int>(story.answer) + 1);
     return words.join(u' ');
 }
 

@@ -22,8 +22,9 @@ using Values = std::map<QString, QString>;
 
 [[nodiscard]] dialog::Choice choice(const char *option, const char *keyword);
 
-/// What a person picks in every window that asks about a conflict, before OK.
-enum class Answer { First, Second };
+/// What a person picks in every window that asks about a conflict, before OK. Only one window has a
+/// third answer, which keeps the conflict and silences the window until the process ends.
+enum class Answer { First, Second, Third };
 
 /// What is marked before the panels come, and what a person chooses then, in that order.
 struct Story

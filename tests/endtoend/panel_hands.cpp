@@ -209,8 +209,9 @@ void ConflictAnswers::answer(QDialog *window) const
         return;
     }
     const QString suffix = window->objectName().mid(2).remove(q("Window")); // "MsgOne", "MsgFive"
-    const QString picked = answer_ == Answer::First ? q("ibFirstButton_") : q("ibSecondButton_");
-    EXPECT_NULL(input::click(window->findChild<QRadioButton *>(picked + suffix)));
+    constexpr const char *kButtons[] = {"ibFirstButton_", "ibSecondButton_", "ibThirdButton_"};
+    const QString picked = q(kButtons[static_cast<std::size_t>(answer_)]) + suffix;
+    EXPECT_NULL(input::click(window->findChild<QRadioButton *>(picked)));
     EXPECT_NULL(input::click(window->findChild<QPushButton *>(q("ibOkButton_") + suffix)));
 }
 
