@@ -69,7 +69,7 @@ constexpr Spelling kSpellings[] = {
 constexpr const char *kMedia = "media";
 constexpr const char *kPageSizes[] = {"PageSize", "PageRegion"};
 /// What else a list of media can name.
-constexpr const char *kMediaParts[] = {"MediaType", "InputSlot", "HPPaperSource"};
+constexpr const char *kMediaParts[] = {"MediaType", "InputSlot", "PaperSource", "HPPaperSource"};
 
 QStringList words(const char *list)
 {

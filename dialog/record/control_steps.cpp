@@ -1,5 +1,6 @@
 #include "dialog/record/control_steps.h"
 
+#include "dialog/replay/snapshot.h"
 #include "platform/controls/radio_matrix.h"
 #include "platform/controls/stepper.h"
 
@@ -7,6 +8,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QSpinBox>
 #include <QToolButton>
 
 namespace dialog::record {
@@ -16,7 +18,7 @@ using replay::StepKind;
 
 MaybeStep stepOn(const QWidget *control, StepKind kind, const QStringList &more = {})
 {
-    if (control->objectName().isEmpty())
+    if (!replay::isNamed(control))
         return std::nullopt;
     return replay::Step{kind, QStringList{control->objectName()} + more, 0};
 }
@@ -56,6 +58,11 @@ MaybeStep stepForButton(const QAbstractButton *button)
 MaybeStep stepForText(const QLineEdit *field)
 {
     return stepOn(field, StepKind::Type, {field->text()});
+}
+
+MaybeStep stepForNumber(const QSpinBox *field)
+{
+    return stepOn(field, StepKind::Type, {QString::number(field->value())});
 }
 
 MaybeStep stepForStepper(const Stepper *stepper, int direction)

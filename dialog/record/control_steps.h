@@ -9,6 +9,7 @@
 class QAbstractButton;
 class QComboBox;
 class QLineEdit;
+class QSpinBox;
 class QWidget;
 class Stepper;
 
@@ -23,6 +24,8 @@ using MaybeStep = std::optional<replay::Step>;
 /// After the button has taken its new state: a tick, a row, a step, or else a click.
 [[nodiscard]] MaybeStep stepForButton(const QAbstractButton *button);
 [[nodiscard]] MaybeStep stepForText(const QLineEdit *field);
+/// Whatever way the number came.
+[[nodiscard]] MaybeStep stepForNumber(const QSpinBox *field);
 [[nodiscard]] MaybeStep stepForStepper(const Stepper *stepper, int direction);
 
 } // namespace dialog::record

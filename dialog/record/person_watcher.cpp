@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLineEdit>
+#include <QSpinBox>
 
 namespace dialog::record {
 namespace {
@@ -32,7 +33,7 @@ bool leavesField(int key)
 
 bool toldByControl(const QWidget *target, int key)
 {
-    if (qobject_cast<const QLineEdit *>(target))
+    if (qobject_cast<const QLineEdit *>(target) || qobject_cast<const QSpinBox *>(target))
         return !leavesField(key);
     // The release does it, and the button tells that.
     return qobject_cast<const QAbstractButton *>(target) && key == Qt::Key_Space;
@@ -101,6 +102,10 @@ void PersonWatcher::widgetGets(QWidget *widget, QEvent *event)
         if (!input_.target)
             keyPressed(widget);
         break;
+    case QEvent::MouseButtonPress:
+        if (!input_.target)
+            aimAt(widget);
+        break;
     case QEvent::Wheel: // comes to one widget after the other, until one takes it
         input_ = {QEvent::Wheel};
         aimAt(widget);
@@ -145,7 +150,11 @@ void PersonWatcher::watch(QWidget *control)
                 Qt::UniqueConnection);
     else if (auto *stepper = qobject_cast<Stepper *>(control))
         connect(stepper, &Stepper::stepped, this, &PersonWatcher::stepped, Qt::UniqueConnection);
-    else if (auto *field = qobject_cast<QLineEdit *>(control))
+    else if (auto *number = qobject_cast<QSpinBox *>(control))
+        connect(number, &QSpinBox::valueChanged, this, &PersonWatcher::numberChanged,
+                Qt::UniqueConnection);
+    else if (auto *field = qobject_cast<QLineEdit *>(control);
+             field && !qobject_cast<QSpinBox *>(field->parent()))
         connect(field, &QLineEdit::textEdited, this, &PersonWatcher::textEdited,
                 Qt::UniqueConnection);
 }
@@ -234,11 +243,24 @@ void PersonWatcher::stepped(int value)
         tell(stepper, stepForStepper(stepper, way));
 }
 
-/// One step for an edit, with the text that it comes to.
 void PersonWatcher::textEdited()
 {
     auto *field = qobject_cast<QLineEdit *>(sender());
-    const MaybeStep step = stepForText(field);
+    tellEdit(field, stepForText(field));
+}
+
+/// By keys, the wheel, or an arrow under a pressed button; any other way it is the program's.
+void PersonWatcher::numberChanged()
+{
+    auto *field = qobject_cast<QSpinBox *>(sender());
+    const bool isArrow = input_.type == QEvent::MouseButtonPress && field == input_.target;
+    if (isWorkedDirectly(field) || isArrow)
+        tellEdit(field, stepForNumber(field));
+}
+
+/// One step for an edit, with what it comes to.
+void PersonWatcher::tellEdit(QWidget *field, const MaybeStep &step)
+{
     if (!step || !isInFront(field))
         return;
     if (edited_ != field)

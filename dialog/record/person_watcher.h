@@ -17,8 +17,8 @@ namespace dialog::record {
 ///
 /// Controls tell their actions by signals, whose first receivers are the panels. So this watches
 /// what comes before: a button's released(), the new item of a closed pop-up, the closing of an
-/// open list by the event that picks. Only a stepper's keys and the text of a field have no such
-/// forerunner and are told afterwards.
+/// open list by the event that picks. Only a stepper's keys and the text or number of a field have
+/// no such forerunner and are told afterwards.
 class PersonWatcher : public QObject
 {
     Q_OBJECT
@@ -65,6 +65,8 @@ private:
     void itemChanged(int index);
     void stepped(int value);
     void textEdited();
+    void numberChanged();
+    void tellEdit(QWidget *field, const MaybeStep &step);
     void settleKey();
     void settle();
     void tell(const QWidget *control, const MaybeStep &step);
@@ -77,7 +79,7 @@ private:
     Front front_;
     Input input_;
     bool isKeyOpen_ = false;
-    QPointer<QLineEdit> edited_; ///< the field whose text was told last
+    QPointer<QWidget> edited_; ///< the field whose text or number was told last
 };
 
 } // namespace dialog::record

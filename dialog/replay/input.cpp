@@ -13,8 +13,10 @@
 #include <QPointer>
 #include <QRadioButton>
 #include <QScrollArea>
+#include <QSpinBox>
 #include <QStyle>
 #include <QStyleOptionButton>
+#include <QStyleOptionSpinBox>
 #include <QWheelEvent>
 #include <QWindow>
 
@@ -128,6 +130,18 @@ void scrollTo(QWidget *control)
     }
 }
 
+QString clickAt(QWidget *control, const QPoint &place)
+{
+    QWidget *window = control->window();
+    activate(window);
+    scrollTo(control);
+    const QPoint point = control->mapTo(window, place);
+    if (!isReachable(control, point))
+        return QStringLiteral("something covers it");
+    sendClick(window->windowHandle(), point);
+    return {};
+}
+
 QString selectAll(QLineEdit *field)
 {
     const QString error = click(field);
@@ -140,14 +154,17 @@ QString selectAll(QLineEdit *field)
 
 QString click(QWidget *control)
 {
-    QWidget *window = control->window();
-    activate(window);
-    scrollTo(control);
-    const QPoint point = control->mapTo(window, clickPoint(control));
-    if (!isReachable(control, point))
-        return QStringLiteral("something covers it");
-    sendClick(window->windowHandle(), point);
-    return {};
+    return clickAt(control, clickPoint(control));
+}
+
+QString step(QSpinBox *field, Turn turn)
+{
+    QStyleOptionSpinBox option;
+    option.initFrom(field);
+    option.subControls = QStyle::SC_All;
+    const auto arrow = turn == Turn::Up ? QStyle::SC_SpinBoxUp : QStyle::SC_SpinBoxDown;
+    return clickAt(
+        field, field->style()->subControlRect(QStyle::CC_SpinBox, &option, arrow, field).center());
 }
 
 QString choose(QComboBox *popUp, int index)

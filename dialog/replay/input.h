@@ -6,6 +6,7 @@
 
 class QComboBox;
 class QLineEdit;
+class QSpinBox;
 class QWidget;
 
 /// A person's hands: mouse and keyboard events that take the way of the window system's own, so
@@ -23,6 +24,8 @@ enum class Turn { Up, Down };
 [[nodiscard]] QString type(QLineEdit *field, const QString &text);
 /// The same with the clipboard, which gets its old text back.
 [[nodiscard]] QString paste(QLineEdit *field, const QString &text);
+/// Clicks the arrow of a number field.
+[[nodiscard]] QString step(QSpinBox *field, Turn turn);
 void wheel(QWidget *control, Turn turn);
 /// To the open pop-up, else to what has the focus in that window.
 void key(QWidget *window, QKeyCombination key);

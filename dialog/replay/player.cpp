@@ -23,6 +23,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QScopedValueRollback>
+#include <QSpinBox>
 #include <QToolButton>
 #include <QWindow>
 
@@ -102,8 +103,16 @@ QString clickRow(QWidget *control, int row)
     return button->isEnabled() ? input::click(button) : QStringLiteral("the row is disabled");
 }
 
+QString stepNumber(QSpinBox *field, input::Turn turn)
+{
+    const int end = turn == input::Turn::Up ? field->maximum() : field->minimum();
+    return field->value() == end ? QStringLiteral("it goes no further") : input::step(field, turn);
+}
+
 QString stepBy(QWidget *control, input::Turn turn)
 {
+    if (auto *field = qobject_cast<QSpinBox *>(control))
+        return stepNumber(field, turn);
     auto *stepper = qobject_cast<Stepper *>(control);
     if (!stepper)
         return notOfKind("stepper");
@@ -120,7 +129,8 @@ QString turnWheel(QWidget *control, input::Turn turn)
 QString enterText(QWidget *control, const QString &text,
                   QString (*enter)(QLineEdit *, const QString &))
 {
-    auto *field = qobject_cast<QLineEdit *>(control);
+    auto *number = qobject_cast<QSpinBox *>(control);
+    auto *field = number ? number->findChild<QLineEdit *>() : qobject_cast<QLineEdit *>(control);
     return field ? enter(field, text) : notOfKind("text field");
 }
 
@@ -295,7 +305,7 @@ QString Player::run(const Step &step)
     case StepKind::Mark:
         return mark({words[0], words[1]});
     case StepKind::Job:
-        dialog_->host().printSettings()->setValue(words[0], words[1]);
+        dialog_->host().setSetting(words[0], words[1]);
         return {};
     case StepKind::Paper:
         dialog_->host().setPaperName(words[0]);
@@ -476,7 +486,7 @@ std::vector<QWidget *> Player::reachableControls() const
     const QWidget *front = window == main ? main->view(main->frontIndex()) : nullptr;
     std::vector<QWidget *> controls;
     for (QWidget *widget : window->findChildren<QWidget *>()) {
-        bool isElsewhere = widget->objectName().isEmpty() || widget->window() != window;
+        bool isElsewhere = !isNamed(widget) || widget->window() != window;
         for (int i = 0; window == main && i < dialog_->panels().count(); ++i)
             isElsewhere =
                 isElsewhere || (i != main->frontIndex() && isInside(widget, main->view(i)));

@@ -14,6 +14,9 @@
 #include <QJsonDocument>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSpinBox>
+
+#include <algorithm>
 
 namespace dialog::replay {
 namespace {
@@ -39,6 +42,8 @@ QJsonObject contentOf(const QWidget *control)
 {
     if (const auto *stepper = qobject_cast<const Stepper *>(control))
         return {{QStringLiteral("value"), stepper->value()}};
+    if (const auto *number = qobject_cast<const QSpinBox *>(control))
+        return {{QStringLiteral("value"), number->value()}};
     if (const auto *matrix = qobject_cast<const RadioMatrix *>(control))
         return {{QStringLiteral("row"), matrix->selectedRow()}};
     if (const auto *popUp = qobject_cast<const QComboBox *>(control))
@@ -98,6 +103,30 @@ QJsonArray panelsJson(PrintDialog &dialog)
     return panels;
 }
 
+bool isOfPlugIn(const QWidget *control, const PanelStack &panels)
+{
+    const std::vector<LoadedPanel> &loaded = panels.loaded();
+    return std::any_of(loaded.begin(), loaded.end(), [&](const LoadedPanel &entry) {
+        return entry.view && entry.view->isAncestorOf(control);
+    });
+}
+
+/// Those that a person sees; the window's and those of the own panel in front.
+QJsonObject ownControls(const PrintDialog &dialog)
+{
+    QJsonObject states;
+    const PrintWindow *window = dialog.window();
+    for (const QWidget *control : window->findChildren<QWidget *>()) {
+        if (!isNamed(control) || control->window() != window || !control->isVisibleTo(window) ||
+            isOfPlugIn(control, dialog.panels()))
+            continue;
+        const QJsonObject state = controlState(control, window);
+        if (!state.isEmpty())
+            states.insert(control->objectName(), state);
+    }
+    return states;
+}
+
 QJsonValue frontTitle(const PrintDialog &dialog)
 {
     const int front = dialog.panels().frontIndex();
@@ -119,10 +148,18 @@ QJsonValue childOf(const QJsonValue &parent, const QString &token)
 
 QJsonObject takeSnapshot(PrintDialog &dialog)
 {
-    return {{QStringLiteral("front"), frontTitle(dialog)},
-            {QStringLiteral("printSettings"), settingsJson(dialog.host().settings().all())},
-            {QStringLiteral("marked"), marksJson(dialog.printer().marks())},
-            {QStringLiteral("panels"), panelsJson(dialog)}};
+    return {
+        {QStringLiteral("front"), frontTitle(dialog)},
+        {QStringLiteral("printSettings"), settingsJson(dialog.host().settings().all())},
+        {QStringLiteral("marked"), marksJson(dialog.printer().marks())},
+        {QStringLiteral("dialog"), QJsonObject{{QStringLiteral("controls"), ownControls(dialog)}}},
+        {QStringLiteral("panels"), panelsJson(dialog)}};
+}
+
+bool isNamed(const QWidget *control)
+{
+    return !control->objectName().isEmpty() &&
+           !control->objectName().startsWith(QLatin1String("qt_"));
 }
 
 QJsonObject controlState(const QWidget *control, const QWidget *view)

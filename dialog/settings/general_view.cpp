@@ -49,11 +49,6 @@ OnOff onOff(bool isOn)
     return isOn ? OnOff::On : OnOff::Off;
 }
 
-bool canPickFrom(const PrinterList &list)
-{
-    return !list.isEmpty() || (list.current < 0 && !list.items.empty());
-}
-
 } // namespace
 
 GeneralView::GeneralView(QWidget *parent)
@@ -120,31 +115,41 @@ void GeneralView::arrange()
 void GeneralView::connectControls()
 {
     connect(copies_, &QSpinBox::valueChanged, this,
-            [this](int copies) { Q_EMIT settingsChanged(copiesChanges(copies, state_.settings)); });
+            [this](int copies) { tell(copiesChanges(copies, state_.settings)); });
     connect(collate_, &QCheckBox::clicked, this,
-            [this](bool isOn) { Q_EMIT settingsChanged(collateChanges(onOff(isOn))); });
+            [this](bool isOn) { tell(collateChanges(onOff(isOn))); });
     connect(reverse_, &QCheckBox::clicked, this,
-            [this](bool isOn) { Q_EMIT settingsChanged(reverseChanges(onOff(isOn))); });
+            [this](bool isOn) { tell(reverseChanges(onOff(isOn))); });
     connect(pages_, &RangeField::rangesChanged, this,
-            [this](const QString &ranges) { Q_EMIT settingsChanged(pageRangesChanges(ranges)); });
+            [this](const QString &ranges) { tell(pageRangesChanges(ranges)); });
     connect(pages_, &RangeField::problemChanged, this, &GeneralView::problemChanged);
     connect(pageSet_, &PopUpButton::activated, this,
-            [this](int item) { Q_EMIT settingsChanged(jobListChanges(JobList::PageSet, item)); });
-    connect(orientation_, &PopUpButton::activated, this, [this](int item) {
-        Q_EMIT settingsChanged(jobListChanges(JobList::Orientation, item));
-    });
+            [this](int item) { tell(jobListChanges(JobList::PageSet, item)); });
+    connect(orientation_, &PopUpButton::activated, this,
+            [this](int item) { tell(jobListChanges(JobList::Orientation, item)); });
     connect(paper_, &PopUpButton::activated, this,
             [this](int item) { pickFrom(state_.paper, item); });
     connect(sides_, &PopUpButton::activated, this,
             [this](int item) { pickFrom(state_.sides, item); });
 }
 
+/// The next change may come before the state that this one leads to.
+void GeneralView::tell(const SettingChanges &changes)
+{
+    for (const auto &[key, value] : changes) {
+        if (value.isValid())
+            state_.settings[key] = value;
+        else
+            state_.settings.erase(key);
+    }
+    Q_EMIT settingsChanged(changes);
+}
+
 void GeneralView::pickFrom(const PrinterList &list, int index)
 {
     const PrinterList::Item item = list.items[static_cast<std::size_t>(index)];
     if (list.option.isNull())
-        Q_EMIT settingsChanged(
-            {{list.key, item.value.isNull() ? QVariant() : QVariant(item.value)}});
+        tell({{list.key, item.value.isNull() ? QVariant() : QVariant(item.value)}});
     else
         Q_EMIT chosen({list.option, item.value});
 }
@@ -163,10 +168,10 @@ void GeneralView::show(const GeneralState &state)
     showSetting(orientation_, JobList::Orientation, state.settings);
     showList(paper_, state.paper);
     showList(sides_, state.sides);
-    paper_->setVisible(canPickFrom(state.paper));
-    paperLabel_->setVisible(canPickFrom(state.paper));
-    sides_->setVisible(canPickFrom(state.sides));
-    sidesLabel_->setVisible(canPickFrom(state.sides));
+    paper_->setVisible(!state.paper.isEmpty());
+    paperLabel_->setVisible(!state.paper.isEmpty());
+    sides_->setVisible(!state.sides.isEmpty());
+    sidesLabel_->setVisible(!state.sides.isEmpty());
 }
 
 void GeneralView::reset(const GeneralState &state)

@@ -53,6 +53,7 @@ private:
     void makeControls();
     void arrange();
     void connectControls();
+    void tell(const SettingChanges &changes);
     void pickFrom(const PrinterList &list, int index);
 
     QSpinBox *copies_;

@@ -218,10 +218,12 @@ bool isFlipped(const PrintSettingsMap &settings)
 
 SettingChanges copiesChanges(int copies, const PrintSettingsMap &settings)
 {
-    if (copies <= 1)
-        return {{kCopies, {}}, {kHandling, {}}};
-    SettingChanges changes{{kCopies, QString::number(std::min(copies, kMostCopies))}};
-    if (copiesOf(settings) == 1 && !settings.contains(kHandling))
+    const QVariant value =
+        copies > 1 ? QVariant(QString::number(std::min(copies, kMostCopies))) : QVariant();
+    SettingChanges changes{{kCopies, value}};
+    if (copies <= 1 && isCollated(settings))
+        changes.push_back({kHandling, {}});
+    if (copies > 1 && !settings.contains(kHandling))
         changes.push_back({kHandling, kCollated});
     return changes;
 }

@@ -65,8 +65,8 @@ inline constexpr int kMostCopies = 999;
 /// Whether the job is mirrored; the text "true" alone says so.
 [[nodiscard]] bool isFlipped(const PrintSettingsMap &settings);
 
-/// From one copy to several, they are collated unless something else is set already; a single one
-/// has nothing to collate.
+/// Several copies are collated unless a person has set something else, which stays even while a
+/// single copy has nothing to collate.
 [[nodiscard]] SettingChanges copiesChanges(int copies, const PrintSettingsMap &settings);
 
 enum class OnOff { Off, On };

@@ -46,13 +46,16 @@ QString settingOf(const PrintSettingsMap &settings, const QString &key)
     return found == settings.end() ? QString() : found->second.toString();
 }
 
-void select(PrinterList &list, const QString &value)
+/// What is in no list shows all the same, at its end.
+void select(PrinterList &list, const PrinterList::Item &current)
 {
-    const auto found =
-        std::find_if(list.items.begin(), list.items.end(), [&](const PrinterList::Item &item) {
-            return item.value.isNull() == value.isNull() &&
-                   item.value.compare(value, Qt::CaseInsensitive) == 0;
-        });
+    const auto isCurrent = [&](const PrinterList::Item &item) {
+        return item.value.isNull() == current.value.isNull() &&
+               item.value.compare(current.value, Qt::CaseInsensitive) == 0;
+    };
+    if (!current.value.isNull() && std::none_of(list.items.begin(), list.items.end(), isCurrent))
+        list.items.push_back(current);
+    const auto found = std::find_if(list.items.begin(), list.items.end(), isCurrent);
     list.current = found == list.items.end() ? -1 : static_cast<int>(found - list.items.begin());
 }
 
@@ -64,34 +67,34 @@ PrinterList standardList(const QString &key, std::span<const JobListItem> items,
     for (const JobListItem &item : items)
         list.items.push_back({QCoreApplication::translate(kContext, item.text),
                               item.value ? QString::fromLatin1(item.value) : QString()});
-    select(list, settingOf(settings, key));
+    const QString current = settingOf(settings, key);
+    select(list, {current, current});
     return list;
 }
 
-/// What the print setting says in the words of that option; null without one.
+/// What the print setting says in the words of that option, or as it stands; null without one that
+/// stands for the option.
 QString choiceOfSetting(const QString &option, const QString &key, const PpdDocument &printer,
                         const PrintSettingsMap &settings)
 {
     const QString value = settingOf(settings, key);
-    if (value.isNull())
-        return {};
-    for (const auto &[name, choice] : meaningOf(key, value, standardCounterparts(printer)).said) {
+    const Meaning meaning = meaningOf(key, value, standardCounterparts(printer));
+    for (const auto &[name, choice] : meaning.said) {
         if (isSameOption(name, option))
             return choice;
     }
-    return {};
+    return !value.isNull() && meaning.standsFor.contains(option) ? value : QString();
 }
 
-/// A size of one's own that is marked stays in the list, so that it can be seen.
 PrinterList printersList(const PpdDocument &printer, const QString &option, const QString &current)
 {
     PrinterList list;
     list.option = option;
     for (const QString &choice : printer.choices(option)) {
-        if (choice != kCustomSize || current == kCustomSize)
+        if (choice != kCustomSize)
             list.items.push_back({printer.choiceText({option, choice}), choice});
     }
-    select(list, current);
+    select(list, {printer.choiceText({option, current}), current});
     return list;
 }
 

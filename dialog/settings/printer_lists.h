@@ -22,7 +22,7 @@ struct PrinterList
     QString option; ///< of the PPD; null: a print setting
     QString key;    ///< the print setting of the same meaning
     std::vector<Item> items;
-    int current = -1; ///< -1: something that is not in the list
+    int current = -1; ///< -1: none; what is in no list of choices stands at its end
 
     /// Without a list there is nothing to pick.
     [[nodiscard]] bool isEmpty() const { return items.size() < 2; }

@@ -68,11 +68,12 @@ TEST(JobSettingsCopies, AreCollatedFromTheSecondOn)
     const PrintSettingsMap two = applied(copiesChanges(2, {}));
     EXPECT_EQ(copiesOf(two), 2);
     EXPECT_TRUE(isCollated(two));
+    EXPECT_TRUE(applied(copiesChanges(1, two), two).empty());
     const PrintSettingsMap uncollated = applied(collateChanges(OnOff::Off), two);
     EXPECT_FALSE(isCollated(uncollated));
-    EXPECT_FALSE(isCollated(applied(copiesChanges(3, uncollated), uncollated)))
-        << "what a person chose stays";
-    EXPECT_TRUE(applied(copiesChanges(1, uncollated), uncollated).empty());
+    const PrintSettingsMap one = applied(copiesChanges(1, uncollated), uncollated);
+    EXPECT_FALSE(isCollated(applied(copiesChanges(12, one), one)))
+        << "what a person chose stays, also behind a 1 that is typed first";
 }
 
 TEST(JobSettingsCopies, AreOneToThreeDigits)

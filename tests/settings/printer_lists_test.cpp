@@ -68,7 +68,11 @@ TEST_F(PrinterLists, ShowWhatTheJobWillHave)
                 q("US Letter"));
     EXPECT_SAME(currentTitle(sidesList(*printer, {{q("sides"), q("two-sided-long-edge")}})),
                 q("Book"));
-    EXPECT_EQ(paperList(*printer, {}, q("Custom.10x10mm")).current, -1);
+    EXPECT_SAME(currentTitle(paperList(*printer, {}, q("Custom.10x10mm"))), q("Custom.10x10mm"));
+    EXPECT_SAME(currentTitle(paperList(*printer, {{q("media"), q("A4,parchment")}}, {})),
+                q("A4,parchment"));
+    EXPECT_SAME(currentTitle(paperList(*printer, {{q("media"), q("Tray2")}}, {})),
+                q("DL Envelope"));
 }
 
 TEST_F(PrinterLists, AreEmptyWhereThePrinterHasNoSuchOption)
@@ -92,7 +96,7 @@ TEST_F(PrinterLists, AreStandardSettingsForAPrinterWithoutAPpd)
     const PrinterList sides = sidesList(*printer, {{q("sides"), q("two-sided-short-edge")}});
     EXPECT_SAME(sides.key, q("sides"));
     EXPECT_EQ(sides.current, 3);
-    EXPECT_EQ(sidesList(*printer, {{q("sides"), q("folded")}}).current, -1);
+    EXPECT_SAME(currentTitle(sidesList(*printer, {{q("sides"), q("folded")}})), q("folded"));
 }
 
 } // namespace
