@@ -1,4 +1,3 @@
-#include "dialog/texts.h"
 #include "dialog/window/help_window.h"
 #include "dialog/window/notice_area.h"
 #include "dialog/window/print_window.h"
@@ -125,20 +124,6 @@ TEST_F(Window, PrintsByReturnButNotTwiceWhileSending)
     window.setSending(false);
     QTest::keyClick(&window, Qt::Key_Return);
     EXPECT_EQ(printed.count(), 2);
-}
-
-TEST(Texts, ComeInTheFirstPreferredLanguageAndEnglishForOneThatTheyLack)
-{
-    const auto cancelIn = [](const QStringList &languages) {
-        platform::setPreferredLanguages(languages);
-        installTexts();
-        return PrintWindow::tr("Cancel");
-    };
-    EXPECT_TEXT(cancelIn({q("en")}), "Cancel");
-    EXPECT_TEXT(cancelIn({q("de_AT"), q("ja")}), "Abbrechen");
-    EXPECT_TEXT(cancelIn({q("ja")}), "キャンセル");
-    EXPECT_TEXT(cancelIn({q("sv")}), "Cancel");
-    EXPECT_TEXT(cancelIn({}), "Cancel");
 }
 
 TEST(HelpPage, ComesInThePreferredLanguageElseInTheBooksOwn)
