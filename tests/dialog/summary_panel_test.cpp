@@ -118,15 +118,23 @@ TEST_F(SummaryPanelTest, CopiesWhatIsShownByButtonAndByKey)
     EXPECT_SAME(QGuiApplication::clipboard()->text(), text);
 }
 
-TEST(Summary, OfTheTonerPrinterSaysPanelsMarksAndJob)
+std::unique_ptr<PrintDialog> openSample(const char *ppd)
 {
     PrintCase printCase;
-    printCase.ppd = q(KORVANE_SOURCE_DIR "/driver/ppd/Korvane-T500.ppd");
+    printCase.ppd = q(KORVANE_SOURCE_DIR "/driver/ppd/") + q(ppd);
     printCase.root = q(KORVANE_ROOT_DIR);
     PrintDialog::Opened opened = PrintDialog::open(printCase);
-    ASSERT_TRUE(std::holds_alternative<std::unique_ptr<PrintDialog>>(opened));
-    auto &print = std::get<std::unique_ptr<PrintDialog>>(opened);
-    print->showPanels();
+    auto *made = std::get_if<std::unique_ptr<PrintDialog>>(&opened);
+    if (!made)
+        return nullptr;
+    (*made)->showPanels();
+    return std::move(*made);
+}
+
+TEST(Summary, OfTheTonerPrinterSaysPanelsMarksAndJob)
+{
+    const auto print = openSample("Korvane-T500.ppd");
+    ASSERT_TRUE(print);
     PrintWindow &window = *print->window();
     const PanelStack &panels = print->panels();
     EXPECT_NULL(replay::input::choose(window.panelPopUp(),
@@ -146,13 +154,8 @@ TEST(Summary, OfTheTonerPrinterSaysPanelsMarksAndJob)
 
 TEST(Summary, FollowsASettingThatChangesWhileItIsInFront)
 {
-    PrintCase printCase;
-    printCase.ppd = q(KORVANE_SOURCE_DIR "/driver/ppd/Korvane-S300.ppd");
-    printCase.root = q(KORVANE_ROOT_DIR);
-    PrintDialog::Opened opened = PrintDialog::open(printCase);
-    ASSERT_TRUE(std::holds_alternative<std::unique_ptr<PrintDialog>>(opened));
-    auto &print = std::get<std::unique_ptr<PrintDialog>>(opened);
-    print->showPanels();
+    const auto print = openSample("Korvane-S300.ppd");
+    ASSERT_TRUE(print);
     PrintWindow &window = *print->window();
     EXPECT_NULL(replay::input::choose(window.panelPopUp(), print->panels().indexOf(q("summary"))));
     print->host().setSetting(q("mirror"), q("true"));
@@ -160,5 +163,32 @@ TEST(Summary, FollowsASettingThatChangesWhileItIsInFront)
     EXPECT_TRUE(shownIn(*window.findChild<QTreeWidget *>(q("summaryRows")))
                     .contains(q("Job: Flip horizontally = On")));
 }
+
+class SummaryOfPrinter : public testing::TestWithParam<const char *>
+{
+};
+
+TEST_P(SummaryOfPrinter, SaysEveryChoiceThatCanBeMarked)
+{
+    const auto print = openSample(GetParam());
+    ASSERT_TRUE(print);
+    PpdDocument &printer = print->printer();
+    auto *view = print->window()->findChild<SummaryPanel *>();
+    const auto *rows = view->findChild<QTreeWidget *>(q("summaryRows"));
+    for (const QString &option : printer.options())
+        for (const QString &choice : printer.choices(option)) {
+            printer.mark({option, choice});
+            view->refresh();
+            EXPECT_FALSE(shownIn(*rows)
+                             .filter(q(": ") + printer.optionText(option) + q(" = ") +
+                                     printer.choiceText({option, choice}))
+                             .isEmpty())
+                << option.toStdString() << ' ' << choice.toStdString();
+        }
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, SummaryOfPrinter,
+                         testing::Values("Korvane-S300.ppd", "Korvane-S300-de.ppd",
+                                         "Korvane-S300-ja.ppd", "Korvane-T500.ppd"));
 
 } // namespace
