@@ -6,7 +6,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -20,6 +19,8 @@ namespace {
 
 // Enough for the settings of one panel; more are scrolled to.
 constexpr int kRowsInSight = 12;
+// Between settings and values, in average characters.
+constexpr int kGap = 2;
 
 void mark(QTreeWidgetItem *item, const SummaryRow &row)
 {
@@ -69,7 +70,6 @@ SummaryPanel::SummaryPanel(PanelStack &panels, DialogHost &host, SummarySources 
     rows_->setHeaderHidden(true);
     rows_->setRootIsDecorated(false);
     rows_->setUniformRowHeights(true);
-    rows_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     rows_->setMinimumHeight(kRowsInSight * rows_->fontMetrics().height());
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins({});
@@ -153,6 +153,9 @@ void SummaryPanel::showRows()
     rows_->clear();
     for (const SummarySection &section : shownRows())
         addSection(rows_, section);
+    rows_->resizeColumnToContents(0);
+    rows_->setColumnWidth(0,
+                          rows_->columnWidth(0) + kGap * rows_->fontMetrics().averageCharWidth());
     rows_->verticalScrollBar()->setValue(place);
     nothing_->setVisible(rows_->topLevelItemCount() == 0);
 }
