@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
+#include <QTreeWidget>
 
 #include <algorithm>
 
@@ -38,8 +39,34 @@ QJsonArray itemsOf(const QComboBox *popUp)
     return items;
 }
 
+/// As a screen reader says it.
+QJsonArray rowOf(const QTreeWidgetItem *item)
+{
+    QJsonArray row;
+    for (int column = 0; column < item->columnCount(); ++column) {
+        const QVariant said = item->data(column, Qt::AccessibleTextRole);
+        row.append(said.isValid() ? said.toString() : item->text(column));
+    }
+    return row;
+}
+
+/// A section is a row of its own, of one text.
+QJsonArray rowsOf(const QTreeWidget *list)
+{
+    QJsonArray rows;
+    for (int i = 0; i < list->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem *section = list->topLevelItem(i);
+        rows.append(QJsonArray{section->text(0)});
+        for (int child = 0; child < section->childCount(); ++child)
+            rows.append(rowOf(section->child(child)));
+    }
+    return rows;
+}
+
 QJsonObject contentOf(const QWidget *control)
 {
+    if (const auto *list = qobject_cast<const QTreeWidget *>(control))
+        return {{QStringLiteral("rows"), rowsOf(list)}};
     if (const auto *stepper = qobject_cast<const Stepper *>(control))
         return {{QStringLiteral("value"), stepper->value()}};
     if (const auto *number = qobject_cast<const QSpinBox *>(control))
