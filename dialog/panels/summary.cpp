@@ -22,6 +22,7 @@ const QString kPageSize = QStringLiteral("PageSize");
 /// What is marked of one option, in the printer's words.
 struct MarkedOption
 {
+    const OptionGroup *group;
     QString option;
     SummaryRow row;
 };
@@ -55,6 +56,14 @@ QString choiceText(const PrinterOption &option, const QString &keyword)
         std::find_if(option.choices.begin(), option.choices.end(),
                      [&](const OptionChoice &choice) { return choice.keyword == keyword; });
     return found == option.choices.end() ? keyword : found->text;
+}
+
+QString choiceTexts(const PrinterOption &option, const QStringList &keywords)
+{
+    QStringList texts;
+    for (const QString &keyword : keywords)
+        texts.append(choiceText(option, keyword));
+    return texts.join(QStringLiteral(", "));
 }
 
 std::vector<SummaryRow> paperRow(const OptionGroups &groups, const JobSettings &job)
@@ -98,20 +107,20 @@ Standing standingOf(const PrinterOption &option, QStringList marked, const Choic
     return marked == defaults ? Standing::Usual : Standing::Changed;
 }
 
-std::vector<MarkedOption> markedOptions(const OptionGroup &group, const Choices &marks,
+/// In the order of the printer; each names its group by address.
+std::vector<MarkedOption> markedOptions(const OptionGroups &groups, const Choices &marks,
                                         const Choices &replaced)
 {
     std::vector<MarkedOption> options;
-    for (const PrinterOption &option : group.options) {
-        const QStringList marked = markedChoices(marks, option.keyword);
-        QStringList texts;
-        for (const QString &keyword : marked)
-            texts.append(choiceText(option, keyword));
-        if (!marked.isEmpty())
-            options.push_back({option.keyword,
-                               {option.text, texts.join(QStringLiteral(", ")),
-                                standingOf(option, marked, replaced)}});
-    }
+    for (const OptionGroup &group : groups)
+        for (const PrinterOption &option : group.options) {
+            const QStringList marked = markedChoices(marks, option.keyword);
+            if (!marked.isEmpty())
+                options.push_back({&group,
+                                   option.keyword,
+                                   {option.text, choiceTexts(option, marked),
+                                    standingOf(option, marked, replaced)}});
+        }
     return options;
 }
 
@@ -141,6 +150,16 @@ SummarySection panelSection(const PanelSummary &panel, std::vector<MarkedOption>
             left.erase(named);
         }
         section.rows.push_back(row);
+    }
+    return section;
+}
+
+SummarySection groupSection(const OptionGroup &group, const std::vector<MarkedOption> &left)
+{
+    SummarySection section{group.text, {}};
+    for (const MarkedOption &mark : left) {
+        if (mark.group == &group)
+            section.rows.push_back(mark.row);
     }
     return section;
 }
@@ -189,23 +208,12 @@ int widthOf(const QString &text)
 Summary summaryOf(const std::vector<PanelSummary> &panels, const OptionGroups &groups,
                   const JobSettings &job)
 {
-    const Choices replaced = marksNotSent(job);
+    std::vector<MarkedOption> left = markedOptions(groups, job.marks, marksNotSent(job));
     Summary summary{jobSection(groups, job)};
-    std::vector<MarkedOption> marks;
-    for (const OptionGroup &group : groups) {
-        const std::vector<MarkedOption> marked = markedOptions(group, job.marks, replaced);
-        marks.insert(marks.end(), marked.begin(), marked.end());
-    }
     for (const PanelSummary &panel : panels)
-        summary.push_back(panelSection(panel, marks));
-    for (const OptionGroup &group : groups) {
-        SummarySection section{group.text, {}};
-        for (const MarkedOption &mark : marks) {
-            if (findOption({group}, mark.option))
-                section.rows.push_back(mark.row);
-        }
-        summary.push_back(section);
-    }
+        summary.push_back(panelSection(panel, left));
+    for (const OptionGroup &group : groups)
+        summary.push_back(groupSection(group, left));
     summary.push_back(groupless(groups, job.marks));
     std::erase_if(summary, [](const SummarySection &section) { return section.rows.empty(); });
     return summary;
