@@ -7,7 +7,10 @@
 
 namespace dialog {
 
-PanelStack::PanelStack(DialogHost &host, QObject *parent) : QObject(parent), host_(host) {}
+PanelStack::PanelStack(DialogHost &host, QObject *parent) : QObject(parent), host_(host)
+{
+    connect(&controls_, &ControlWatch::chosen, &host_, &DialogHost::recordPersonsChoice);
+}
 
 PanelStack::~PanelStack()
 {
@@ -85,6 +88,7 @@ void PanelStack::addLoaded(std::size_t index)
         window_->addPanel(entry.title, entry.view);
         panel.restoreValuesAndReturnError(nullptr);
     });
+    controls_.watch(entry.panel, entry.view);
     entries_.push_back({.loaded = index});
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/host/control_watch.h"
 #include "dialog/plugins/plugin_loader.h"
 #include "dialog/window/notice_area.h"
 #include "platform/panel_protocol.h"
@@ -86,6 +87,7 @@ private:
     [[nodiscard]] bool hideFront();
 
     DialogHost &host_;
+    ControlWatch controls_;
     std::vector<PlugIn> plugIns_;
     std::vector<LoadedPanel> loaded_;
     std::vector<Entry> entries_;

@@ -144,7 +144,7 @@ SettingChanges changesFor(const Choice &setting, const PrintSettingsMap &setting
 {
     const int copies = setting.option == kCopies ? setting.choice.toInt() : 1;
     return copies > 1 ? copiesChanges(copies, settings)
-                      : withCompanions({setting.option, setting.choice});
+                      : SettingChanges{{setting.option, setting.choice}};
 }
 
 } // namespace dialog::batch

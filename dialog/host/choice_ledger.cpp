@@ -16,6 +16,19 @@ QString markedChoice(const Choices &marks, const QString &option)
 
 } // namespace
 
+void ChoiceLedger::beginAction()
+{
+    isFirst_ = true;
+    beforeAction_ = chosen_;
+}
+
+void ChoiceLedger::recordAction(const Choice &choice)
+{
+    chosen_ = beforeAction_;
+    recordChosen(choice);
+    beforeAction_ = chosen_;
+}
+
 void ChoiceLedger::recordOffer(const Choice &choice)
 {
     if (std::exchange(isFirst_, false))

@@ -18,13 +18,16 @@ struct Difference
 
 /// Remembers what a person chose, accepted or refused, beside what rules offered afterwards.
 ///
-/// The first offer of an action is the person's own; the offers that follow in the same action are
-/// the consequences that the panel's rules draw, and replace nobody's choice.
+/// Where a panel tells what its controls stand for, the person's choice is known. Else the first
+/// offer of an action counts as it. The other offers of the action are the consequences that the
+/// panel's rules draw, and replace nobody's choice.
 class ChoiceLedger
 {
 public:
-    void beginAction() { isFirst_ = true; }
+    void beginAction();
     void recordOffer(const Choice &choice);
+    /// What a person's action was about, once it has made its offers, if any.
+    void recordAction(const Choice &choice);
     /// A choice made elsewhere: by a preset, by a job that is printed again, in another panel.
     void recordChosen(const Choice &choice) { chosen_[choice.option] = choice.choice; }
 
@@ -36,6 +39,7 @@ public:
 
 private:
     std::map<QString, QString> chosen_;
+    std::map<QString, QString> beforeAction_;
     bool isFirst_ = true;
 };
 

@@ -85,16 +85,28 @@ bool DialogHost::commit(const Choice &offered)
     return known;
 }
 
-/// An action lasts until the event loop is reached again, a modal window's loop included.
 void DialogHost::recordPersonsOffer(const OfferOutcome &outcome)
 {
-    if (!std::exchange(isActionOpen_, true)) {
-        ledger_.beginAction();
-        Q_EMIT actionBegan();
-        QMetaObject::invokeMethod(
-            this, [this] { isActionOpen_ = false; }, Qt::QueuedConnection);
-    }
+    openAction();
     ledger_.recordOffer(outcome.offered);
+}
+
+void DialogHost::recordPersonsChoice(const Choice &choice)
+{
+    openAction();
+    ledger_.recordAction(choice);
+    announceChange();
+}
+
+/// An action lasts until the event loop is reached again, a modal window's loop included.
+void DialogHost::openAction()
+{
+    if (std::exchange(isActionOpen_, true))
+        return;
+    ledger_.beginAction();
+    Q_EMIT actionBegan();
+    QMetaObject::invokeMethod(
+        this, [this] { isActionOpen_ = false; }, Qt::QueuedConnection);
 }
 
 void DialogHost::accept(const Choice &offered)

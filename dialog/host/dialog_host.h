@@ -63,6 +63,8 @@ public:
     /// Counts what is marked beside the defaults as chosen: a preset's marks, before the panels
     /// look.
     void takeMarksAsChosen();
+    /// A person chose with a control of a panel; its offers, if any, have been answered.
+    void recordPersonsChoice(const Choice &choice);
     /// Marks a choice as another panel's and tells every panel the word as it stands.
     void changeFromElsewhere(const Choice &choice);
     /// A person's choice in a control of the dialog's own. It is judged as an offer of a panel is;
@@ -115,6 +117,7 @@ private:
     [[nodiscard]] bool answer(const Choice &offered);
     [[nodiscard]] bool commit(const Choice &offered);
     void recordPersonsOffer(const OfferOutcome &outcome);
+    void openAction();
     void accept(const Choice &offered);
     void queueChange(const Change &change);
     void tellPanels(const Change &change);

@@ -141,7 +141,4 @@ TEST(JobSettings, ChangeWhatTheWindowsOwnControlsChange)
     EXPECT_EQ(changesFor({q("mirror"), q("true")}, {}), (SettingChanges{{q("mirror"), q("true")}}));
     EXPECT_EQ(changesFor({q("copies"), q("1")}, {}), (SettingChanges{{q("copies"), q("1")}}));
     EXPECT_EQ(changesFor({q("copies"), q("2")}, {}), dialog::copiesChanges(2, {}));
-    EXPECT_EQ(changesFor({q("number-up"), q("4")}, {}),
-              dialog::withCompanions({q("number-up"), q("4")}));
-    EXPECT_EQ(changesFor({q("number-up"), q("4")}, {}).size(), 2U) << "the panels are told, too";
 }

@@ -270,8 +270,9 @@ private:
 
     void act(const Choice &picked)
     {
-        hasOffered_ = false;
-        if (picked.option == q(kTypedThreshold))
+        const bool isTyped = picked.option == q(kTypedThreshold);
+        chosen_[isTyped ? q("Threshold") : picked.option] = picked.choice;
+        if (isTyped)
             held_[q("Threshold")] = picked.choice;
         else if (names(kNeverOffered, picked.option))
             held_[picked.option] = picked.choice;
@@ -359,14 +360,11 @@ private:
             offer({option, held_.at(option)});
     }
 
-    /// Whether the panel hears a yes. The first offer of an action counts as what a person chose,
-    /// whatever the dialog answers.
+    /// Whether the panel hears a yes.
     bool offer(const Choice &offered)
     {
         if (!asksTheDialog())
             return true;
-        if (!std::exchange(hasOffered_, true))
-            chosen_[offered.option] = offered.choice;
         if (isExcluded(offered, marked_))
             return false;
         marked_[offered.option] = offered.choice;
@@ -454,7 +452,6 @@ private:
     Values printSettings_;
     QStringList windows_;
     std::set<QString> ignored_; ///< conflicts, by their first option
-    bool hasOffered_ = false;
     bool bringsMirror_ = false;
     bool isMirroredByHand_ = false;
 };
