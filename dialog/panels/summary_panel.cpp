@@ -93,6 +93,7 @@ QWidget *SummaryPanel::makeSearchRow()
     row->setContentsMargins({});
     row->addWidget(find_, 1);
     row->addWidget(copyButton);
+    setTabOrder(copyButton, rows_);
     connect(find_, &QLineEdit::textChanged, this, &SummaryPanel::showRows);
     connect(copyButton, &QPushButton::clicked, this, &SummaryPanel::copy);
     return place;

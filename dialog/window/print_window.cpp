@@ -3,6 +3,7 @@
 #include "dialog/window/content_scroll.h"
 #include "dialog/window/notice_area.h"
 #include "dialog/window/print_button.h"
+#include "dialog/window/tab_order.h"
 #include "platform/controls/pop_up_button.h"
 
 #include <QAction>
@@ -33,6 +34,13 @@ QLabel *literalLabel(const QString &text)
     auto *label = new QLabel;
     label->setTextFormat(Qt::PlainText);
     label->setText(text);
+    return label;
+}
+
+QLabel *labelOf(QWidget *control, const QString &text)
+{
+    QLabel *label = literalLabel(text);
+    label->setBuddy(control);
     return label;
 }
 
@@ -89,7 +97,7 @@ QWidget *PrintWindow::makeHeading(QWidget *printer, const QString &document)
     heading_->setContentsMargins({});
     document_ = literalLabel({});
     setDocument(document);
-    heading_->addRow(literalLabel(tr("Printer:")), printer);
+    heading_->addRow(labelOf(printer, tr("Printer:")), printer);
     heading_->addRow(literalLabel(tr("Document:")), document_);
     return heading;
 }
@@ -102,7 +110,7 @@ QWidget *PrintWindow::makeChooser()
     popUp_ = new PopUpButton;
     popUp_->setObjectName(QStringLiteral("panelPopUp"));
     popUp_->setAccessibleName(tr("Settings:"));
-    form->addRow(literalLabel(tr("Settings:")), popUp_);
+    form->addRow(labelOf(popUp_, tr("Settings:")), popUp_);
     chooser_->hide();
     connect(popUp_, &QComboBox::activated, this, &PrintWindow::panelPicked);
 
@@ -121,9 +129,9 @@ QWidget *PrintWindow::makeChooser()
 
 QWidget *PrintWindow::makeButtons()
 {
-    auto *buttons = new QDialogButtonBox(this);
+    buttons_ = new QDialogButtonBox(this);
     const auto add = [&](QPushButton *button, QDialogButtonBox::ButtonRole role, const char *name) {
-        buttons->addButton(button, role);
+        buttons_->addButton(button, role);
         button->setObjectName(QString::fromLatin1(name));
         button->setAutoDefault(false);
         return button;
@@ -142,18 +150,19 @@ QWidget *PrintWindow::makeButtons()
     connect(reset_, &QPushButton::clicked, this, &PrintWindow::resetRequested);
     connect(cancel, &QPushButton::clicked, this, &PrintWindow::leave);
     connect(print_, &QPushButton::clicked, this, &PrintWindow::printRequested);
-    return buttons;
+    return buttons_;
 }
 
 void PrintWindow::setPreview(QWidget *preview)
 {
+    preview_ = preview;
     previewPlace_->addWidget(preview);
 }
 
 void PrintWindow::setPresets(QWidget *presets)
 {
     presets_ = presets;
-    heading_->insertRow(1, literalLabel(tr("Presets:")), presets);
+    heading_->insertRow(1, labelOf(presets, tr("Presets:")), presets);
 }
 
 void PrintWindow::setGeneral(QWidget *general)
@@ -287,6 +296,14 @@ void PrintWindow::allowPrinting()
     print_->setEnabled(!isSending_ && !isWaiting_ && printProblem_.isNull());
     reset_->setEnabled(!isSending_ && !isWaiting_);
     printer_->setEnabled(!isSending_);
+}
+
+bool PrintWindow::focusNextPrevChild(bool next)
+{
+    orderTabs(*this, {preview_, heading_->parentWidget(), general_, chooser_, panelPlace_, notices_,
+                      buttons_});
+    buttons_->setFocusProxy(nullptr); // else the box leads Tab back to its first button for ever
+    return QDialog::focusNextPrevChild(next);
 }
 
 /// Return presses the default button, a Return that is held down once.

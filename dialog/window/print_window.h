@@ -7,6 +7,7 @@
 
 class PopUpButton;
 class QAction;
+class QDialogButtonBox;
 class QFormLayout;
 class QLabel;
 class QMenu;
@@ -70,6 +71,8 @@ Q_SIGNALS:
     void left();
 
 protected:
+    /// Tab goes through the parts in reading order, whenever they came.
+    bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent *event) override;
     void reject() override;
     void closeEvent(QCloseEvent *event) override;
@@ -86,6 +89,7 @@ private:
     [[nodiscard]] QSize neededSize() const;
 
     QWidget *printer_ = nullptr;
+    QWidget *preview_ = nullptr; ///< null where there is none
     QFormLayout *heading_ = nullptr;
     QLabel *document_ = nullptr;
     QPointer<QWidget> presets_;
@@ -98,6 +102,7 @@ private:
     QVBoxLayout *panelLayout_ = nullptr;
     QLabel *waiting_ = nullptr;
     NoticeArea *notices_ = nullptr;
+    QDialogButtonBox *buttons_ = nullptr;
     QPushButton *save_ = nullptr;
     QPushButton *reset_ = nullptr;
     QPushButton *print_ = nullptr;

@@ -320,6 +320,9 @@ Findings unlabelled(const QWidget &root)
             !qobject_cast<const QLineEdit *>(control) &&
             !qobject_cast<const QAbstractSpinBox *>(control))
             continue;
+        const auto *field = qobject_cast<const QLineEdit *>(control);
+        if (field && !field->placeholderText().isEmpty())
+            continue;
         if (std::ranges::none_of(controls,
                                  [&](const QWidget *other) { return isLabelOf(other, control); }))
             found.push_back({nameOf(control), QStringLiteral("has no label in front of it")});

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "dialog/print_dialog.h"
+#include "tests/layout/desktop.h"
+
+#include <memory>
+
+namespace test {
+
+/// The whole print dialog for the sample ink printer, in the look's language where the printer
+/// speaks it, else in English; the window is shown. Null, with a failure, when it did not open.
+[[nodiscard]] std::unique_ptr<dialog::PrintDialog> openSample(const Look &look,
+                                                              const QString &document = {});
+
+/// Pop-ups whose items are new take their width by a timer of 20 ms.
+void settle();
+
+} // namespace test
