@@ -160,6 +160,7 @@ void PrintDialog::buildGeneral()
     connect(general_, &GeneralView::settingsChanged, this, &PrintDialog::setSettings);
     connect(general_, &GeneralView::chosen, this, &PrintDialog::choose);
     connect(general_, &GeneralView::problemChanged, window_, &PrintWindow::setPrintProblem);
+    connect(general_, &GeneralView::heightChanged, window_, &PrintWindow::fitContents);
     connect(&host_, &DialogHost::stateReplaced, general_,
             [this] { general_->reset(generalState()); });
 }

@@ -3,6 +3,7 @@
 #include "dialog/host/offer.h"
 #include "dialog/jobs/document.h"
 #include "dialog/printers/errand.h"
+#include "dialog/settings/setting_words.h"
 #include "dialog/window/print_window.h"
 #include "dialog/window/printer_picker.h"
 #include "dialog/window/printer_words.h"
@@ -212,6 +213,7 @@ void QueueDialog::show(std::unique_ptr<PpdDocument> printer)
     dialog_ = PrintDialog::withPrinter(printCase, std::move(printer));
     saved_ = dialog_->printer().marks();
     QStringList leftBehind = carryChoices();
+    carrySettings(leftBehind);
     connect(dialog_.get(), &PrintDialog::jobMade, this, [this](const JobRecord &job) {
         rememberLastUsedQueue(queue_);
         Q_EMIT jobMade(job);
@@ -231,6 +233,9 @@ void QueueDialog::rememberChoices()
 {
     if (!dialog_)
         return;
+    PrintSettingsMap settings = dialog_->host().settings().all();
+    settings.merge(settings_); // what has been left behind, for the way back
+    settings_ = std::move(settings);
     const PpdDocument &printer = dialog_->printer();
     for (const auto &[option, keyword] : dialog_->host().ledger().chosen()) {
         const Choice choice{option, keyword};
@@ -251,6 +256,20 @@ QStringList QueueDialog::carryChoices()
             leftBehind.append(tr("%1: %2").arg(words.optionText, words.choiceText));
     }
     return leftBehind;
+}
+
+/// Mirror may come from a choice that is left behind, and is left with it.
+void QueueDialog::carrySettings(QStringList &leftBehind)
+{
+    const bool carriesMirror = leftBehind.isEmpty();
+    for (const auto &[key, value] : std::exchange(settings_, {})) {
+        if (key != QLatin1String("mirror") || carriesMirror) {
+            dialog_->host().setSetting(key, value);
+            continue;
+        }
+        settings_[key] = value;
+        leftBehind.append(tr("%1: %2").arg(settingTitle(key), settingValue(key, value.toString())));
+    }
 }
 
 /// With a printer there its dialog leaves.

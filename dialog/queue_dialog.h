@@ -78,6 +78,7 @@ private:
     void show(std::unique_ptr<PpdDocument> printer);
     void rememberChoices();
     [[nodiscard]] QStringList carryChoices();
+    void carrySettings(QStringList &leftBehind);
     void leave();
     /// Once, until retract().
     void tell(const QString &key, const QString &words, std::vector<NoticeAction> actions);
@@ -99,7 +100,8 @@ private:
     QPointer<QObject> connecting_;
     std::map<QString, QString> told_;
     std::map<QString, ChosenWords> chosen_;
-    Choices saved_; ///< marked when the printer came
+    PrintSettingsMap settings_; ///< of the job, that wait for a printer
+    Choices saved_;             ///< marked when the printer came
 };
 
 } // namespace dialog

@@ -123,6 +123,7 @@ void GeneralView::connectControls()
     connect(pages_, &RangeField::rangesChanged, this,
             [this](const QString &ranges) { tell(pageRangesChanges(ranges)); });
     connect(pages_, &RangeField::problemChanged, this, &GeneralView::problemChanged);
+    connect(pages_, &RangeField::remarkChanged, this, &GeneralView::heightChanged);
     connect(pageSet_, &PopUpButton::activated, this,
             [this](int item) { tell(jobListChanges(JobList::PageSet, item)); });
     connect(orientation_, &PopUpButton::activated, this,

@@ -48,6 +48,8 @@ Q_SIGNALS:
     /// An option of the PPD.
     void chosen(const dialog::Choice &choice);
     void problemChanged(const QString &problem);
+    /// It needs more or less room than before.
+    void heightChanged();
 
 private:
     void makeControls();

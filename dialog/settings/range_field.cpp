@@ -110,8 +110,11 @@ void RangeField::judge()
     const bool isUsed = range_->isChecked();
     const PageRanges read = readPageRanges(text_->text(), pageCount_);
     const QString said = isUsed ? remarkOn(read, pageCount_) : QString();
-    remark_->setText(said);
-    remark_->setVisible(!said.isEmpty());
+    if (remark_->text() != said) {
+        remark_->setText(said);
+        remark_->setVisible(!said.isEmpty());
+        Q_EMIT remarkChanged();
+    }
     text_->setAccessibleDescription(said);
     const QString problem = isUsed && !read.isValid() ? said : QString();
     if (std::exchange(problem_, problem) != problem)

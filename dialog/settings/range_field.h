@@ -37,6 +37,8 @@ Q_SIGNALS:
     /// By a person; null for all pages.
     void rangesChanged(const QString &ranges);
     void problemChanged(const QString &problem);
+    /// The remark takes another room than before.
+    void remarkChanged();
 
 private:
     void pickRange();

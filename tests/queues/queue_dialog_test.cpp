@@ -59,6 +59,10 @@ public:
 
     [[nodiscard]] QueueDialog &dialog() const { return *dialog_; }
     [[nodiscard]] PrintWindow &window() const { return dialog_->window(); }
+    [[nodiscard]] QString setting(const char *key) const
+    {
+        return dialog_->printDialog()->host().settings().value(q(key)).toString();
+    }
     [[nodiscard]] PpdDocument &printer() const { return dialog_->printDialog()->printer(); }
     [[nodiscard]] QStringList notices() const { return window().notices().texts(); }
     [[nodiscard]] QString waiting() const
@@ -192,6 +196,7 @@ TEST_F(QueueDialogs, RebuildThePanelsAndCarryChoicesAlong)
     ASSERT_TRUE(run.until([&] { return run.dialog().picker().offered().size() == 4; }));
     run.choose("ibPaperType", "IronOn");
     run.choose("ibPrintQuality", "Best");
+    run.dialog().printDialog()->host().setSetting(q("copies"), q("3"));
     const QPointer<QWidget> formerView = run.window().view(0);
 
     run.choose("printerPopUp", "ink2");
@@ -200,17 +205,23 @@ TEST_F(QueueDialogs, RebuildThePanelsAndCarryChoicesAlong)
     EXPECT_SAME(run.printer().marked(q("MediaType")), q("IronOn"));
     EXPECT_SAME(run.popUp("ibPaperType")->currentData().toString(), q("IronOn"));
     EXPECT_TRUE(run.notices().isEmpty()) << run.notices().join(u'\n').toStdString();
+    EXPECT_SAME(run.setting("copies"), q("3"));
+    EXPECT_SAME(run.setting("mirror"), q("true")) << "iron-on goes along, and so does its rule";
 
     run.choose("printerPopUp", "raw");
     ASSERT_TRUE(run.untilReady("raw"));
     const QString told = run.notices().join(u'\n');
     EXPECT_TRUE(told.contains(q("does not have what you chose"))) << told.toStdString();
     EXPECT_TRUE(told.contains(q("Paper Type: Iron-On"))) << told.toStdString();
+    EXPECT_TRUE(told.contains(q("Flip horizontally"))) << told.toStdString();
+    EXPECT_SAME(run.setting("copies"), q("3"));
+    EXPECT_NULL(run.setting("mirror"));
 
     run.choose("printerPopUp", "ink");
     ASSERT_TRUE(run.untilReady("ink"));
     EXPECT_SAME(run.printer().marked(q("MediaType")), q("IronOn")) << "kept for the way back";
     EXPECT_SAME(run.printer().marked(q("PrintQuality")), q("Best"));
+    EXPECT_SAME(run.setting("mirror"), q("true"));
 }
 
 TEST_F(QueueDialogs, DoNotCarryWhatAUserHasSavedForOneQueue)

@@ -119,6 +119,15 @@ TEST_F(WindowSettings, HoldPrintBackWhileThePagesAreWrong)
     EXPECT_NULL(setting("page-ranges"));
 }
 
+TEST_F(WindowSettings, MakeRoomForWhatIsSaidOfThePages)
+{
+    const int before = dialog->window()->height();
+    type(q("3-1"));
+    EXPECT_GT(dialog->window()->height(), before);
+    click("pagesAll");
+    EXPECT_EQ(dialog->window()->height(), before);
+}
+
 TEST_F(WindowSettings, FollowAStateThatIsSetAtOnce)
 {
     const ChoiceState before = dialog->host().state();
