@@ -181,9 +181,9 @@ void GeneralView::reset(const GeneralState &state)
     show(state);
 }
 
-void GeneralView::setPageCount(std::optional<int> count)
+void GeneralView::setPageCount(int pages)
 {
-    pages_->setPageCount(count);
+    pages_->setPageCount(pages > 0 ? std::optional(pages) : std::nullopt);
 }
 
 QString GeneralView::problem() const

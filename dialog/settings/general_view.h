@@ -4,8 +4,6 @@
 
 #include <QWidget>
 
-#include <optional>
-
 class PopUpButton;
 class QCheckBox;
 class QLabel;
@@ -37,8 +35,8 @@ public:
     using QWidget::show;
     /// The same where a person gave up what was typed: after a reset, undo or preset.
     void reset(const GeneralState &state);
-    /// Of the document; null while it is not known.
-    void setPageCount(std::optional<int> count);
+    /// Of the document; 0 while it is not known.
+    void setPageCount(int pages);
     /// Why nothing can be printed with what stands here; null when it can.
     [[nodiscard]] QString problem() const;
 

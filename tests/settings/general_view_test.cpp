@@ -200,7 +200,7 @@ TEST_F(GeneralViewTest, ComparesPagesWithTheDocument)
     EXPECT_TRUE(error().contains(q("25")));
     view.setPageCount(12);
     EXPECT_TRUE(view.problem().contains(q("12")));
-    view.setPageCount(std::nullopt);
+    view.setPageCount(0);
     EXPECT_NULL(view.problem());
 }
 
