@@ -4,6 +4,8 @@
 #include "dialog/jobs/document.h"
 #include "dialog/panels/layout_panel.h"
 #include "dialog/panels/summary_panel.h"
+#include "dialog/preview/job_look.h"
+#include "dialog/preview/preview_pane.h"
 #include "dialog/printers/queue_job.h"
 #include "dialog/texts.h"
 #include "dialog/window/help_window.h"
@@ -128,6 +130,7 @@ void PrintDialog::showPanelsIn(PrintWindow &window)
     connectWindow();
     buildGeneral();
     buildPanels();
+    showPreview();
     window_->fitContents();
     window_->show();
     window_->activateWindow();
@@ -147,6 +150,9 @@ void PrintDialog::connectWindow()
             qOverload<const Notice &>(&NoticeArea::show));
     connect(&desk_, &JobDesk::dismissed, &window_->notices(), &NoticeArea::dismiss);
     connect(&host_, &DialogHost::panelResized, window_, &PrintWindow::fitContents);
+    connect(&window_->preview(), &PreviewPane::pageCountKnown, this, [this](int pages) {
+        general_->setPageCount(pages > 0 ? std::optional(pages) : std::nullopt);
+    });
     // What an earlier action was refused is told, and past, once a person tries something else.
     connect(&host_, &DialogHost::actionBegan, &window_->notices(),
             [this] { window_->notices().dismissGroup(kOfferGroup); });
@@ -179,11 +185,20 @@ SummaryPanel *PrintDialog::makeSummary()
                                              [this] { return desk_.jobSettings(); }});
 }
 
+void PrintDialog::showPreview()
+{
+    PreviewPane &preview = window_->preview();
+    preview.setLook(sheetLook(*printer_, host_.state()));
+    preview.setDocument(case_.document);
+}
+
 /// Everything that shows what is set follows here.
 void PrintDialog::takeChange()
 {
-    if (general_)
-        general_->show(generalState());
+    if (!window_)
+        return;
+    general_->show(generalState());
+    window_->preview().setLook(sheetLook(*printer_, host_.state()));
     panels_.refreshFront();
 }
 
@@ -266,8 +281,10 @@ void PrintDialog::setDocument(const QString &path)
 {
     case_.document = path;
     desk_.setDocument(path);
-    if (window_)
-        window_->setDocument(documentName(path));
+    if (!window_)
+        return;
+    window_->setDocument(documentName(path));
+    window_->preview().setDocument(path);
 }
 
 /// Modal windows of panels end first; the panels' calls return before anything is destroyed.

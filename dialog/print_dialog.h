@@ -86,6 +86,7 @@ private:
     void showOutcome(const OfferOutcome &outcome);
     void notify(const Notice &notice);
     void takeChange();
+    void showPreview();
     [[nodiscard]] GeneralState generalState() const;
     void setSettings(const SettingChanges &changes);
     void choose(const Choice &choice);

@@ -5,6 +5,7 @@
 #include "platform/values.h"
 
 #include <cups/ppd.h>
+#include <cups/pwg.h>
 
 #include <QFile>
 #include <QFileInfo>
@@ -24,6 +25,7 @@ namespace {
 using platform::decodedUtf8;
 
 // A longer value would make libcups refuse the line.
+constexpr double kUsualMargin = 18; // points; where no PPD tells it
 constexpr qsizetype kLongestNickName = 200;
 
 std::span<ppd_group_t> groupsOf(const ppd_file_t *ppd)
@@ -170,6 +172,26 @@ PpdError lastError(const QString &path)
     return {path, line, QString::fromUtf8(ppdErrorString(status))};
 }
 
+/// libcups answers a size of a person's own for the name "Custom" too, then without an area.
+std::optional<PaperSize> ownPaperSize(ppd_file_t *ppd, const char *name)
+{
+    const ppd_size_t *size = name && *name ? ppdPageSize(ppd, name) : nullptr;
+    if (!size || size->width <= 0 || size->length <= 0)
+        return std::nullopt;
+    return PaperSize{QSizeF(size->width, size->length),
+                     {size->left, size->length - size->top, size->width - size->right,
+                      size->bottom}};
+}
+
+const pwg_media_t *standardMedia(const char *name)
+{
+    for (const auto find : {pwgMediaForPWG, pwgMediaForPPD, pwgMediaForLegacy}) {
+        if (const pwg_media_t *media = find(name))
+            return media;
+    }
+    return nullptr;
+}
+
 QString nullIfEmpty(const char *choice)
 {
     return *choice ? decodedUtf8(choice) : QString();
@@ -258,6 +280,25 @@ QString PpdDocument::modelName() const
 QString PpdDocument::nickName() const
 {
     return textOr(ppd_->nickname, modelName().isNull() ? QFileInfo(path_).fileName() : modelName());
+}
+
+std::optional<PaperSize> PpdDocument::paperSize(const QString &name) const
+{
+    const QByteArray word = name.toUtf8();
+    if (const auto own = ownPaperSize(ppd_.get(), word.constData()))
+        return own;
+    const pwg_media_t *media = standardMedia(word.constData());
+    if (!media)
+        return std::nullopt;
+    if (const auto own = ownPaperSize(ppd_.get(), media->ppd))
+        return own;
+    return PaperSize{QSizeF(PWG_TO_POINTS(media->width), PWG_TO_POINTS(media->length)),
+                     {kUsualMargin, kUsualMargin, kUsualMargin, kUsualMargin}};
+}
+
+bool PpdDocument::isColorless() const
+{
+    return ppdFindAttr(ppd_.get(), "ColorDevice", nullptr) && !ppd_->color_device;
 }
 
 QStringList PpdDocument::attributeValues(const char *name) const

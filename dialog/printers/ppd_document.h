@@ -2,6 +2,7 @@
 
 #include "dialog/printers/constraint_table.h"
 #include "dialog/printers/option_groups.h"
+#include "dialog/printers/paper_size.h"
 
 #include <QStringList>
 
@@ -58,6 +59,12 @@ public:
     /// The same lines whole. Translations ("*de.Name ...") are those that libcups has kept for the
     /// language of the process.
     [[nodiscard]] std::vector<PpdAttribute> attributes(const char *name) const;
+
+    /// By the PPD's own name or a standard one ("A4", "iso_a4_210x297mm"), sizes of a person's own
+    /// included ("Custom.100x200mm"). Nothing for an unknown name.
+    [[nodiscard]] std::optional<PaperSize> paperSize(const QString &name) const;
+    /// Whether the PPD says that the printer has no colours.
+    [[nodiscard]] bool isColorless() const;
 
     /// Every option in its group; subgroups count to the group that they stand in. Values that a
     /// person can type are not among the choices.

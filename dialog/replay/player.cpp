@@ -1,5 +1,6 @@
 #include "dialog/replay/player.h"
 
+#include "dialog/preview/preview_pane.h"
 #include "dialog/replay/input.h"
 #include "dialog/replay/nearest_name.h"
 #include "dialog/replay/snapshot.h"
@@ -19,6 +20,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -429,9 +431,25 @@ QString Player::takePicture(const QString &name)
 {
     if (options_.pictures.isNull())
         return {};
+    awaitPreview();
     const QString path = options_.pictures + u'/' + name + QStringLiteral(".png");
     const bool saved = QDir().mkpath(options_.pictures) && frontWindow()->grab().save(path);
     return saved ? QString() : QStringLiteral("the picture cannot be written to ") + path;
+}
+
+/// A picture shows the sheet as it is by then, not as it was before.
+void Player::awaitPreview()
+{
+    constexpr int kPatienceMilliseconds = 5'000;
+    const PreviewPane &preview = dialog_->window()->preview();
+    if (preview.isCurrent())
+        return;
+    QEventLoop drawing;
+    connect(&preview, &PreviewPane::becameCurrent, &drawing, &QEventLoop::quit);
+    QTimer::singleShot(kPatienceMilliseconds, &drawing, &QEventLoop::quit);
+    turn_.stop();
+    drawing.exec();
+    turn_.start();
 }
 
 QString Player::expect(const QString &pointer, const QString &value)

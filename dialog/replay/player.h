@@ -72,6 +72,7 @@ private:
     [[nodiscard]] QString pressKey(const QString &name);
     [[nodiscard]] QString close(const QString &window);
     [[nodiscard]] QString takePicture(const QString &name);
+    void awaitPreview();
     [[nodiscard]] QString expect(const QString &pointer, const QString &value);
     [[nodiscard]] QString print(const QStringList &arguments);
     [[nodiscard]] QJsonObject quietSnapshot();

@@ -1,5 +1,6 @@
 #include "dialog/window/print_window.h"
 
+#include "dialog/preview/preview_pane.h"
 #include "dialog/window/content_scroll.h"
 #include "dialog/window/notice_area.h"
 #include "dialog/window/print_button.h"
@@ -64,8 +65,8 @@ PrintWindow::PrintWindow(QWidget *printer, const QString &document) : printer_(p
     setObjectName(QStringLiteral("printWindow"));
     setWindowTitle(tr("Print"));
     auto *columns = new QHBoxLayout;
-    previewPlace_ = new QVBoxLayout;
-    columns->addLayout(previewPlace_, 1);
+    preview_ = new PreviewPane;
+    columns->addWidget(preview_, 1);
     columns->addWidget(makeSettings(printer, document));
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(columns, 1);
@@ -151,12 +152,6 @@ QWidget *PrintWindow::makeButtons()
     connect(cancel, &QPushButton::clicked, this, &PrintWindow::leave);
     connect(print_, &QPushButton::clicked, this, &PrintWindow::printRequested);
     return buttons_;
-}
-
-void PrintWindow::setPreview(QWidget *preview)
-{
-    preview_ = preview;
-    previewPlace_->addWidget(preview);
 }
 
 void PrintWindow::setPresets(QWidget *presets)

@@ -18,6 +18,7 @@ namespace dialog {
 
 class ContentScroll;
 class NoticeArea;
+class PreviewPane;
 
 /// The dialog's window. At the left the preview; at the right printer, presets, document, the
 /// general section, the chooser of panels, the front panel's view and notices; below Help, Save,
@@ -31,9 +32,8 @@ public:
     /// With a control in the printer's place, which becomes the window's.
     PrintWindow(QWidget *printer, const QString &document);
 
-    // The places. What is put there becomes the window's. The preview stays; the others belong to
-    // one printer, and clearPanels() destroys them.
-    void setPreview(QWidget *preview);
+    // The places. What is put there becomes the window's and belongs to one printer: clearPanels()
+    // destroys it.
     void setPresets(QWidget *presets);
     void setGeneral(QWidget *general);
     /// A null view shows as an empty panel.
@@ -59,6 +59,8 @@ public:
     QAction *addSaving(const QString &title, const QString &objectName);
 
     [[nodiscard]] NoticeArea &notices() const { return *notices_; }
+    /// Stays when the printer changes.
+    [[nodiscard]] PreviewPane &preview() const { return *preview_; }
     [[nodiscard]] PopUpButton *panelPopUp() const { return popUp_; }
     [[nodiscard]] QWidget *view(int index) const;
 
@@ -89,13 +91,12 @@ private:
     [[nodiscard]] QSize neededSize() const;
 
     QWidget *printer_ = nullptr;
-    QWidget *preview_ = nullptr; ///< null where there is none
     QFormLayout *heading_ = nullptr;
     QLabel *document_ = nullptr;
     QPointer<QWidget> presets_;
     QPointer<QWidget> general_;
     QVBoxLayout *generalPlace_ = nullptr;
-    QVBoxLayout *previewPlace_ = nullptr;
+    PreviewPane *preview_ = nullptr;
     QWidget *chooser_ = nullptr;
     PopUpButton *popUp_ = nullptr;
     ContentScroll *panelPlace_ = nullptr;
