@@ -32,7 +32,7 @@ protected:
     {
         for (const char *title : {"One & Two", "Three"}) {
             auto *view = new QLabel(q(title));
-            view->setMinimumSize(460, 100);
+            view->setMinimumSize(460, 600); // higher than the preview
             window.addPanel(q(title), view);
         }
         window.bringForward(0);
@@ -65,10 +65,10 @@ TEST_F(Window, ShowsOnePanelAtATimeAndPrinterNamesLiterally)
 TEST_F(Window, GrowsAndShrinksWithThePanel)
 {
     const int before = window.height();
-    window.view(0)->setMinimumHeight(300);
+    window.view(0)->setMinimumHeight(650);
     window.fitContents();
-    EXPECT_EQ(window.height(), before + 200);
-    window.view(0)->setMinimumHeight(100);
+    EXPECT_EQ(window.height(), before + 50);
+    window.view(0)->setMinimumHeight(600);
     window.fitContents();
     EXPECT_EQ(window.height(), before);
 }
