@@ -723,6 +723,22 @@
         <source>Turn on the short edge</source>
         <translation>An der kurzen Kante wenden</translation>
     </message>
+    <message>
+        <source>Installed Options</source>
+        <translation>Eingebautes Zubehör</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Job Control</source>
+        <translation>Auftragssteuerung</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Weitere Optionen</translation>
+    </message>
 </context>
 <context>
     <name>SummaryTexts</name>
@@ -780,82 +796,6 @@
     <message>
         <source>all settings together are too long</source>
         <translation>alle Einstellungen zusammen sind zu lang</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ChoiceDelegate</name>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictDesk</name>
-    <message>
-        <source>What is installed in the printer is set by whoever administers it.</source>
-        <translation>Was im Drucker eingebaut ist, stellt ein, wer ihn verwaltet.</translation>
-    </message>
-    <message>
-        <source>No change of a few other settings makes it possible.</source>
-        <translation>Keine Änderung weniger anderer Einstellungen macht es möglich.</translation>
-    </message>
-    <message>
-        <source>Keep It This Way</source>
-        <translation>So beibehalten</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictSheet</name>
-    <message>
-        <source>Keep What I Had</source>
-        <translation>Bisherige Einstellung behalten</translation>
-    </message>
-    <message>
-        <source>Make This Change</source>
-        <translation>Diese Änderung vornehmen</translation>
-    </message>
-    <message>
-        <source>What should change?</source>
-        <translation>Was soll sich ändern?</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FeaturesPanel</name>
-    <message>
-        <source>Printer Features</source>
-        <translation>Druckerfunktionen</translation>
-    </message>
-    <message>
-        <source>No feature matches.</source>
-        <translation>Keine Funktion passt.</translation>
-    </message>
-    <message>
-        <source>Find a feature</source>
-        <translation>Funktion suchen</translation>
-    </message>
-    <message>
-        <source>Installed Options</source>
-        <translation>Eingebautes Zubehör</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Allgemein</translation>
-    </message>
-    <message>
-        <source>Job Control</source>
-        <translation>Auftragssteuerung</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>Weitere Optionen</translation>
-    </message>
-    <message>
-        <source>Whoever administers the printer sets these.</source>
-        <translation>Diese stellt ein, wer den Drucker verwaltet.</translation>
-    </message>
-    <message>
-        <source>Changed from the default “%1”</source>
-        <translation>Geändert, Standard ist „%1“</translation>
     </message>
 </context>
 <context>
@@ -1120,6 +1060,10 @@
 <context>
     <name>dialog::PrintDialog</name>
     <message>
+        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
+        <translation>Wählen Sie im Einblendmenü eine Gruppe von Einstellungen, ändern Sie, was nötig ist, und drücken Sie „Drucken“. Was der Drucker nicht verbinden kann, wird abgelehnt; ein Hinweis nennt die Einstellung, die im Weg steht.</translation>
+    </message>
+    <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. Where the printer cannot combine a choice with another one, the window says which one is in the way, and what could change instead.</source>
         <translation>Wählen Sie im Einblendmenü eine Gruppe von Einstellungen, ändern Sie, was nötig ist, und drücken Sie „Drucken“. Wo der Drucker eine Wahl nicht mit einer anderen verbinden kann, nennt das Fenster die, die im Weg steht, und was sich stattdessen ändern ließe.</translation>
     </message>
@@ -1134,10 +1078,6 @@
     <message>
         <source>Undo</source>
         <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation>Wählen Sie im Einblendmenü eine Gruppe von Einstellungen, ändern Sie, was nötig ist, und drücken Sie „Drucken“. Was der Drucker nicht verbinden kann, wird abgelehnt; ein Hinweis nennt die Einstellung, die im Weg steht.</translation>
     </message>
 </context>
 <context>
@@ -1323,6 +1263,82 @@
     <message>
         <source>Copy as Text</source>
         <translation>Als Text kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ChoiceDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictDesk</name>
+    <message>
+        <source>What is installed in the printer is set by whoever administers it.</source>
+        <translation>Was im Drucker eingebaut ist, stellt ein, wer ihn verwaltet.</translation>
+    </message>
+    <message>
+        <source>No change of a few other settings makes it possible.</source>
+        <translation>Keine Änderung weniger anderer Einstellungen macht es möglich.</translation>
+    </message>
+    <message>
+        <source>Keep It This Way</source>
+        <translation>So beibehalten</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictSheet</name>
+    <message>
+        <source>Keep What I Had</source>
+        <translation>Bisherige Einstellung behalten</translation>
+    </message>
+    <message>
+        <source>Make This Change</source>
+        <translation>Diese Änderung vornehmen</translation>
+    </message>
+    <message>
+        <source>What should change?</source>
+        <translation>Was soll sich ändern?</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FeaturesPanel</name>
+    <message>
+        <source>Printer Features</source>
+        <translation>Druckerfunktionen</translation>
+    </message>
+    <message>
+        <source>No feature matches.</source>
+        <translation>Keine Funktion passt.</translation>
+    </message>
+    <message>
+        <source>Find a feature</source>
+        <translation>Funktion suchen</translation>
+    </message>
+    <message>
+        <source>Installed Options</source>
+        <translation>Eingebautes Zubehör</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Job Control</source>
+        <translation>Auftragssteuerung</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Weitere Optionen</translation>
+    </message>
+    <message>
+        <source>Whoever administers the printer sets these.</source>
+        <translation>Diese stellt ein, wer den Drucker verwaltet.</translation>
+    </message>
+    <message>
+        <source>Changed from the default “%1”</source>
+        <translation>Geändert, Standard ist „%1“</translation>
     </message>
 </context>
 <context>

@@ -723,6 +723,22 @@
         <source>Turn on the short edge</source>
         <translation>Girar por el borde corto</translation>
     </message>
+    <message>
+        <source>Installed Options</source>
+        <translation>Opciones instaladas</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Job Control</source>
+        <translation>Control de trabajos</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Más opciones</translation>
+    </message>
 </context>
 <context>
     <name>SummaryTexts</name>
@@ -780,82 +796,6 @@
     <message>
         <source>all settings together are too long</source>
         <translation>todos los ajustes juntos son demasiado largos</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ChoiceDelegate</name>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictDesk</name>
-    <message>
-        <source>What is installed in the printer is set by whoever administers it.</source>
-        <translation>Lo que está instalado en la impresora lo ajusta quien la administra.</translation>
-    </message>
-    <message>
-        <source>No change of a few other settings makes it possible.</source>
-        <translation>Cambiar unos pocos ajustes no lo hace posible.</translation>
-    </message>
-    <message>
-        <source>Keep It This Way</source>
-        <translation>Dejarlo así</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictSheet</name>
-    <message>
-        <source>Keep What I Had</source>
-        <translation>Conservar lo que tenía</translation>
-    </message>
-    <message>
-        <source>Make This Change</source>
-        <translation>Hacer este cambio</translation>
-    </message>
-    <message>
-        <source>What should change?</source>
-        <translation>¿Qué debe cambiar?</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FeaturesPanel</name>
-    <message>
-        <source>Printer Features</source>
-        <translation>Funciones de la impresora</translation>
-    </message>
-    <message>
-        <source>No feature matches.</source>
-        <translation>Ninguna función coincide.</translation>
-    </message>
-    <message>
-        <source>Find a feature</source>
-        <translation>Buscar una función</translation>
-    </message>
-    <message>
-        <source>Installed Options</source>
-        <translation>Opciones instaladas</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>General</translation>
-    </message>
-    <message>
-        <source>Job Control</source>
-        <translation>Control de trabajos</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>Más opciones</translation>
-    </message>
-    <message>
-        <source>Whoever administers the printer sets these.</source>
-        <translation>Las ajusta quien administra la impresora.</translation>
-    </message>
-    <message>
-        <source>Changed from the default “%1”</source>
-        <translation>Cambiado; el valor predeterminado es «%1»</translation>
     </message>
 </context>
 <context>
@@ -1120,6 +1060,10 @@
 <context>
     <name>dialog::PrintDialog</name>
     <message>
+        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
+        <translation>Elija un grupo de ajustes en el menú desplegable, cambie lo que necesite y pulse Imprimir. Se rechaza la opción que la impresora no puede combinar con otra, y un aviso indica cuál lo impide.</translation>
+    </message>
+    <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. Where the printer cannot combine a choice with another one, the window says which one is in the way, and what could change instead.</source>
         <translation>Elija un grupo de ajustes en el menú desplegable, cambie lo que necesite y pulse Imprimir. Si la impresora no puede combinar una opción con otra, la ventana indica cuál lo impide y qué podría cambiar en su lugar.</translation>
     </message>
@@ -1134,10 +1078,6 @@
     <message>
         <source>Undo</source>
         <translation>Deshacer</translation>
-    </message>
-    <message>
-        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation>Elija un grupo de ajustes en el menú desplegable, cambie lo que necesite y pulse Imprimir. Se rechaza la opción que la impresora no puede combinar con otra, y un aviso indica cuál lo impide.</translation>
     </message>
 </context>
 <context>
@@ -1323,6 +1263,82 @@
     <message>
         <source>Copy as Text</source>
         <translation>Copiar como texto</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ChoiceDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictDesk</name>
+    <message>
+        <source>What is installed in the printer is set by whoever administers it.</source>
+        <translation>Lo que está instalado en la impresora lo ajusta quien la administra.</translation>
+    </message>
+    <message>
+        <source>No change of a few other settings makes it possible.</source>
+        <translation>Cambiar unos pocos ajustes no lo hace posible.</translation>
+    </message>
+    <message>
+        <source>Keep It This Way</source>
+        <translation>Dejarlo así</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictSheet</name>
+    <message>
+        <source>Keep What I Had</source>
+        <translation>Conservar lo que tenía</translation>
+    </message>
+    <message>
+        <source>Make This Change</source>
+        <translation>Hacer este cambio</translation>
+    </message>
+    <message>
+        <source>What should change?</source>
+        <translation>¿Qué debe cambiar?</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FeaturesPanel</name>
+    <message>
+        <source>Printer Features</source>
+        <translation>Funciones de la impresora</translation>
+    </message>
+    <message>
+        <source>No feature matches.</source>
+        <translation>Ninguna función coincide.</translation>
+    </message>
+    <message>
+        <source>Find a feature</source>
+        <translation>Buscar una función</translation>
+    </message>
+    <message>
+        <source>Installed Options</source>
+        <translation>Opciones instaladas</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Job Control</source>
+        <translation>Control de trabajos</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Más opciones</translation>
+    </message>
+    <message>
+        <source>Whoever administers the printer sets these.</source>
+        <translation>Las ajusta quien administra la impresora.</translation>
+    </message>
+    <message>
+        <source>Changed from the default “%1”</source>
+        <translation>Cambiado; el valor predeterminado es «%1»</translation>
     </message>
 </context>
 <context>

@@ -723,6 +723,22 @@
         <source>Turn on the short edge</source>
         <translation>Reliure sur le bord court</translation>
     </message>
+    <message>
+        <source>Installed Options</source>
+        <translation>Options installées</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Job Control</source>
+        <translation>Gestion des tâches</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Autres options</translation>
+    </message>
 </context>
 <context>
     <name>SummaryTexts</name>
@@ -780,82 +796,6 @@
     <message>
         <source>all settings together are too long</source>
         <translation>l’ensemble des réglages est trop long</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ChoiceDelegate</name>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictDesk</name>
-    <message>
-        <source>What is installed in the printer is set by whoever administers it.</source>
-        <translation>Ce qui est installé dans l’imprimante est réglé par la personne qui l’administre.</translation>
-    </message>
-    <message>
-        <source>No change of a few other settings makes it possible.</source>
-        <translation>Changer quelques autres réglages ne suffit pas à le rendre possible.</translation>
-    </message>
-    <message>
-        <source>Keep It This Way</source>
-        <translation>Laisser ainsi</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictSheet</name>
-    <message>
-        <source>Keep What I Had</source>
-        <translation>Garder ce que j’avais</translation>
-    </message>
-    <message>
-        <source>Make This Change</source>
-        <translation>Faire ce changement</translation>
-    </message>
-    <message>
-        <source>What should change?</source>
-        <translation>Que faut-il changer&#x202f;?</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FeaturesPanel</name>
-    <message>
-        <source>Printer Features</source>
-        <translation>Fonctions de l’imprimante</translation>
-    </message>
-    <message>
-        <source>No feature matches.</source>
-        <translation>Aucune fonction ne correspond.</translation>
-    </message>
-    <message>
-        <source>Find a feature</source>
-        <translation>Chercher une fonction</translation>
-    </message>
-    <message>
-        <source>Installed Options</source>
-        <translation>Options installées</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Général</translation>
-    </message>
-    <message>
-        <source>Job Control</source>
-        <translation>Gestion des tâches</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>Autres options</translation>
-    </message>
-    <message>
-        <source>Whoever administers the printer sets these.</source>
-        <translation>La personne qui administre l’imprimante les règle.</translation>
-    </message>
-    <message>
-        <source>Changed from the default “%1”</source>
-        <translation>Modifié, «&#xa0;%1&#xa0;» par défaut</translation>
     </message>
 </context>
 <context>
@@ -1120,6 +1060,10 @@
 <context>
     <name>dialog::PrintDialog</name>
     <message>
+        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
+        <translation>Choisissez un groupe de réglages dans le menu local, modifiez ce qu’il faut, et appuyez sur Imprimer. Un choix que l’imprimante ne peut pas combiner avec un autre est refusé, et un avis dit lequel fait obstacle.</translation>
+    </message>
+    <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. Where the printer cannot combine a choice with another one, the window says which one is in the way, and what could change instead.</source>
         <translation>Choisissez un groupe de réglages dans le menu local, modifiez ce qu’il faut, et appuyez sur Imprimer. Quand l’imprimante ne peut pas combiner un choix avec un autre, la fenêtre dit lequel fait obstacle et ce qui pourrait changer à la place.</translation>
     </message>
@@ -1134,10 +1078,6 @@
     <message>
         <source>Undo</source>
         <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation>Choisissez un groupe de réglages dans le menu local, modifiez ce qu’il faut, et appuyez sur Imprimer. Un choix que l’imprimante ne peut pas combiner avec un autre est refusé, et un avis dit lequel fait obstacle.</translation>
     </message>
 </context>
 <context>
@@ -1323,6 +1263,82 @@
     <message>
         <source>Copy as Text</source>
         <translation>Copier comme texte</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ChoiceDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictDesk</name>
+    <message>
+        <source>What is installed in the printer is set by whoever administers it.</source>
+        <translation>Ce qui est installé dans l’imprimante est réglé par la personne qui l’administre.</translation>
+    </message>
+    <message>
+        <source>No change of a few other settings makes it possible.</source>
+        <translation>Changer quelques autres réglages ne suffit pas à le rendre possible.</translation>
+    </message>
+    <message>
+        <source>Keep It This Way</source>
+        <translation>Laisser ainsi</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictSheet</name>
+    <message>
+        <source>Keep What I Had</source>
+        <translation>Garder ce que j’avais</translation>
+    </message>
+    <message>
+        <source>Make This Change</source>
+        <translation>Faire ce changement</translation>
+    </message>
+    <message>
+        <source>What should change?</source>
+        <translation>Que faut-il changer&#x202f;?</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FeaturesPanel</name>
+    <message>
+        <source>Printer Features</source>
+        <translation>Fonctions de l’imprimante</translation>
+    </message>
+    <message>
+        <source>No feature matches.</source>
+        <translation>Aucune fonction ne correspond.</translation>
+    </message>
+    <message>
+        <source>Find a feature</source>
+        <translation>Chercher une fonction</translation>
+    </message>
+    <message>
+        <source>Installed Options</source>
+        <translation>Options installées</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Job Control</source>
+        <translation>Gestion des tâches</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Autres options</translation>
+    </message>
+    <message>
+        <source>Whoever administers the printer sets these.</source>
+        <translation>La personne qui administre l’imprimante les règle.</translation>
+    </message>
+    <message>
+        <source>Changed from the default “%1”</source>
+        <translation>Modifié, «&#xa0;%1&#xa0;» par défaut</translation>
     </message>
 </context>
 <context>

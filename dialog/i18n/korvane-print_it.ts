@@ -723,6 +723,22 @@
         <source>Turn on the short edge</source>
         <translation>Gira sul lato corto</translation>
     </message>
+    <message>
+        <source>Installed Options</source>
+        <translation>Opzioni installate</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Generali</translation>
+    </message>
+    <message>
+        <source>Job Control</source>
+        <translation>Controllo dei lavori</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Altre opzioni</translation>
+    </message>
 </context>
 <context>
     <name>SummaryTexts</name>
@@ -780,82 +796,6 @@
     <message>
         <source>all settings together are too long</source>
         <translation>tutte le impostazioni insieme sono troppo lunghe</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ChoiceDelegate</name>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictDesk</name>
-    <message>
-        <source>What is installed in the printer is set by whoever administers it.</source>
-        <translation>Ciò che è installato nella stampante viene impostato da chi la amministra.</translation>
-    </message>
-    <message>
-        <source>No change of a few other settings makes it possible.</source>
-        <translation>Cambiare poche altre impostazioni non lo rende possibile.</translation>
-    </message>
-    <message>
-        <source>Keep It This Way</source>
-        <translation>Lascia così</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictSheet</name>
-    <message>
-        <source>Keep What I Had</source>
-        <translation>Mantieni com’era</translation>
-    </message>
-    <message>
-        <source>Make This Change</source>
-        <translation>Applica questa modifica</translation>
-    </message>
-    <message>
-        <source>What should change?</source>
-        <translation>Che cosa deve cambiare?</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FeaturesPanel</name>
-    <message>
-        <source>Printer Features</source>
-        <translation>Funzioni della stampante</translation>
-    </message>
-    <message>
-        <source>No feature matches.</source>
-        <translation>Nessuna funzione corrisponde.</translation>
-    </message>
-    <message>
-        <source>Find a feature</source>
-        <translation>Cerca una funzione</translation>
-    </message>
-    <message>
-        <source>Installed Options</source>
-        <translation>Opzioni installate</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Generali</translation>
-    </message>
-    <message>
-        <source>Job Control</source>
-        <translation>Controllo dei lavori</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>Altre opzioni</translation>
-    </message>
-    <message>
-        <source>Whoever administers the printer sets these.</source>
-        <translation>Le imposta chi amministra la stampante.</translation>
-    </message>
-    <message>
-        <source>Changed from the default “%1”</source>
-        <translation>Modificato rispetto al predefinito “%1”</translation>
     </message>
 </context>
 <context>
@@ -1120,6 +1060,10 @@
 <context>
     <name>dialog::PrintDialog</name>
     <message>
+        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
+        <translation>Scegli un gruppo di impostazioni dal menu a comparsa, modifica ciò che serve e premi Stampa. Una scelta che la stampante non può combinare con un’altra viene rifiutata, e un avviso dice quale lo impedisce.</translation>
+    </message>
+    <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. Where the printer cannot combine a choice with another one, the window says which one is in the way, and what could change instead.</source>
         <translation>Scegli un gruppo di impostazioni dal menu a comparsa, modifica ciò che serve e premi Stampa. Se la stampante non può combinare una scelta con un’altra, la finestra dice quale lo impedisce e che cosa potrebbe cambiare al suo posto.</translation>
     </message>
@@ -1134,10 +1078,6 @@
     <message>
         <source>Undo</source>
         <translation>Annulla</translation>
-    </message>
-    <message>
-        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation>Scegli un gruppo di impostazioni dal menu a comparsa, modifica ciò che serve e premi Stampa. Una scelta che la stampante non può combinare con un’altra viene rifiutata, e un avviso dice quale lo impedisce.</translation>
     </message>
 </context>
 <context>
@@ -1323,6 +1263,82 @@
     <message>
         <source>Copy as Text</source>
         <translation>Copia come testo</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ChoiceDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictDesk</name>
+    <message>
+        <source>What is installed in the printer is set by whoever administers it.</source>
+        <translation>Ciò che è installato nella stampante viene impostato da chi la amministra.</translation>
+    </message>
+    <message>
+        <source>No change of a few other settings makes it possible.</source>
+        <translation>Cambiare poche altre impostazioni non lo rende possibile.</translation>
+    </message>
+    <message>
+        <source>Keep It This Way</source>
+        <translation>Lascia così</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictSheet</name>
+    <message>
+        <source>Keep What I Had</source>
+        <translation>Mantieni com’era</translation>
+    </message>
+    <message>
+        <source>Make This Change</source>
+        <translation>Applica questa modifica</translation>
+    </message>
+    <message>
+        <source>What should change?</source>
+        <translation>Che cosa deve cambiare?</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FeaturesPanel</name>
+    <message>
+        <source>Printer Features</source>
+        <translation>Funzioni della stampante</translation>
+    </message>
+    <message>
+        <source>No feature matches.</source>
+        <translation>Nessuna funzione corrisponde.</translation>
+    </message>
+    <message>
+        <source>Find a feature</source>
+        <translation>Cerca una funzione</translation>
+    </message>
+    <message>
+        <source>Installed Options</source>
+        <translation>Opzioni installate</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Generali</translation>
+    </message>
+    <message>
+        <source>Job Control</source>
+        <translation>Controllo dei lavori</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Altre opzioni</translation>
+    </message>
+    <message>
+        <source>Whoever administers the printer sets these.</source>
+        <translation>Le imposta chi amministra la stampante.</translation>
+    </message>
+    <message>
+        <source>Changed from the default “%1”</source>
+        <translation>Modificato rispetto al predefinito “%1”</translation>
     </message>
 </context>
 <context>

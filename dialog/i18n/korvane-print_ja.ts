@@ -719,6 +719,22 @@
         <source>Turn on the short edge</source>
         <translation>短辺でとじる</translation>
     </message>
+    <message>
+        <source>Installed Options</source>
+        <translation>取り付けられているオプション</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Job Control</source>
+        <translation>ジョブ制御</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>その他のオプション</translation>
+    </message>
 </context>
 <context>
     <name>SummaryTexts</name>
@@ -776,82 +792,6 @@
     <message>
         <source>all settings together are too long</source>
         <translation>設定全体が長すぎます</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ChoiceDelegate</name>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictDesk</name>
-    <message>
-        <source>What is installed in the printer is set by whoever administers it.</source>
-        <translation>プリンタに取り付けられているものは、プリンタの管理者が設定します。</translation>
-    </message>
-    <message>
-        <source>No change of a few other settings makes it possible.</source>
-        <translation>ほかの設定を少し変更しても、この設定は使えません。</translation>
-    </message>
-    <message>
-        <source>Keep It This Way</source>
-        <translation>このままにする</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictSheet</name>
-    <message>
-        <source>Keep What I Had</source>
-        <translation>元の設定を保つ</translation>
-    </message>
-    <message>
-        <source>Make This Change</source>
-        <translation>この変更を行う</translation>
-    </message>
-    <message>
-        <source>What should change?</source>
-        <translation>どの設定を変更しますか?</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FeaturesPanel</name>
-    <message>
-        <source>Printer Features</source>
-        <translation>プリンタの機能</translation>
-    </message>
-    <message>
-        <source>No feature matches.</source>
-        <translation>該当する機能がありません。</translation>
-    </message>
-    <message>
-        <source>Find a feature</source>
-        <translation>機能を検索</translation>
-    </message>
-    <message>
-        <source>Installed Options</source>
-        <translation>取り付けられているオプション</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>一般</translation>
-    </message>
-    <message>
-        <source>Job Control</source>
-        <translation>ジョブ制御</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>その他のオプション</translation>
-    </message>
-    <message>
-        <source>Whoever administers the printer sets these.</source>
-        <translation>プリンタの管理者が設定します。</translation>
-    </message>
-    <message>
-        <source>Changed from the default “%1”</source>
-        <translation>変更あり (デフォルトは「%1」)</translation>
     </message>
 </context>
 <context>
@@ -1116,6 +1056,10 @@
 <context>
     <name>dialog::PrintDialog</name>
     <message>
+        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
+        <translation>ポップアップメニューで設定の種類を選び、必要な項目を変更して「プリント」を押してください。組み合わせられない選択は受け付けられず、妨げになっている設定が表示されます。</translation>
+    </message>
+    <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. Where the printer cannot combine a choice with another one, the window says which one is in the way, and what could change instead.</source>
         <translation>ポップアップメニューで設定の種類を選び、必要な項目を変更して「プリント」を押してください。組み合わせられない選択があるときは、妨げになっている設定と、代わりに変更できる設定が表示されます。</translation>
     </message>
@@ -1130,10 +1074,6 @@
     <message>
         <source>Undo</source>
         <translation>取り消す</translation>
-    </message>
-    <message>
-        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation>ポップアップメニューで設定の種類を選び、必要な項目を変更して「プリント」を押してください。組み合わせられない選択は受け付けられず、妨げになっている設定が表示されます。</translation>
     </message>
 </context>
 <context>
@@ -1318,6 +1258,82 @@
     <message>
         <source>Copy as Text</source>
         <translation>テキストとしてコピー</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ChoiceDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictDesk</name>
+    <message>
+        <source>What is installed in the printer is set by whoever administers it.</source>
+        <translation>プリンタに取り付けられているものは、プリンタの管理者が設定します。</translation>
+    </message>
+    <message>
+        <source>No change of a few other settings makes it possible.</source>
+        <translation>ほかの設定を少し変更しても、この設定は使えません。</translation>
+    </message>
+    <message>
+        <source>Keep It This Way</source>
+        <translation>このままにする</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictSheet</name>
+    <message>
+        <source>Keep What I Had</source>
+        <translation>元の設定を保つ</translation>
+    </message>
+    <message>
+        <source>Make This Change</source>
+        <translation>この変更を行う</translation>
+    </message>
+    <message>
+        <source>What should change?</source>
+        <translation>どの設定を変更しますか?</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FeaturesPanel</name>
+    <message>
+        <source>Printer Features</source>
+        <translation>プリンタの機能</translation>
+    </message>
+    <message>
+        <source>No feature matches.</source>
+        <translation>該当する機能がありません。</translation>
+    </message>
+    <message>
+        <source>Find a feature</source>
+        <translation>機能を検索</translation>
+    </message>
+    <message>
+        <source>Installed Options</source>
+        <translation>取り付けられているオプション</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Job Control</source>
+        <translation>ジョブ制御</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>その他のオプション</translation>
+    </message>
+    <message>
+        <source>Whoever administers the printer sets these.</source>
+        <translation>プリンタの管理者が設定します。</translation>
+    </message>
+    <message>
+        <source>Changed from the default “%1”</source>
+        <translation>変更あり (デフォルトは「%1」)</translation>
     </message>
 </context>
 <context>

@@ -723,6 +723,22 @@
         <source>Turn on the short edge</source>
         <translation>Virar na borda curta</translation>
     </message>
+    <message>
+        <source>Installed Options</source>
+        <translation>Opções instaladas</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>Job Control</source>
+        <translation>Controle de trabalhos</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Mais opções</translation>
+    </message>
 </context>
 <context>
     <name>SummaryTexts</name>
@@ -780,82 +796,6 @@
     <message>
         <source>all settings together are too long</source>
         <translation>todas as definições juntas são longas demais</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ChoiceDelegate</name>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictDesk</name>
-    <message>
-        <source>What is installed in the printer is set by whoever administers it.</source>
-        <translation>O que está instalado na impressora é definido por quem a administra.</translation>
-    </message>
-    <message>
-        <source>No change of a few other settings makes it possible.</source>
-        <translation>Alterar algumas outras definições não o torna possível.</translation>
-    </message>
-    <message>
-        <source>Keep It This Way</source>
-        <translation>Manter assim</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictSheet</name>
-    <message>
-        <source>Keep What I Had</source>
-        <translation>Manter como estava</translation>
-    </message>
-    <message>
-        <source>Make This Change</source>
-        <translation>Fazer esta alteração</translation>
-    </message>
-    <message>
-        <source>What should change?</source>
-        <translation>O que deve mudar?</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FeaturesPanel</name>
-    <message>
-        <source>Printer Features</source>
-        <translation>Recursos da impressora</translation>
-    </message>
-    <message>
-        <source>No feature matches.</source>
-        <translation>Nenhum recurso corresponde.</translation>
-    </message>
-    <message>
-        <source>Find a feature</source>
-        <translation>Procurar um recurso</translation>
-    </message>
-    <message>
-        <source>Installed Options</source>
-        <translation>Opções instaladas</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Geral</translation>
-    </message>
-    <message>
-        <source>Job Control</source>
-        <translation>Controle de trabalhos</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>Mais opções</translation>
-    </message>
-    <message>
-        <source>Whoever administers the printer sets these.</source>
-        <translation>São definidas por quem administra a impressora.</translation>
-    </message>
-    <message>
-        <source>Changed from the default “%1”</source>
-        <translation>Alterado em relação ao padrão “%1”</translation>
     </message>
 </context>
 <context>
@@ -1120,6 +1060,10 @@
 <context>
     <name>dialog::PrintDialog</name>
     <message>
+        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
+        <translation>Escolha um grupo de definições no menu suspenso, altere o que precisar e pressione Imprimir. Uma escolha que a impressora não pode combinar com outra é recusada, e um aviso diz qual delas impede.</translation>
+    </message>
+    <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. Where the printer cannot combine a choice with another one, the window says which one is in the way, and what could change instead.</source>
         <translation>Escolha um grupo de definições no menu suspenso, altere o que precisar e pressione Imprimir. Quando a impressora não pode combinar uma escolha com outra, a janela diz qual delas impede e o que poderia mudar em seu lugar.</translation>
     </message>
@@ -1134,10 +1078,6 @@
     <message>
         <source>Undo</source>
         <translation>Desfazer</translation>
-    </message>
-    <message>
-        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation>Escolha um grupo de definições no menu suspenso, altere o que precisar e pressione Imprimir. Uma escolha que a impressora não pode combinar com outra é recusada, e um aviso diz qual delas impede.</translation>
     </message>
 </context>
 <context>
@@ -1323,6 +1263,82 @@
     <message>
         <source>Copy as Text</source>
         <translation>Copiar como texto</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ChoiceDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictDesk</name>
+    <message>
+        <source>What is installed in the printer is set by whoever administers it.</source>
+        <translation>O que está instalado na impressora é definido por quem a administra.</translation>
+    </message>
+    <message>
+        <source>No change of a few other settings makes it possible.</source>
+        <translation>Alterar algumas outras definições não o torna possível.</translation>
+    </message>
+    <message>
+        <source>Keep It This Way</source>
+        <translation>Manter assim</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictSheet</name>
+    <message>
+        <source>Keep What I Had</source>
+        <translation>Manter como estava</translation>
+    </message>
+    <message>
+        <source>Make This Change</source>
+        <translation>Fazer esta alteração</translation>
+    </message>
+    <message>
+        <source>What should change?</source>
+        <translation>O que deve mudar?</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FeaturesPanel</name>
+    <message>
+        <source>Printer Features</source>
+        <translation>Recursos da impressora</translation>
+    </message>
+    <message>
+        <source>No feature matches.</source>
+        <translation>Nenhum recurso corresponde.</translation>
+    </message>
+    <message>
+        <source>Find a feature</source>
+        <translation>Procurar um recurso</translation>
+    </message>
+    <message>
+        <source>Installed Options</source>
+        <translation>Opções instaladas</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>Job Control</source>
+        <translation>Controle de trabalhos</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Mais opções</translation>
+    </message>
+    <message>
+        <source>Whoever administers the printer sets these.</source>
+        <translation>São definidas por quem administra a impressora.</translation>
+    </message>
+    <message>
+        <source>Changed from the default “%1”</source>
+        <translation>Alterado em relação ao padrão “%1”</translation>
     </message>
 </context>
 <context>

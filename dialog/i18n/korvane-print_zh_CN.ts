@@ -719,6 +719,22 @@
         <source>Turn on the short edge</source>
         <translation>沿短边翻转</translation>
     </message>
+    <message>
+        <source>Installed Options</source>
+        <translation>已安装的选件</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Job Control</source>
+        <translation>作业控制</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>更多选项</translation>
+    </message>
 </context>
 <context>
     <name>SummaryTexts</name>
@@ -776,82 +792,6 @@
     <message>
         <source>all settings together are too long</source>
         <translation>所有设置加起来过长</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ChoiceDelegate</name>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1（%2）</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictDesk</name>
-    <message>
-        <source>What is installed in the printer is set by whoever administers it.</source>
-        <translation>打印机中安装的部件由打印机管理员设置。</translation>
-    </message>
-    <message>
-        <source>No change of a few other settings makes it possible.</source>
-        <translation>更改少数其他设置也无法实现。</translation>
-    </message>
-    <message>
-        <source>Keep It This Way</source>
-        <translation>保持现状</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictSheet</name>
-    <message>
-        <source>Keep What I Had</source>
-        <translation>保留原来的设置</translation>
-    </message>
-    <message>
-        <source>Make This Change</source>
-        <translation>进行此更改</translation>
-    </message>
-    <message>
-        <source>What should change?</source>
-        <translation>要更改什么？</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FeaturesPanel</name>
-    <message>
-        <source>Printer Features</source>
-        <translation>打印机功能</translation>
-    </message>
-    <message>
-        <source>No feature matches.</source>
-        <translation>没有匹配的功能。</translation>
-    </message>
-    <message>
-        <source>Find a feature</source>
-        <translation>查找功能</translation>
-    </message>
-    <message>
-        <source>Installed Options</source>
-        <translation>已安装的选件</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>常规</translation>
-    </message>
-    <message>
-        <source>Job Control</source>
-        <translation>作业控制</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>更多选项</translation>
-    </message>
-    <message>
-        <source>Whoever administers the printer sets these.</source>
-        <translation>由打印机管理员设置。</translation>
-    </message>
-    <message>
-        <source>Changed from the default “%1”</source>
-        <translation>已更改，默认值为“%1”</translation>
     </message>
 </context>
 <context>
@@ -1116,6 +1056,10 @@
 <context>
     <name>dialog::PrintDialog</name>
     <message>
+        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
+        <translation>从弹出菜单中选择一组设置，更改所需内容，然后按“打印”。打印机无法与其他选择组合的选择会被拒绝，并有通知说明是哪一项造成冲突。</translation>
+    </message>
+    <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. Where the printer cannot combine a choice with another one, the window says which one is in the way, and what could change instead.</source>
         <translation>从弹出菜单中选择一组设置，更改所需内容，然后按“打印”。如果打印机无法将某个选择与另一个组合，窗口会说明是哪一项造成冲突，以及可以改动什么。</translation>
     </message>
@@ -1130,10 +1074,6 @@
     <message>
         <source>Undo</source>
         <translation>撤销</translation>
-    </message>
-    <message>
-        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation>从弹出菜单中选择一组设置，更改所需内容，然后按“打印”。打印机无法与其他选择组合的选择会被拒绝，并有通知说明是哪一项造成冲突。</translation>
     </message>
 </context>
 <context>
@@ -1318,6 +1258,82 @@
     <message>
         <source>Copy as Text</source>
         <translation>复制为文本</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ChoiceDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictDesk</name>
+    <message>
+        <source>What is installed in the printer is set by whoever administers it.</source>
+        <translation>打印机中安装的部件由打印机管理员设置。</translation>
+    </message>
+    <message>
+        <source>No change of a few other settings makes it possible.</source>
+        <translation>更改少数其他设置也无法实现。</translation>
+    </message>
+    <message>
+        <source>Keep It This Way</source>
+        <translation>保持现状</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictSheet</name>
+    <message>
+        <source>Keep What I Had</source>
+        <translation>保留原来的设置</translation>
+    </message>
+    <message>
+        <source>Make This Change</source>
+        <translation>进行此更改</translation>
+    </message>
+    <message>
+        <source>What should change?</source>
+        <translation>要更改什么？</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FeaturesPanel</name>
+    <message>
+        <source>Printer Features</source>
+        <translation>打印机功能</translation>
+    </message>
+    <message>
+        <source>No feature matches.</source>
+        <translation>没有匹配的功能。</translation>
+    </message>
+    <message>
+        <source>Find a feature</source>
+        <translation>查找功能</translation>
+    </message>
+    <message>
+        <source>Installed Options</source>
+        <translation>已安装的选件</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Job Control</source>
+        <translation>作业控制</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>更多选项</translation>
+    </message>
+    <message>
+        <source>Whoever administers the printer sets these.</source>
+        <translation>由打印机管理员设置。</translation>
+    </message>
+    <message>
+        <source>Changed from the default “%1”</source>
+        <translation>已更改，默认值为“%1”</translation>
     </message>
 </context>
 <context>

@@ -156,7 +156,7 @@ SummarySection panelSection(const PanelSummary &panel, std::vector<MarkedOption>
 
 SummarySection groupSection(const OptionGroup &group, const std::vector<MarkedOption> &left)
 {
-    SummarySection section{group.text, {}};
+    SummarySection section{groupTitle(group), {}};
     for (const MarkedOption &mark : left) {
         if (mark.group == &group)
             section.rows.push_back(mark.row);

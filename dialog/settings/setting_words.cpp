@@ -94,6 +94,19 @@ const JobListItem *listItem(const QString &key, const QString &value)
 
 } // namespace
 
+QString groupTitle(const OptionGroup &group)
+{
+    if (group.kind == GroupKind::Installable)
+        return SettingWords::tr("Installed Options");
+    if (group.text != group.name)
+        return group.text;
+    if (group.name == QLatin1String("General"))
+        return SettingWords::tr("General");
+    if (group.name == QLatin1String("JCL"))
+        return SettingWords::tr("Job Control");
+    return group.name == QLatin1String("Extra") ? SettingWords::tr("More Options") : group.text;
+}
+
 QString settingTitle(const QString &key)
 {
     if (key == columnsKey())

@@ -1,10 +1,15 @@
 #pragma once
 
+#include "dialog/printers/option_groups.h"
 #include "dialog/settings/job_settings.h"
 
 #include <QStringList>
 
 namespace dialog {
+
+/// What a person reads above the options of a group. Some groups are libcups' own, with English
+/// names.
+[[nodiscard]] QString groupTitle(const OptionGroup &group);
 
 // Print settings as a person reads them. What has no words stands as it will be sent.
 

@@ -150,6 +150,16 @@ TEST_F(SummaryOf, SaysThePagesPaperAboveTheMarkedSize)
     EXPECT_TRUE(lines().contains(q("- Paper Size = A5")));
 }
 
+TEST_F(SummaryOf, NamesTheGroupsOfTheLibraryInWordsOfItsOwn)
+{
+    groups[0].name = groups[0].text = q("JCL");
+    groups[1].kind = GroupKind::Installable;
+    EXPECT_TRUE(lines().contains(q("Job Control")));
+    EXPECT_TRUE(lines().contains(q("Installed Options")));
+    groups[0].text = q("Paper handling");
+    EXPECT_TRUE(lines().contains(q("Paper handling"))) << "the printer's own words stand";
+}
+
 TEST_F(SummaryOf, SaysMarksOutsideEveryGroup)
 {
     job.marks.push_back({q("Stray"), q("Word")});
