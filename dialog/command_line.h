@@ -22,6 +22,7 @@ struct CommandLine
     QString scenario;
     QString report; ///< null: none; "-": standard output
     QString record; ///< null: none
+    bool isDark = false; ///< of a replay: in the colours of a dark desktop
     replay::PlayerOptions player;
     QString helpText;
 };

@@ -12,6 +12,7 @@
 #include "dialog/usage.h"
 #include "dialog/window/print_window.h"
 #include "platform/console.h"
+#include "platform/controls/dark_palette.h"
 
 #include <QApplication>
 #include <QFile>
@@ -120,6 +121,8 @@ int runReplay(const CommandLine &line, std::unique_ptr<record::Recording> record
     replay::Parsed parsed = replay::readScenario(line.scenario);
     if (const auto *error = std::get_if<replay::ScenarioError>(&parsed))
         return refuse(error->message);
+    if (line.isDark)
+        QApplication::setPalette(darkPalette());
     replay::Player player(line.printCase, std::move(std::get<replay::Scenario>(parsed)),
                           line.player);
     QObject::connect(&player, &replay::Player::noticeShown, qApp, complain);

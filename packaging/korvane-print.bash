@@ -32,7 +32,7 @@ _korvane_print() {
     local -A options=(
         [dialog]="$dialog --print --set --dry-run --json --print-anyway --list --help --version"
         [--list]='--json --language --help'
-        [replay]="$dialog --report --pictures --stable --help --version"
+        [replay]="$dialog --report --pictures --dark --stable --help --version"
         [log]='--class --operation --kind --text --actions --action --on --off --level --file --help'
         [check-ppd]='--root --json --help'
     )

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QJsonArray>
 
 #include <gtest/gtest.h>
@@ -352,6 +353,17 @@ TEST_F(Program, TheSameScenarioGivesTheSameBytes)
     EXPECT_EQ(test::fileBytes(reportPath()), first);
     EXPECT_TRUE(first.contains("\"job-1\""));
     EXPECT_TRUE(first.contains("job-1/ticket.json"));
+}
+
+TEST_F(Program, PicturesOfADarkDesktopAreDark)
+{
+    const auto lightness = [&](const QStringList &options) {
+        const QString pictures = driver.path(q("pictures"));
+        reportOf("picture main\n", QStringList(options) << q("--pictures") << pictures);
+        return QImage(pictures + q("/main.png")).pixelColor(1, 1).lightness();
+    };
+    EXPECT_GT(lightness({}), 200);
+    EXPECT_LT(lightness({q("--dark")}), 80);
 }
 
 TEST_F(Program, PicturesShowTheWindowInFront)

@@ -1,5 +1,6 @@
 #include "tests/layout/desktop.h"
 
+#include "platform/controls/dark_palette.h"
 #include "platform/values.h"
 #include "tests/support/print_to.h"
 
@@ -12,21 +13,6 @@ namespace {
 constexpr const char *kLanguages[] = {"en", "de", "fr", "es", "it", "pt", "ja", "zh_CN"};
 constexpr double kDefaultFont = 1;
 constexpr double kLargeFont = 1.5;
-
-QPalette darkPalette()
-{
-    QPalette palette(QColor(53, 54, 58), QColor(42, 43, 46));
-    palette.setColor(QPalette::Base, QColor(30, 31, 33));
-    palette.setColor(QPalette::AlternateBase, QColor(48, 49, 53));
-    palette.setColor(QPalette::ToolTipBase, QColor(48, 49, 53));
-    palette.setColor(QPalette::Highlight, QColor(53, 132, 228));
-    for (const QPalette::ColorRole role :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
-        palette.setColor(role, QColor(238, 238, 236));
-        palette.setColor(QPalette::Disabled, role, QColor(140, 141, 144));
-    }
-    return palette;
-}
 
 } // namespace
 
