@@ -150,9 +150,6 @@ void PrintDialog::connectWindow()
             qOverload<const Notice &>(&NoticeArea::show));
     connect(&desk_, &JobDesk::dismissed, &window_->notices(), &NoticeArea::dismiss);
     connect(&host_, &DialogHost::panelResized, window_, &PrintWindow::fitContents);
-    connect(&window_->preview(), &PreviewPane::pageCountKnown, this, [this](int pages) {
-        general_->setPageCount(pages > 0 ? std::optional(pages) : std::nullopt);
-    });
     // What an earlier action was refused is told, and past, once a person tries something else.
     connect(&host_, &DialogHost::actionBegan, &window_->notices(),
             [this] { window_->notices().dismissGroup(kOfferGroup); });
@@ -167,6 +164,8 @@ void PrintDialog::buildGeneral()
     connect(general_, &GeneralView::chosen, this, &PrintDialog::choose);
     connect(general_, &GeneralView::problemChanged, window_, &PrintWindow::setPrintProblem);
     connect(general_, &GeneralView::heightChanged, window_, &PrintWindow::fitContents);
+    connect(&window_->preview(), &PreviewPane::pageCountKnown, general_,
+            &GeneralView::setPageCount);
     connect(&host_, &DialogHost::stateReplaced, general_,
             [this] { general_->reset(generalState()); });
 }
