@@ -180,8 +180,9 @@ void PrintDialog::buildPanels()
 
 SummaryPanel *PrintDialog::makeSummary()
 {
-    return new SummaryPanel(panels_, host_, {[this] { return printer_->groups(); },
-                                             [this] { return desk_.jobSettings(); }});
+    return new SummaryPanel(
+        panels_, host_,
+        {[this] { return printer_->groups(); }, [this] { return desk_.jobSettings(); }});
 }
 
 void PrintDialog::showPreview()
