@@ -91,6 +91,7 @@ PrintDialog::~PrintDialog()
     platform::setHelpOpener(formerHelpOpener_);
     host_.setFrontPanel(nullptr);
     host_.setPanels({});
+    saving_.reset();
     if (window_ && !ownWindow_) {
         delete helpWindow_;
         window_->clearPanels();
@@ -131,6 +132,8 @@ void PrintDialog::showPanelsIn(PrintWindow &window)
     buildGeneral();
     buildPanels();
     showPreview();
+    saving_ = std::make_unique<SaveDesk>(desk_, *window_);
+    connect(saving_.get(), &SaveDesk::noticed, this, &PrintDialog::notify);
     window_->fitContents();
     window_->show();
     window_->activateWindow();

@@ -5,6 +5,7 @@
 #include "dialog/panel_stack.h"
 #include "dialog/print_case.h"
 #include "dialog/printers/ppd_document.h"
+#include "dialog/save_desk.h"
 #include "dialog/settings/general_view.h"
 #include "dialog/window/notice_area.h"
 #include "platform/help_viewer.h"
@@ -56,6 +57,8 @@ public:
     [[nodiscard]] const PanelStack &panels() const { return panels_; }
     [[nodiscard]] JobDesk &desk() { return desk_; }
     /// Null before showPanels().
+    [[nodiscard]] SaveDesk *saving() const { return saving_.get(); }
+    /// Null before showPanels().
     [[nodiscard]] PrintWindow *window() const { return window_; }
 
     CommitResult commit() { return host_.commitPanels(); }
@@ -99,6 +102,7 @@ private:
     JobDesk desk_;
     PanelStack panels_;
     std::unique_ptr<PrintWindow> ownWindow_;
+    std::unique_ptr<SaveDesk> saving_;
     PrintWindow *window_ = nullptr;    ///< this or another's; null until the panels are shown
     GeneralView *general_ = nullptr;   ///< the window's
     std::vector<Notice> early_;        ///< shown as soon as there is a window

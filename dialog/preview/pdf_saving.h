@@ -1,0 +1,52 @@
+#pragma once
+
+#include "dialog/preview/sheet_look.h"
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+namespace dialog {
+
+struct PdfOrder
+{
+    QString document; ///< path of what is to be laid out
+    QString file;     ///< is replaced, whole or not at all
+    QString title;
+    SheetLook look;
+};
+
+/// Writes documents as PDF files as they would print: the sides and pages of the preview, as lines
+/// and text. The work is done on a thread of its own, one file at a time.
+class PdfSaving : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit PdfSaving(QObject *parent = nullptr);
+    /// Gives up what is under way; nothing of it is left.
+    ~PdfSaving() override;
+
+    [[nodiscard]] bool isSaving() const { return work_ != nullptr; }
+    /// Does nothing while another file is being written.
+    void start(const PdfOrder &order);
+    /// finished() follows when the work has been given up.
+    void cancel();
+
+Q_SIGNALS:
+    void progressed(int sides, int allSides);
+    /// Once per start(); the file is there.
+    void saved(const QString &file);
+    /// Once per start(), instead; there is no file, or the former one.
+    void failed(const QString &reason);
+    void cancelled();
+
+private:
+    struct Work;
+    void finish(const Work &work);
+
+    std::shared_ptr<Work> work_; ///< shared with the thread; null while there is none
+};
+
+} // namespace dialog

@@ -1,0 +1,122 @@
+#include "dialog/save_desk.h"
+
+#include "dialog/job_desk.h"
+#include "dialog/jobs/document.h"
+#include "dialog/jobs/ticket.h"
+#include "dialog/preview/preview_pane.h"
+#include "dialog/window/print_window.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QSaveFile>
+
+namespace dialog {
+namespace {
+
+const QString kSaveKey = QStringLiteral("save");
+
+QString jsonSuffix()
+{
+    return QStringLiteral("json");
+}
+
+QString pdfSuffix()
+{
+    return QStringLiteral("pdf");
+}
+
+/// The document's name with another suffix.
+QString proposedName(const QString &document, const QString &suffix)
+{
+    const QString name = QFileInfo(documentName(document)).completeBaseName();
+    return (name.isEmpty() ? QStringLiteral("job") : name) + u'.' + suffix;
+}
+
+} // namespace
+
+SaveDesk::SaveDesk(JobDesk &desk, PrintWindow &window, QObject *parent)
+    : QObject(parent), desk_(desk), window_(window)
+{
+    actions_ = {window_.addSaving(tr("Save as PDF…"), QStringLiteral("savePdf")),
+                window_.addSaving(tr("Save Job Ticket…"), QStringLiteral("saveTicket"))};
+    connect(actions_[0], &QAction::triggered, this,
+            [this] { ask(pdfSuffix(), &SaveDesk::savePdf); });
+    connect(actions_[1], &QAction::triggered, this,
+            [this] { ask(jsonSuffix(), &SaveDesk::saveTicket); });
+    connect(&pdf_, &PdfSaving::progressed, this, &SaveDesk::showProgress);
+    connect(&pdf_, &PdfSaving::saved, this, &SaveDesk::tellSaved);
+    connect(&pdf_, &PdfSaving::failed, this,
+            [this](const QString &reason) { fail(file_, reason); });
+    connect(&pdf_, &PdfSaving::cancelled, &window_.notices(),
+            [this] { window_.notices().dismiss(kSaveKey); });
+}
+
+SaveDesk::~SaveDesk()
+{
+    qDeleteAll(actions_);
+}
+
+void SaveDesk::ask(const QString &suffix, void (SaveDesk::*save)(const QString &file))
+{
+    auto *dialog = new QFileDialog(&window_);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(suffix);
+    dialog->selectFile(proposedName(desk_.document(), suffix));
+    connect(dialog, &QFileDialog::fileSelected, this,
+            [this, save](const QString &file) { (this->*save)(file); });
+    dialog->open();
+}
+
+void SaveDesk::savePdf(const QString &file)
+{
+    if (pdf_.isSaving())
+        return;
+    file_ = file;
+    if (desk_.document().isNull()) {
+        fail(file, tr("There is no document. Start the dialog with one."));
+        return;
+    }
+    pdf_.start({desk_.document(), file, documentName(desk_.document()), window_.preview().look()});
+}
+
+void SaveDesk::showProgress(int sides, int allSides)
+{
+    window_.notices().show(
+        {kSaveKey,
+         Severity::Information,
+         tr("Saving %1: side %2 of %3.")
+             .arg(QFileInfo(file_).fileName(), QString::number(sides), QString::number(allSides)),
+         {{tr("Cancel Saving"), QStringLiteral("cancelSavingButton"), [this] { pdf_.cancel(); }}}});
+}
+
+void SaveDesk::saveTicket(const QString &file)
+{
+    const QByteArray json = QJsonDocument(toJson(desk_.ticket())).toJson();
+    QSaveFile target(file);
+    const bool isWritten =
+        target.open(QIODevice::WriteOnly) && target.write(json) == json.size() && target.commit();
+    if (isWritten)
+        tellSaved(file);
+    else
+        fail(file, target.errorString());
+}
+
+void SaveDesk::tellSaved(const QString &file)
+{
+    Q_EMIT noticed({kSaveKey, Severity::Information, tr("Saved as %1.").arg(file), {}});
+    Q_EMIT saved(file);
+}
+
+void SaveDesk::fail(const QString &file, const QString &reason)
+{
+    const QString words = tr("%1 could not be saved: %2. Choose another place, or make room and "
+                             "allow writing there.")
+                              .arg(file, reason);
+    Q_EMIT noticed({kSaveKey, Severity::Critical, words, {}});
+    Q_EMIT failed(words);
+}
+
+} // namespace dialog

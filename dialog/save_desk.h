@@ -1,0 +1,47 @@
+#pragma once
+
+#include "dialog/preview/pdf_saving.h"
+#include "dialog/window/notice_area.h"
+
+#include <QObject>
+
+namespace dialog {
+
+class JobDesk;
+class PrintWindow;
+
+/// What stands in the menu of Save: the job as a PDF file, as it would come out, and the ticket of
+/// the job. Asks for the file, and tells in the window what becomes of it.
+class SaveDesk : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Borrows both. Adds its entries to the window's menu, which lose them with this.
+    SaveDesk(JobDesk &desk, PrintWindow &window, QObject *parent = nullptr);
+    ~SaveDesk() override;
+
+    // Without asking for a file.
+    void savePdf(const QString &file);
+    void saveTicket(const QString &file);
+
+Q_SIGNALS:
+    void noticed(const dialog::Notice &notice);
+    /// Of a file that is whole, or of what stands in its way.
+    void saved(const QString &file);
+    void failed(const QString &notice);
+
+private:
+    void ask(const QString &suffix, void (SaveDesk::*save)(const QString &file));
+    void showProgress(int sides, int allSides);
+    void tellSaved(const QString &file);
+    void fail(const QString &file, const QString &reason);
+
+    JobDesk &desk_;
+    PrintWindow &window_;
+    PdfSaving pdf_;
+    QString file_; ///< that the PDF goes to
+    QList<QAction *> actions_;
+};
+
+} // namespace dialog
