@@ -64,6 +64,7 @@ SummaryPanel::SummaryPanel(PanelStack &panels, DialogHost &host, SummarySources 
       find_(new QLineEdit(this)), rows_(new QTreeWidget(this)), nothing_(nothingLabel(this))
 {
     setObjectName(QStringLiteral("summaryView"));
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     rows_->setObjectName(QStringLiteral("summaryRows"));
     rows_->setAccessibleName(title());
     rows_->setColumnCount(2);

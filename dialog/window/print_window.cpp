@@ -123,7 +123,7 @@ QWidget *PrintWindow::makeChooser()
     waiting_->setAlignment(Qt::AlignCenter);
     waiting_->hide();
     panelLayout_->addWidget(waiting_);
-    panelLayout_->addStretch(1);
+    panelLayout_->addStretch(0); // what is left over, unless a panel has use for it
     panelPlace_ = new ContentScroll(panels, this);
     return chooser_;
 }
@@ -171,7 +171,8 @@ void PrintWindow::addPanel(const QString &title, QWidget *view)
 {
     if (view) {
         view->hide();
-        panelLayout_->insertWidget(panelLayout_->count() - 1, view);
+        const bool takesAll = view->sizePolicy().expandingDirections() & Qt::Vertical;
+        panelLayout_->insertWidget(panelLayout_->count() - 1, view, takesAll ? 1 : 0);
     }
     views_.emplace_back(view);
     popUp_->addItem(title);
