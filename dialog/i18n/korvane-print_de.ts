@@ -1216,6 +1216,37 @@
     </message>
 </context>
 <context>
+    <name>dialog::SaveDesk</name>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>Als PDF sichern …</translation>
+    </message>
+    <message>
+        <source>Save Job Ticket…</source>
+        <translation>Auftragsbeleg sichern …</translation>
+    </message>
+    <message>
+        <source>There is no document. Start the dialog with one.</source>
+        <translation>Es gibt kein Dokument. Starten Sie den Dialog mit einem.</translation>
+    </message>
+    <message>
+        <source>Saving %1: side %2 of %3.</source>
+        <translation>%1 wird gesichert: Seite %2 von %3.</translation>
+    </message>
+    <message>
+        <source>Cancel Saving</source>
+        <translation>Sichern abbrechen</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Als %1 gesichert.</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2. Choose another place, or make room and allow writing there.</source>
+        <translation>%1 konnte nicht gesichert werden: %2. Wählen Sie einen anderen Ort, oder schaffen Sie dort Platz und erlauben Sie das Schreiben.</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SignInPrompt</name>
     <message>
         <source>Name:</source>

@@ -1216,6 +1216,37 @@
     </message>
 </context>
 <context>
+    <name>dialog::SaveDesk</name>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>Guardar como PDF…</translation>
+    </message>
+    <message>
+        <source>Save Job Ticket…</source>
+        <translation>Guardar tique del trabajo…</translation>
+    </message>
+    <message>
+        <source>There is no document. Start the dialog with one.</source>
+        <translation>No hay ningún documento. Abra el diálogo con uno.</translation>
+    </message>
+    <message>
+        <source>Saving %1: side %2 of %3.</source>
+        <translation>Guardando %1: cara %2 de %3.</translation>
+    </message>
+    <message>
+        <source>Cancel Saving</source>
+        <translation>Cancelar el guardado</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Guardado como %1.</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2. Choose another place, or make room and allow writing there.</source>
+        <translation>No se ha podido guardar %1: %2. Elija otro lugar, o libere espacio y permita la escritura allí.</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SignInPrompt</name>
     <message>
         <source>Name:</source>

@@ -1216,6 +1216,37 @@
     </message>
 </context>
 <context>
+    <name>dialog::SaveDesk</name>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>Enregistrer en PDF…</translation>
+    </message>
+    <message>
+        <source>Save Job Ticket…</source>
+        <translation>Enregistrer le ticket de tâche…</translation>
+    </message>
+    <message>
+        <source>There is no document. Start the dialog with one.</source>
+        <translation>Il n’y a pas de document. Ouvrez le dialogue avec un document.</translation>
+    </message>
+    <message>
+        <source>Saving %1: side %2 of %3.</source>
+        <translation>Enregistrement de %1&#xa0;: face %2 sur %3.</translation>
+    </message>
+    <message>
+        <source>Cancel Saving</source>
+        <translation>Annuler l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Enregistré sous %1.</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2. Choose another place, or make room and allow writing there.</source>
+        <translation>%1 n’a pas pu être enregistré&#xa0;: %2. Choisissez un autre emplacement, ou libérez de l’espace et autorisez-y l’écriture.</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SignInPrompt</name>
     <message>
         <source>Name:</source>

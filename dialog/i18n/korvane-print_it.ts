@@ -1216,6 +1216,37 @@
     </message>
 </context>
 <context>
+    <name>dialog::SaveDesk</name>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>Salva come PDF…</translation>
+    </message>
+    <message>
+        <source>Save Job Ticket…</source>
+        <translation>Salva ticket del lavoro…</translation>
+    </message>
+    <message>
+        <source>There is no document. Start the dialog with one.</source>
+        <translation>Non c’è alcun documento. Apri la finestra con un documento.</translation>
+    </message>
+    <message>
+        <source>Saving %1: side %2 of %3.</source>
+        <translation>Salvataggio di %1: lato %2 di %3.</translation>
+    </message>
+    <message>
+        <source>Cancel Saving</source>
+        <translation>Annulla salvataggio</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Salvato come %1.</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2. Choose another place, or make room and allow writing there.</source>
+        <translation>Non è stato possibile salvare %1: %2. Scegli un altro posto, oppure libera spazio e consenti la scrittura.</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SignInPrompt</name>
     <message>
         <source>Name:</source>

@@ -1211,6 +1211,37 @@
     </message>
 </context>
 <context>
+    <name>dialog::SaveDesk</name>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>PDFとして保存…</translation>
+    </message>
+    <message>
+        <source>Save Job Ticket…</source>
+        <translation>ジョブチケットを保存…</translation>
+    </message>
+    <message>
+        <source>There is no document. Start the dialog with one.</source>
+        <translation>書類がありません。書類を指定してダイアログを開いてください。</translation>
+    </message>
+    <message>
+        <source>Saving %1: side %2 of %3.</source>
+        <translation>%1 を保存中: %2/%3 面</translation>
+    </message>
+    <message>
+        <source>Cancel Saving</source>
+        <translation>保存を中止</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>%1 として保存しました。</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2. Choose another place, or make room and allow writing there.</source>
+        <translation>%1 を保存できませんでした: %2。別の場所を選ぶか、空き容量と書き込み権限を確認してください。</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SignInPrompt</name>
     <message>
         <source>Name:</source>

@@ -1216,6 +1216,37 @@
     </message>
 </context>
 <context>
+    <name>dialog::SaveDesk</name>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>Salvar como PDF…</translation>
+    </message>
+    <message>
+        <source>Save Job Ticket…</source>
+        <translation>Salvar tíquete do trabalho…</translation>
+    </message>
+    <message>
+        <source>There is no document. Start the dialog with one.</source>
+        <translation>Não há documento. Abra a caixa de diálogo com um.</translation>
+    </message>
+    <message>
+        <source>Saving %1: side %2 of %3.</source>
+        <translation>Salvando %1: lado %2 de %3.</translation>
+    </message>
+    <message>
+        <source>Cancel Saving</source>
+        <translation>Cancelar salvamento</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Salvo como %1.</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2. Choose another place, or make room and allow writing there.</source>
+        <translation>Não foi possível salvar %1: %2. Escolha outro lugar, ou libere espaço e permita a gravação ali.</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SignInPrompt</name>
     <message>
         <source>Name:</source>

@@ -1211,6 +1211,37 @@
     </message>
 </context>
 <context>
+    <name>dialog::SaveDesk</name>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>另存为 PDF…</translation>
+    </message>
+    <message>
+        <source>Save Job Ticket…</source>
+        <translation>保存作业传票…</translation>
+    </message>
+    <message>
+        <source>There is no document. Start the dialog with one.</source>
+        <translation>没有文档。请带文档启动此对话框。</translation>
+    </message>
+    <message>
+        <source>Saving %1: side %2 of %3.</source>
+        <translation>正在保存 %1：第 %2 面，共 %3 面。</translation>
+    </message>
+    <message>
+        <source>Cancel Saving</source>
+        <translation>取消保存</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>已保存为 %1。</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2. Choose another place, or make room and allow writing there.</source>
+        <translation>无法保存 %1：%2。请选择其他位置，或在该处腾出空间并允许写入。</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SignInPrompt</name>
     <message>
         <source>Name:</source>
