@@ -9,12 +9,15 @@
 #include "dialog/window/printer_words.h"
 #include "platform/controls/modal_session.h"
 
+#include <QTimer>
+
 #include <algorithm>
 
 namespace dialog {
 namespace {
 
 constexpr std::chrono::seconds kPollInterval{5};
+constexpr std::chrono::milliseconds kEmptyWindowDelay{100};
 
 const QString kServerKey = QStringLiteral("server");
 const QString kPrinterKey = QStringLiteral("printer");
@@ -27,22 +30,26 @@ QueueSources serverSources(const ServerTimes &times)
     return {[times](const ListingHeard &heard) { return listQueues(times, heard); },
             [times](const QString &queue) { return openQueuePrinter(queue, times); },
             {times.list, kPollInterval},
-            times.printer};
+            times.printer,
+            kEmptyWindowDelay};
 }
 
 QueueDialog::QueueDialog(const PrintCase &printCase, QueueSources sources)
-    : case_(printCase), sources_(std::move(sources)), picker_(new PrinterPicker),
-      window_(std::make_unique<PrintWindow>(picker_, documentName(printCase.document))),
-      watch_(sources_.list, sources_.listTimes)
+    : case_(printCase), sources_(std::move(sources)), watch_(sources_.list, sources_.listTimes)
 {
+    watch_.ask(); // the server answers while the window is built
+    picker_ = new PrinterPicker;
+    window_ = std::make_unique<PrintWindow>(picker_, documentName(printCase.document));
     connect(picker_, &PrinterPicker::picked, this, &QueueDialog::switchTo, Qt::QueuedConnection);
     connect(&watch_, &QueueWatch::answered, this, &QueueDialog::takeListing);
     connect(window_.get(), &PrintWindow::left, this, &QueueDialog::leave);
     isRemembered_ = case_.queue.isNull();
     const QString wanted = isRemembered_ ? lastUsedQueue() : case_.queue;
     window_->setWaiting(tr("Connecting to %1…").arg(serverName()));
-    window_->show();
-    watch_.ask();
+    if (sources_.emptyWindowDelay.count() == 0)
+        window_->show();
+    else
+        QTimer::singleShot(sources_.emptyWindowDelay, window_.get(), [this] { window_->show(); });
     if (!wanted.isNull())
         connectTo(wanted);
 }

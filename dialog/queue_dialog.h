@@ -23,6 +23,9 @@ struct QueueSources
     std::function<QueuePrinter(const QString &queue)> printer;
     QueueWatch::Times listTimes;
     std::chrono::milliseconds printerDeadline;
+    /// A server that answers within this time has its printer shown at once, without an empty
+    /// window before it; 0: the window comes at once in any case.
+    std::chrono::milliseconds emptyWindowDelay{};
 };
 
 /// A choice of a person's, with the words of the printer for which it was made.
@@ -93,7 +96,7 @@ private:
     bool isRemembered_ = false; ///< not chosen by the person today, and may be gone
     int automaticTries_ = 0;    ///< left; of getting a printer that the server did not give
     std::vector<Queue> queues_;
-    PrinterPicker *picker_; ///< belongs to the window
+    PrinterPicker *picker_ = nullptr; ///< belongs to the window
     std::unique_ptr<PrintWindow> window_;
     std::unique_ptr<PrintDialog> dialog_;
     QueueWatch watch_;

@@ -20,6 +20,8 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
+
 using namespace dialog;
 using namespace test;
 
@@ -46,6 +48,7 @@ public:
     static QueueSources quick()
     {
         QueueSources sources = serverSources();
+        sources.emptyWindowDelay = {};
         sources.listTimes.interval = std::chrono::milliseconds(10);
         return sources;
     }
@@ -53,6 +56,7 @@ public:
     static QueueSources once()
     {
         QueueSources sources = serverSources();
+        sources.emptyWindowDelay = {};
         sources.listTimes.interval = std::chrono::hours(1);
         return sources;
     }
@@ -143,6 +147,31 @@ TEST_F(QueueDialogs, OpenAtOnceAndShowTheDefaultPrintersPanels)
     EXPECT_NULL(run.waiting());
     EXPECT_FALSE(run.dialog().printDialog()->panels().loaded().empty());
     EXPECT_EQ(run.dialog().picker().offered(), (QStringList{q("toner"), q("ink"), q("raw")}));
+}
+
+TEST_F(QueueDialogs, ShowNoEmptyWindowBeforeAPrinterThatComesSoon)
+{
+    addQueues();
+    QueueSources sources = Visit::once();
+    sources.emptyWindowDelay = std::chrono::hours(1);
+    const Visit run(sources, q("ink"));
+    EXPECT_FALSE(run.window().isVisible());
+    ASSERT_TRUE(run.untilReady("ink"));
+    EXPECT_TRUE(run.window().isVisible());
+}
+
+TEST_F(QueueDialogs, ShowAnEmptyWindowWhereAPrinterTakesItsTime)
+{
+    addQueues();
+    QueueSources sources = Visit::once();
+    sources.emptyWindowDelay = std::chrono::milliseconds(1);
+    sources.printer = [](const QString &) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        return QueuePrinter{QueuePrinter::Outcome::ServerFailed, {}, {ServerFault::Silent}, {}};
+    };
+    const Visit run(sources);
+    EXPECT_TRUE(run.until([&] { return run.window().isVisible(); }));
+    EXPECT_FALSE(run.dialog().printDialog());
 }
 
 TEST_F(QueueDialogs, OpenWithTheNamedQueueElseTheOneUsedLast)
@@ -319,6 +348,7 @@ TEST(QueueDialogFaults, AreToldWithARemedyAndTriedAgain)
     ServerTimes times;
     times.connect = times.silence = std::chrono::milliseconds(200);
     QueueSources sources = serverSources(times);
+    sources.emptyWindowDelay = {};
     sources.listTimes.interval = std::chrono::hours(1);
     const Visit run(sources, q("ink"));
     EXPECT_TEXT(run.waiting(), "Connecting to ink…");
