@@ -1,5 +1,6 @@
 #include "dialog/preview/sheet_view.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -30,10 +31,18 @@ QColor mixed(const QColor &one, const QColor &other, double share)
                             static_cast<float>(mix(one.blueF(), other.blueF())));
 }
 
+/// To a screen reader the sheet is a picture; the pane describes it.
+QAccessibleInterface *makeAccessible(const QString &, QObject *object)
+{
+    auto *view = qobject_cast<SheetView *>(object);
+    return view ? new QAccessibleWidget(view, QAccessible::Graphic) : nullptr;
+}
+
 } // namespace
 
 SheetView::SheetView(QWidget *parent) : QAbstractScrollArea(parent)
 {
+    QAccessible::installFactory(makeAccessible); // once only, however often it is called
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::StyledPanel);
     softening_.setSingleShot(true);

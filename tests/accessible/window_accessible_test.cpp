@@ -129,6 +129,31 @@ INSTANTIATE_TEST_SUITE_P(Shades, ReadableWindow,
                                     (look.param.shade == Shade::Dark ? "Dark" : "Light");
                          });
 
+class WindowWords : public AccessibleWindow
+{
+};
+
+TEST_P(WindowWords, DescribeThePreviewedSheet)
+{
+    const auto *preview =
+        QAccessible::queryAccessibleInterface(control<QWidget>("previewSheetView"));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return preview->text(QAccessible::Description).contains(q("Page 1")); }));
+}
+
+TEST_P(WindowWords, ReadTheSummaryRowByRow)
+{
+    panels().bringForward(panels().count() - 1);
+    settle();
+    QStringList read;
+    auto *rows = QAccessible::queryAccessibleInterface(control<QWidget>("summaryRows"));
+    for (int cell = 0; cell < rows->childCount(); ++cell)
+        read.append(rows->child(cell)->text(QAccessible::Name));
+    const auto paper = read.indexOf(q("Paper Size"));
+    ASSERT_GE(paper, 0) << read.join(u'|').toStdString();
+    EXPECT_TRUE(read.value(paper + 1).startsWith(q("US Letter"))) << read[paper + 1].toStdString();
+}
+
 class WindowKeys : public AccessibleWindow
 {
 };
@@ -158,6 +183,8 @@ TEST_P(WindowKeys, TellWhyPrintCannotBePressed)
                 "No such page.");
 }
 
+INSTANTIATE_TEST_SUITE_P(English, WindowWords, testing::Values(Look{"en"}),
+                         [](const auto &) { return std::string("en"); });
 INSTANTIATE_TEST_SUITE_P(English, WindowKeys, testing::Values(Look{"en"}),
                          [](const auto &) { return std::string("en"); });
 

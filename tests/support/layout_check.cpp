@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSpinBox>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
 
@@ -304,6 +305,18 @@ Findings ragged(const QWidget &root)
     return found;
 }
 
+namespace {
+
+bool saysWhatItIsFor(const QWidget *control)
+{
+    const auto *field = qobject_cast<const QLineEdit *>(control);
+    const auto *number = qobject_cast<const QSpinBox *>(control);
+    return (field && !field->placeholderText().isEmpty()) ||
+           (number && !number->prefix().isEmpty());
+}
+
+} // namespace
+
 Findings unlabelled(const QWidget &root)
 {
     const std::vector<QWidget *> controls = controlsOf(root);
@@ -320,8 +333,7 @@ Findings unlabelled(const QWidget &root)
             !qobject_cast<const QLineEdit *>(control) &&
             !qobject_cast<const QAbstractSpinBox *>(control))
             continue;
-        const auto *field = qobject_cast<const QLineEdit *>(control);
-        if (field && !field->placeholderText().isEmpty())
+        if (saysWhatItIsFor(control))
             continue;
         if (std::ranges::none_of(controls,
                                  [&](const QWidget *other) { return isLabelOf(other, control); }))

@@ -36,7 +36,8 @@ void PrintTo(const Finding &finding, std::ostream *out);
 /// Left edges that almost meet: such columns look ragged.
 [[nodiscard]] Findings ragged(const QWidget &root);
 /// Pop-ups and fields have a label in front of them, whose buddy they are, or a radio button that
-/// they are part of; or a placeholder says what a field is for.
+/// they are part of; or a placeholder or a number's prefix
+/// says what it is for.
 [[nodiscard]] Findings unlabelled(const QWidget &root);
 /// What can have the focus tells screen readers its name.
 [[nodiscard]] Findings nameless(const QWidget &root);
