@@ -51,6 +51,7 @@ void JobDesk::makeQueuePrinting()
         if (isNews && !progressDelay_.isActive())
             showProgress();
     });
+    connect(queuePrinting_, &QueuePrinting::signInWanted, this, &JobDesk::signInWanted);
     connect(queuePrinting_, &QueuePrinting::earlierSettled, this, [this](const QString &message) {
         Q_EMIT noticed({QStringLiteral("earlier:") + message, Severity::Warning, message, {}});
     });
@@ -65,6 +66,18 @@ void JobDesk::cancel()
 {
     if (isSending())
         queuePrinting_->cancel();
+}
+
+void JobDesk::offerSignIn()
+{
+    if (queuePrinting_)
+        queuePrinting_->setSignInBy(SignInBy::Person);
+}
+
+void JobDesk::signIn(std::unique_ptr<Credentials> credentials)
+{
+    if (isSending())
+        queuePrinting_->signIn(std::move(credentials));
 }
 
 void JobDesk::settleEarlier()

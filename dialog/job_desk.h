@@ -3,6 +3,7 @@
 #include "dialog/host/dialog_host.h"
 #include "dialog/jobs/ticket.h"
 #include "dialog/print_case.h"
+#include "dialog/printers/sign_in.h"
 #include "dialog/window/notice_area.h"
 
 #include <QObject>
@@ -54,6 +55,10 @@ public:
     [[nodiscard]] Aftermath aftermath() const { return aftermath_; }
     /// Takes the job on its way back; idle() follows.
     void cancel();
+    /// From now on somebody answers signInWanted(); until then a server that wants a password takes
+    /// no job.
+    void offerSignIn();
+    void signIn(std::unique_ptr<Credentials> credentials);
     /// Finds out what became of jobs of programs that are gone.
     void settleEarlier();
     /// What Print would make now. Commits the panels.
@@ -68,6 +73,8 @@ Q_SIGNALS:
     /// The notice with that key is past.
     void dismissed(const QString &key);
     void sendingChanged(bool isSending);
+    /// The job waits for signIn() or cancel(). The question is void when the job ends.
+    void signInWanted(const dialog::SignInQuestion &question);
     void jobMade(const dialog::JobRecord &job);
     void jobFailed(const QString &notice);
     /// The job that was on its way has ended, either way.

@@ -10,6 +10,7 @@
 #include "dialog/texts.h"
 #include "dialog/window/help_window.h"
 #include "dialog/window/print_window.h"
+#include "dialog/window/sign_in_prompt.h"
 #include "platform/controls/modal_session.h"
 #include "platform/values.h"
 
@@ -186,6 +187,26 @@ SummaryPanel *PrintDialog::makeSummary()
     return new SummaryPanel(
         panels_, host_,
         {[this] { return printer_->groups(); }, [this] { return desk_.jobSettings(); }});
+}
+
+void PrintDialog::offerSignIn()
+{
+    desk_.offerSignIn();
+    connect(&desk_, &JobDesk::signInWanted, this, &PrintDialog::askToSignIn);
+}
+
+/// The question goes with its answer, or with the job that gave rise to it.
+void PrintDialog::askToSignIn(const SignInQuestion &question)
+{
+    auto *prompt = new SignInPrompt(question, case_.queue);
+    window_->showQuestion(prompt);
+    prompt->takeFocus();
+    connect(&desk_, &JobDesk::idle, prompt, &QObject::deleteLater);
+    connect(prompt, &SignInPrompt::cancelPressed, &desk_, &JobDesk::cancel);
+    connect(prompt, &SignInPrompt::signInPressed, this, [this, prompt] {
+        prompt->deleteLater();
+        desk_.signIn(prompt->takeCredentials());
+    });
 }
 
 void PrintDialog::showPreview()

@@ -61,6 +61,8 @@ public:
     /// Null before showPanels().
     [[nodiscard]] PrintWindow *window() const { return window_; }
 
+    /// A person sits in front of the window, who can be asked for a name and password.
+    void offerSignIn();
     CommitResult commit() { return host_.commitPanels(); }
     void setDocument(const QString &path);
     /// Commits and prints, or shows a notice that says why not.
@@ -90,6 +92,7 @@ private:
     void notify(const Notice &notice);
     void takeChange();
     void showPreview();
+    void askToSignIn(const SignInQuestion &question);
     [[nodiscard]] GeneralState generalState() const;
     void setSettings(const SettingChanges &changes);
     void choose(const Choice &choice);

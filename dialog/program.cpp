@@ -91,6 +91,7 @@ int runDialog(const CommandLine &line, std::unique_ptr<record::Recording> record
     std::unique_ptr<record::Recorder> recorder;
     if (recording)
         recorder = std::make_unique<record::Recorder>(std::move(recording), *dialog);
+    dialog->offerSignIn();
     dialog->showPanels();
     return QCoreApplication::exec();
 }

@@ -227,6 +227,7 @@ void QueueDialog::show(std::unique_ptr<PpdDocument> printer)
     });
     connect(dialog_.get(), &PrintDialog::left, this, &QueueDialog::left);
     window_->setWaiting({});
+    dialog_->offerSignIn();
     dialog_->showPanelsIn(*window_);
     if (!leftBehind.isEmpty()) {
         leftBehind.prepend(tr("This printer does not have what you chose for the one before:"));

@@ -88,6 +88,8 @@ QWidget *PrintWindow::makeSettings(QWidget *printer, const QString &document)
     column->addWidget(makeChooser());
     column->addWidget(panelPlace_, 1);
     column->addWidget(notices_);
+    questionPlace_ = new QVBoxLayout;
+    column->addLayout(questionPlace_);
     return settings;
 }
 
@@ -276,6 +278,15 @@ void PrintWindow::setPrintProblem(const QString &reason)
     print_->setToolTip(reason);
     print_->setAccessibleDescription(reason);
     allowPrinting();
+}
+
+void PrintWindow::showQuestion(QWidget *question)
+{
+    delete question_;
+    question_ = question;
+    questionPlace_->addWidget(question);
+    connect(question, &QObject::destroyed, this, &PrintWindow::fitContents, Qt::QueuedConnection);
+    fitContents();
 }
 
 QAction *PrintWindow::addSaving(const QString &title, const QString &objectName)

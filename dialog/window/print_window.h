@@ -55,6 +55,8 @@ public:
     void setSending(bool isSending);
     /// Print cannot be pressed for this reason; null: it can.
     void setPrintProblem(const QString &reason);
+    /// A question to a person stands above the buttons until it is deleted; one at a time.
+    void showQuestion(QWidget *question);
     /// An entry of the menu of Save, which shows as soon as it has one.
     QAction *addSaving(const QString &title, const QString &objectName);
 
@@ -103,6 +105,8 @@ private:
     QVBoxLayout *panelLayout_ = nullptr;
     QLabel *waiting_ = nullptr;
     NoticeArea *notices_ = nullptr;
+    QVBoxLayout *questionPlace_ = nullptr;
+    QPointer<QWidget> question_;
     QDialogButtonBox *buttons_ = nullptr;
     QPushButton *save_ = nullptr;
     QPushButton *reset_ = nullptr;

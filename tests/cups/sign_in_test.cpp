@@ -1,9 +1,16 @@
 #include "dialog/jobs/job_messages.h"
+#include "dialog/print_dialog.h"
+#include "dialog/window/print_window.h"
 #include "tests/cups/queue_session.h"
 #include "tests/support/print_to.h"
 
 #include <QDirIterator>
 #include <QEventLoop>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -68,6 +75,36 @@ TEST_F(SignIns, AreAskedForOnceAndTheJobPrintsOnce)
     ASSERT_TRUE(session.server().waitForJob(pressed.result.jobId));
     EXPECT_EQ(session.jobs().count(q("private")), 1U);
     EXPECT_EQ(session.journal(), QStringList());
+}
+
+TEST_F(SignIns, AreAskedForInTheWindowThatPrints)
+{
+    const QTemporaryDir jobs;
+    PrintCase printCase;
+    printCase.queue = QueueSession::queue();
+    printCase.document = session.document();
+    printCase.jobFolder = jobs.path();
+    const auto dialog =
+        PrintDialog::withPrinter(printCase, PpdDocument::withoutOptions(QueueSession::queue()));
+    dialog->offerSignIn();
+    dialog->showPanels();
+    QSignalSpy made(dialog.get(), &PrintDialog::jobMade);
+    QSignalSpy asked(&dialog->desk(), &JobDesk::signInWanted);
+    QTest::mouseClick(dialog->window()->findChild<QPushButton *>(q("printButton")), Qt::LeftButton);
+    ASSERT_TRUE(asked.wait(kPatient));
+    auto *password = dialog->window()->findChild<QLineEdit *>(q("signInPassword"));
+    ASSERT_TRUE(password && password->isVisible());
+    auto *user = dialog->window()->findChild<QLineEdit *>(q("signInUser"));
+    user->selectAll();
+    QTest::keyClicks(user, q("alice"));
+    QTest::keyClicks(password, q(kPassword));
+    QTest::keyClick(password, Qt::Key_Return);
+    ASSERT_TRUE(made.wait(kPatient));
+    EXPECT_EQ(made.count(), 1);
+    EXPECT_EQ(asked.count(), 1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(dialog->window()->findChild<QLineEdit *>(q("signInPassword")))
+        << "the question has gone with its answer";
 }
 
 TEST_F(SignIns, AreAskedForAnewWithTheNextJob)
