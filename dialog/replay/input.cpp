@@ -1,6 +1,7 @@
 #include "dialog/replay/input.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -8,6 +9,7 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPointer>
@@ -155,6 +157,19 @@ QString selectAll(QLineEdit *field)
 QString click(QWidget *control)
 {
     return clickAt(control, clickPoint(control));
+}
+
+QString clickEntry(QAction *entry)
+{
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    if (!menu || !menu->actions().contains(entry))
+        return QStringLiteral("its menu is not open");
+    if (!entry->isEnabled()) {
+        menu->close();
+        return QStringLiteral("it is disabled");
+    }
+    sendClick(menu->windowHandle(), menu->actionGeometry(entry).center());
+    return {};
 }
 
 QString step(QSpinBox *field, Turn turn)

@@ -4,6 +4,7 @@
 #include <QPoint>
 #include <QString>
 
+class QAction;
 class QComboBox;
 class QLineEdit;
 class QSpinBox;
@@ -18,6 +19,8 @@ enum class Turn { Up, Down };
 /// Each answers null, or why a person could not do that. A call returns after what it set off,
 /// modal windows included.
 [[nodiscard]] QString click(QWidget *control);
+/// Of the menu that is open.
+[[nodiscard]] QString clickEntry(QAction *entry);
 /// Opens the pop-up with the mouse and picks the item by keys.
 [[nodiscard]] QString choose(QComboBox *popUp, int index);
 /// Clicks into the field, selects all, and types; an empty text presses Delete.

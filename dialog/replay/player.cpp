@@ -15,6 +15,7 @@
 #include "platform/strings.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -23,6 +24,7 @@
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QMenu>
 #include <QRadioButton>
 #include <QScopedValueRollback>
 #include <QSpinBox>
@@ -56,6 +58,17 @@ input::Turn turnOf(const QString &word)
 bool isInside(const QWidget *widget, const QWidget *ancestor)
 {
     return ancestor && (widget == ancestor || ancestor->isAncestorOf(widget));
+}
+
+/// Of the menu that is open; null when none is, or it has no such entry.
+QAction *openMenuEntry(const QString &name)
+{
+    const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    const QList<QAction *> entries = menu ? menu->actions() : QList<QAction *>();
+    const auto found = std::find_if(entries.begin(), entries.end(), [&](const QAction *entry) {
+        return entry->objectName() == name;
+    });
+    return found == entries.end() ? nullptr : *found;
 }
 
 QStringList namesOf(const std::vector<QWidget *> &controls)
@@ -417,6 +430,8 @@ QString Player::close(const QString &window)
 QString Player::runOnControl(const Step &step)
 {
     const QString &name = step.arguments.first();
+    if (QAction *entry = openMenuEntry(name); entry && step.kind == StepKind::Click)
+        return input::clickEntry(entry);
     const std::vector<QWidget *> reachable = reachableControls();
     const auto found = std::find_if(reachable.begin(), reachable.end(), [&](const QWidget *widget) {
         return widget->objectName() == name;

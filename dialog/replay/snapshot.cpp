@@ -50,13 +50,13 @@ QJsonArray rowOf(const QTreeWidgetItem *item)
     return row;
 }
 
-/// A section is a row of its own, of one text.
+/// A section with rows is a row of its own, of one text.
 QJsonArray rowsOf(const QTreeWidget *list)
 {
     QJsonArray rows;
     for (int i = 0; i < list->topLevelItemCount(); ++i) {
         const QTreeWidgetItem *section = list->topLevelItem(i);
-        rows.append(QJsonArray{section->text(0)});
+        rows.append(section->childCount() > 0 ? QJsonArray{section->text(0)} : rowOf(section));
         for (int child = 0; child < section->childCount(); ++child)
             rows.append(rowOf(section->child(child)));
     }
