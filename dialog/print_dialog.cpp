@@ -79,7 +79,8 @@ PrintDialog::Opened PrintDialog::open(const PrintCase &printCase)
 
 PrintDialog::PrintDialog(const PrintCase &printCase, std::unique_ptr<PpdDocument> printer)
     : case_(printCase), printer_(std::move(printer)), host_(*printer_),
-      desk_(case_, *printer_, host_), panels_(host_)
+      desk_(case_, *printer_, host_), panels_(host_),
+      presets_(*printer_, host_, [](const QString &, const auto &change) { change(); })
 {
     host_.followPageSize();
     formerHelpOpener_ = platform::setHelpOpener(
@@ -130,6 +131,7 @@ void PrintDialog::showPanelsIn(PrintWindow &window)
                  case_.root.isNull() ? TrustedOwner::RootOnly : TrustedOwner::RootAndUser);
     window_ = &window;
     connectWindow();
+    buildPresets();
     buildGeneral();
     buildPanels();
     showPreview();
@@ -157,6 +159,15 @@ void PrintDialog::connectWindow()
     // What an earlier action was refused is told, and past, once a person tries something else.
     connect(&host_, &DialogHost::actionBegan, &window_->notices(),
             [this] { window_->notices().dismissGroup(kOfferGroup); });
+}
+
+void PrintDialog::buildPresets()
+{
+    connect(&presets_, &PresetDesk::noticed, this, &PrintDialog::notify);
+    connect(&presets_, &PresetDesk::dismissed, &window_->notices(), &NoticeArea::dismiss);
+    PresetBar *bar = presets_.makeBar();
+    connect(bar, &PresetBar::heightChanged, window_, &PrintWindow::fitContents);
+    window_->setPresets(bar);
 }
 
 void PrintDialog::buildGeneral()

@@ -3,6 +3,7 @@
 #include "dialog/host/dialog_host.h"
 #include "dialog/job_desk.h"
 #include "dialog/panel_stack.h"
+#include "dialog/presets/preset_desk.h"
 #include "dialog/print_case.h"
 #include "dialog/printers/ppd_document.h"
 #include "dialog/save_desk.h"
@@ -82,6 +83,7 @@ private:
 
     void connectParts();
     void connectWindow();
+    void buildPresets();
     void buildGeneral();
     void buildPanels();
     [[nodiscard]] SummaryPanel *makeSummary();
@@ -104,6 +106,7 @@ private:
     DialogHost host_;
     JobDesk desk_;
     PanelStack panels_;
+    PresetDesk presets_;
     std::unique_ptr<PrintWindow> ownWindow_;
     std::unique_ptr<SaveDesk> saving_;
     PrintWindow *window_ = nullptr;    ///< this or another's; null until the panels are shown
