@@ -13,6 +13,27 @@ done
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
+# play_window SCENARIO LANGUAGE SUFFIX [OPTION...]: of the whole window; pictures get the suffix.
+play_window() {
+    local ppd=driver/ppd/Korvane-S300-$2.ppd picture
+    [[ -e $ppd ]] || ppd=driver/ppd/Korvane-S300.ppd
+    tools/replay.sh "$build" "$1" driver/demo/sample.pdf --ppd "$ppd" --language "$2" \
+        --pictures "$scratch/window" "${@:4}"
+    for picture in "$scratch"/window/*.png; do
+        mv "$picture" "docs/pictures/$(basename "$picture" .png)-$3.png"
+    done
+}
+
+for scenario in docs/scenarios/window/*.scenario; do
+    for language in en de ja; do
+        play_window "$scenario" "$language" "$language"
+        play_window "$scenario" "$language" "$language-dark" --dark
+    done
+done
+for task in tests/scenarios/cases/task-*/case.scenario; do
+    tools/replay.sh "$build" "$task" --pictures docs/pictures --job-folder "$scratch/jobs"
+done
+
 # Windows that no scenario reaches, because no test of the panels finds their conflicts, or because they
 # need a cartridge.
 KORVANE_PICTURES=$scratch QT_QPA_PLATFORM=offscreen "$build/bin/layout_test" \

@@ -51,7 +51,7 @@ QToolButton *dismissButton(QWidget *parent)
     auto *button = new QToolButton(parent);
     button->setObjectName(QStringLiteral("dismissNotice"));
     button->setAutoRaise(true);
-    button->setIcon(parent->style()->standardIcon(QStyle::SP_DialogCloseButton));
+    button->setText(QStringLiteral("\u00d7")); // unlike the style's icon, in the palette's colour
     button->setToolTip(NoticeArea::tr("Dismiss this notice"));
     button->setAccessibleName(NoticeArea::tr("Dismiss this notice"));
     button->setFocusPolicy(Qt::TabFocus);

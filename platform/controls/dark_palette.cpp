@@ -3,8 +3,8 @@
 QPalette darkPalette()
 {
     QPalette palette(QColor(53, 54, 58), QColor(42, 43, 46));
-    palette.setColor(QPalette::Base, QColor(30, 31, 33));
-    palette.setColor(QPalette::AlternateBase, QColor(48, 49, 53));
+    palette.setColor(QPalette::Base, QColor(60, 62, 67));
+    palette.setColor(QPalette::AlternateBase, QColor(68, 70, 76));
     palette.setColor(QPalette::ToolTipBase, QColor(48, 49, 53));
     palette.setColor(QPalette::Highlight, QColor(53, 132, 228));
     for (const QPalette::ColorRole role :
