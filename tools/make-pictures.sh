@@ -31,7 +31,7 @@ for scenario in docs/scenarios/window/*.scenario; do
     done
 done
 for task in tests/scenarios/cases/task-*/case.scenario; do
-    tools/replay.sh "$build" "$task" --pictures docs/pictures --job-folder "$scratch/jobs"
+    tools/replay.sh "$build" "$task" driver/demo/sample.pdf --pictures docs/pictures --job-folder "$scratch/jobs"
 done
 
 # Windows that no scenario reaches, because no test of the panels finds their conflicts, or because they
