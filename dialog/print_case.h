@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/printers/server_connection.h"
+#include "dialog/printers/print_server.h"
 
 #include <QString>
 
@@ -20,6 +20,7 @@ struct PrintCase
     QString jobFolder;
     bool showsConsole = false;
     ServerLimits serverLimits = {};
+    ServerTimes serverTimes = {};
 };
 
 } // namespace dialog

@@ -6,16 +6,18 @@
 #include "dialog/panels/summary_panel.h"
 #include "dialog/preview/job_look.h"
 #include "dialog/preview/preview_pane.h"
-#include "dialog/printers/queue_job.h"
+#include "dialog/printers/errand.h"
+#include "dialog/printers/ppd_cache.h"
 #include "dialog/texts.h"
 #include "dialog/window/help_window.h"
 #include "dialog/window/print_window.h"
+#include "dialog/window/printer_words.h"
 #include "dialog/window/sign_in_prompt.h"
 #include "platform/controls/modal_session.h"
 #include "platform/values.h"
 
-#include <QFile>
 #include <QFileInfo>
+#include <QTimer>
 
 #include <utility>
 
@@ -34,16 +36,20 @@ void setPlatformValues(const PrintCase &printCase)
     }
 }
 
-PpdDocument::Opened openPrinter(const PrintCase &printCase)
+QObject *openQueueLater(QObject *parent, const PrintCase &printCase,
+                        std::function<void(PrintDialog::Opened)> opened)
 {
-    if (!printCase.ppd.isNull())
-        return PpdDocument::open(printCase.ppd);
-    const QueuePpd fetched = fetchQueuePpd(printCase.queue);
-    if (fetched.path.isNull())
-        return PpdError{printCase.queue, 0, fetched.error};
-    PpdDocument::Opened opened = PpdDocument::open(fetched.path);
-    QFile::remove(fetched.path);
-    return opened;
+    const auto open = [queue = printCase.queue, times = printCase.serverTimes] {
+        return openQueuePrinter(queue, times);
+    };
+    const auto take = [printCase, opened](std::optional<QueuePrinter> answer) {
+        QueuePrinter printer = answer ? std::move(*answer) : silentPrinter();
+        if (printer.printer)
+            opened(PrintDialog::withPrinter(printCase, std::move(printer.printer)));
+        else
+            opened(printerProblem(printer, printCase.queue));
+    };
+    return runErrand<QueuePrinter>(parent, printCase.serverTimes.printer, open, take);
 }
 
 const QString kOfferGroup = QStringLiteral("offer:");
@@ -69,12 +75,26 @@ PrintDialog::Opened PrintDialog::open(const PrintCase &printCase)
     const QString problem = prepare(printCase);
     if (!problem.isNull())
         return problem;
-    if (printCase.ppd.isNull() && printCase.queue.isNull())
+    if (printCase.ppd.isNull())
         return QStringLiteral("no printer; name one with --ppd FILE or --queue NAME");
-    PpdDocument::Opened opened = openPrinter(printCase);
+    PpdDocument::Opened opened = PpdDocument::open(printCase.ppd);
     if (const auto *error = std::get_if<PpdError>(&opened))
         return error->message();
     return withPrinter(printCase, std::move(std::get<std::unique_ptr<PpdDocument>>(opened)));
+}
+
+QObject *PrintDialog::openLater(QObject *parent, const PrintCase &printCase,
+                                std::function<void(Opened)> opened)
+{
+    const bool isQueue = printCase.ppd.isNull() && !printCase.queue.isNull();
+    if (isQueue && prepare(printCase).isNull())
+        return openQueueLater(parent, printCase, std::move(opened));
+    auto *soon = new QObject(parent);
+    QTimer::singleShot(0, soon, [=] {
+        soon->deleteLater();
+        opened(open(printCase));
+    });
+    return soon;
 }
 
 PrintDialog::PrintDialog(const PrintCase &printCase, std::unique_ptr<PpdDocument> printer)

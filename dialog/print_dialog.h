@@ -13,6 +13,7 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 #include <variant>
 #include <vector>
@@ -33,11 +34,17 @@ class PrintDialog : public QObject
     Q_OBJECT
 
 public:
+    /// The alternative is what to tell a person before the program ends.
     using Opened = std::variant<std::unique_ptr<PrintDialog>, QString>;
 
     /// Sets the platform values, checks the document and opens the printer; without panels so far.
-    /// The alternative is what to tell a person before the program ends.
+    /// The case names a PPD.
     [[nodiscard]] static Opened open(const PrintCase &printCase);
+    /// The same for any case, which may name a queue: its printer comes from the server on a thread
+    /// of its own. @p opened is called once from the event loop, unless the answer, which belongs
+    /// to @p parent, is deleted before.
+    static QObject *openLater(QObject *parent, const PrintCase &printCase,
+                              std::function<void(Opened)> opened);
     /// The two halves of it, for a printer that comes from elsewhere: null, or what to tell.
     [[nodiscard]] static QString prepare(const PrintCase &printCase);
     [[nodiscard]] static std::unique_ptr<PrintDialog>

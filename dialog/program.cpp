@@ -78,22 +78,32 @@ int runQueueDialog(const PrintCase &printCase)
     return QCoreApplication::exec();
 }
 
+/// The printer stays the same; a recording is of one.
+int runOneDialog(const PrintCase &printCase, std::unique_ptr<record::Recording> recording)
+{
+    std::unique_ptr<PrintDialog> dialog;
+    std::unique_ptr<record::Recorder> recorder;
+    QObject scope;
+    PrintDialog::openLater(&scope, printCase, [&](PrintDialog::Opened opened) {
+        if (const auto *problem = std::get_if<QString>(&opened)) {
+            QCoreApplication::exit(refuse(*problem));
+            return;
+        }
+        dialog = std::move(std::get<std::unique_ptr<PrintDialog>>(opened));
+        quitWith(dialog.get());
+        if (recording)
+            recorder = std::make_unique<record::Recorder>(std::move(recording), *dialog);
+        dialog->offerSignIn();
+        dialog->showPanels();
+    });
+    return QCoreApplication::exec();
+}
+
 int runDialog(const CommandLine &line, std::unique_ptr<record::Recording> recording)
 {
-    // A recording is of one printer.
-    if (line.printCase.ppd.isNull() && !recording)
-        return runQueueDialog(line.printCase);
-    PrintDialog::Opened opened = PrintDialog::open(line.printCase);
-    if (const auto *problem = std::get_if<QString>(&opened))
-        return refuse(*problem);
-    const auto dialog = std::move(std::get<std::unique_ptr<PrintDialog>>(opened));
-    quitWith(dialog.get());
-    std::unique_ptr<record::Recorder> recorder;
-    if (recording)
-        recorder = std::make_unique<record::Recorder>(std::move(recording), *dialog);
-    dialog->offerSignIn();
-    dialog->showPanels();
-    return QCoreApplication::exec();
+    return line.printCase.ppd.isNull() && !recording
+               ? runQueueDialog(line.printCase)
+               : runOneDialog(line.printCase, std::move(recording));
 }
 
 bool writeReport(const QString &path, const QByteArray &json)

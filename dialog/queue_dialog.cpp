@@ -104,8 +104,7 @@ void QueueDialog::followQueue()
 {
     const bool isThere = findQueue(queues_, queue_) != nullptr;
     if (dialog_ && !isThere)
-        tell(kPrinterKey,
-             tr("There is no printer %1 at the print server. Choose another one.").arg(queue_), {});
+        tell(kPrinterKey, printerProblem({QueuePrinter::Outcome::NoQueue}, queue_), {});
     else if (dialog_)
         retract(kPrinterKey);
     else if (isThere && !connecting_ && automaticTries_ > 0)
@@ -138,8 +137,7 @@ void QueueDialog::chooseQueue()
 void QueueDialog::missQueue()
 {
     if (!isRemembered_) {
-        failPrinter(
-            tr("There is no printer %1 at the print server. Choose another one.").arg(queue_));
+        failPrinter(printerProblem({QueuePrinter::Outcome::NoQueue}, queue_));
         return;
     }
     queue_ = QString();
@@ -190,27 +188,15 @@ void QueueDialog::connectTo(const QString &queue, int automaticTries)
 void QueueDialog::takePrinter(std::optional<QueuePrinter> answer)
 {
     connecting_.clear();
-    if (!answer)
-        answer.emplace(
-            QueuePrinter{QueuePrinter::Outcome::ServerFailed, {}, {ServerFault::Silent}, {}});
-    switch (answer->outcome) {
-    case QueuePrinter::Outcome::Opened:
-    case QueuePrinter::Outcome::NoPpd:
-        show(std::move(answer->printer));
-        break;
-    case QueuePrinter::Outcome::NoQueue:
-        missQueue();
-        break;
-    case QueuePrinter::Outcome::BrokenPpd:
+    QueuePrinter printer = answer ? std::move(*answer) : silentPrinter();
+    if (printer.outcome == QueuePrinter::Outcome::BrokenPpd)
         automaticTries_ = 0; // whether somebody has repaired it, only a person knows
-        failPrinter(tr("The printer %1 cannot be used, because its PPD is damaged: %2. Have the "
-                       "printer set up again or choose another one.")
-                        .arg(queue_, answer->reason));
-        break;
-    case QueuePrinter::Outcome::ServerFailed:
-        failPrinter(problemText(answer->problem));
-        break;
-    }
+    if (printer.printer)
+        show(std::move(printer.printer));
+    else if (printer.outcome == QueuePrinter::Outcome::NoQueue)
+        missQueue();
+    else
+        failPrinter(printerProblem(printer, queue_));
 }
 
 void QueueDialog::show(std::unique_ptr<PpdDocument> printer)

@@ -516,6 +516,14 @@
 <context>
     <name>PrinterWords</name>
     <message>
+        <source>There is no printer %1 at the print server. Choose another one.</source>
+        <translation>Der Druckserver hat keinen Drucker %1. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
+        <translation>Der Drucker %1 ist nicht benutzbar, weil seine PPD beschädigt ist: %2. Lassen Sie den Drucker neu einrichten oder wählen Sie einen anderen.</translation>
+    </message>
+    <message>
         <source>Not reachable</source>
         <translation>Nicht erreichbar</translation>
     </message>
@@ -1147,14 +1155,6 @@
     <message>
         <source>The print server at %1 has no printers. Add one there, then try again.</source>
         <translation>Der Druckserver unter %1 hat keine Drucker. Richten Sie dort einen ein, dann versuchen Sie es erneut.</translation>
-    </message>
-    <message>
-        <source>There is no printer %1 at the print server. Choose another one.</source>
-        <translation>Der Druckserver hat keinen Drucker %1. Wählen Sie einen anderen.</translation>
-    </message>
-    <message>
-        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
-        <translation>Der Drucker %1 ist nicht benutzbar, weil seine PPD beschädigt ist: %2. Lassen Sie den Drucker neu einrichten oder wählen Sie einen anderen.</translation>
     </message>
     <message>
         <source>This printer does not have what you chose for the one before:</source>

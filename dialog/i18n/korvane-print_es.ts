@@ -516,6 +516,14 @@
 <context>
     <name>PrinterWords</name>
     <message>
+        <source>There is no printer %1 at the print server. Choose another one.</source>
+        <translation>El servidor de impresión no tiene la impresora %1. Elija otra.</translation>
+    </message>
+    <message>
+        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
+        <translation>No se puede usar la impresora %1 porque su PPD está dañado: %2. Haga que vuelvan a configurar la impresora o elija otra.</translation>
+    </message>
+    <message>
         <source>Not reachable</source>
         <translation>No disponible</translation>
     </message>
@@ -1147,14 +1155,6 @@
     <message>
         <source>The print server at %1 has no printers. Add one there, then try again.</source>
         <translation>El servidor de impresión en %1 no tiene impresoras. Añada una e inténtelo de nuevo.</translation>
-    </message>
-    <message>
-        <source>There is no printer %1 at the print server. Choose another one.</source>
-        <translation>El servidor de impresión no tiene la impresora %1. Elija otra.</translation>
-    </message>
-    <message>
-        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
-        <translation>No se puede usar la impresora %1 porque su PPD está dañado: %2. Haga que vuelvan a configurar la impresora o elija otra.</translation>
     </message>
     <message>
         <source>This printer does not have what you chose for the one before:</source>

@@ -516,6 +516,14 @@
 <context>
     <name>PrinterWords</name>
     <message>
+        <source>There is no printer %1 at the print server. Choose another one.</source>
+        <translation>Le serveur d’impression n’a pas d’imprimante %1. Choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
+        <translation>L’imprimante %1 est inutilisable, car son PPD est endommagé&#xa0;: %2. Faites reconfigurer l’imprimante ou choisissez-en une autre.</translation>
+    </message>
+    <message>
         <source>Not reachable</source>
         <translation>Injoignable</translation>
     </message>
@@ -1147,14 +1155,6 @@
     <message>
         <source>The print server at %1 has no printers. Add one there, then try again.</source>
         <translation>Le serveur d’impression à %1 n’a pas d’imprimantes. Ajoutez-en une, puis réessayez.</translation>
-    </message>
-    <message>
-        <source>There is no printer %1 at the print server. Choose another one.</source>
-        <translation>Le serveur d’impression n’a pas d’imprimante %1. Choisissez-en une autre.</translation>
-    </message>
-    <message>
-        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
-        <translation>L’imprimante %1 est inutilisable, car son PPD est endommagé&#xa0;: %2. Faites reconfigurer l’imprimante ou choisissez-en une autre.</translation>
     </message>
     <message>
         <source>This printer does not have what you chose for the one before:</source>

@@ -516,6 +516,14 @@
 <context>
     <name>PrinterWords</name>
     <message>
+        <source>There is no printer %1 at the print server. Choose another one.</source>
+        <translation>Il server di stampa non ha una stampante %1. Scegline un’altra.</translation>
+    </message>
+    <message>
+        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
+        <translation>La stampante %1 non può essere usata perché il suo PPD è danneggiato: %2. Fai configurare di nuovo la stampante o scegline un’altra.</translation>
+    </message>
+    <message>
         <source>Not reachable</source>
         <translation>Non raggiungibile</translation>
     </message>
@@ -1147,14 +1155,6 @@
     <message>
         <source>The print server at %1 has no printers. Add one there, then try again.</source>
         <translation>Il server di stampa a %1 non ha stampanti. Aggiungine una, poi riprova.</translation>
-    </message>
-    <message>
-        <source>There is no printer %1 at the print server. Choose another one.</source>
-        <translation>Il server di stampa non ha una stampante %1. Scegline un’altra.</translation>
-    </message>
-    <message>
-        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
-        <translation>La stampante %1 non può essere usata perché il suo PPD è danneggiato: %2. Fai configurare di nuovo la stampante o scegline un’altra.</translation>
     </message>
     <message>
         <source>This printer does not have what you chose for the one before:</source>

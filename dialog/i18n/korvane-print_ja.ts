@@ -513,6 +513,14 @@
 <context>
     <name>PrinterWords</name>
     <message>
+        <source>There is no printer %1 at the print server. Choose another one.</source>
+        <translation>プリントサーバにプリンタ %1 がありません。別のプリンタを選んでください。</translation>
+    </message>
+    <message>
+        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
+        <translation>プリンタ %1 は PPD が壊れているため使用できません: %2。プリンタを設定し直すか、別のプリンタを選んでください。</translation>
+    </message>
+    <message>
         <source>Not reachable</source>
         <translation>接続できません</translation>
     </message>
@@ -1143,14 +1151,6 @@
     <message>
         <source>The print server at %1 has no printers. Add one there, then try again.</source>
         <translation>%1 のプリントサーバにはプリンタがありません。プリンタを追加して、再試行してください。</translation>
-    </message>
-    <message>
-        <source>There is no printer %1 at the print server. Choose another one.</source>
-        <translation>プリントサーバにプリンタ %1 がありません。別のプリンタを選んでください。</translation>
-    </message>
-    <message>
-        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
-        <translation>プリンタ %1 は PPD が壊れているため使用できません: %2。プリンタを設定し直すか、別のプリンタを選んでください。</translation>
     </message>
     <message>
         <source>This printer does not have what you chose for the one before:</source>

@@ -516,6 +516,14 @@
 <context>
     <name>PrinterWords</name>
     <message>
+        <source>There is no printer %1 at the print server. Choose another one.</source>
+        <translation>O servidor de impressão não tem a impressora %1. Escolha outra.</translation>
+    </message>
+    <message>
+        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
+        <translation>A impressora %1 não pode ser usada porque seu PPD está danificado: %2. Peça que a impressora seja configurada novamente ou escolha outra.</translation>
+    </message>
+    <message>
         <source>Not reachable</source>
         <translation>Inacessível</translation>
     </message>
@@ -1147,14 +1155,6 @@
     <message>
         <source>The print server at %1 has no printers. Add one there, then try again.</source>
         <translation>O servidor de impressão em %1 não tem impressoras. Adicione uma e tente novamente.</translation>
-    </message>
-    <message>
-        <source>There is no printer %1 at the print server. Choose another one.</source>
-        <translation>O servidor de impressão não tem a impressora %1. Escolha outra.</translation>
-    </message>
-    <message>
-        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
-        <translation>A impressora %1 não pode ser usada porque seu PPD está danificado: %2. Peça que a impressora seja configurada novamente ou escolha outra.</translation>
     </message>
     <message>
         <source>This printer does not have what you chose for the one before:</source>

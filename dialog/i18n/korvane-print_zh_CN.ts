@@ -513,6 +513,14 @@
 <context>
     <name>PrinterWords</name>
     <message>
+        <source>There is no printer %1 at the print server. Choose another one.</source>
+        <translation>打印服务器上没有打印机 %1。请选择其他打印机。</translation>
+    </message>
+    <message>
+        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
+        <translation>无法使用打印机 %1，因为其 PPD 已损坏：%2。请重新设置该打印机，或选择其他打印机。</translation>
+    </message>
+    <message>
         <source>Not reachable</source>
         <translation>无法连接</translation>
     </message>
@@ -1143,14 +1151,6 @@
     <message>
         <source>The print server at %1 has no printers. Add one there, then try again.</source>
         <translation>%1 上的打印服务器没有打印机。请在那里添加一台，然后重试。</translation>
-    </message>
-    <message>
-        <source>There is no printer %1 at the print server. Choose another one.</source>
-        <translation>打印服务器上没有打印机 %1。请选择其他打印机。</translation>
-    </message>
-    <message>
-        <source>The printer %1 cannot be used, because its PPD is damaged: %2. Have the printer set up again or choose another one.</source>
-        <translation>无法使用打印机 %1，因为其 PPD 已损坏：%2。请重新设置该打印机，或选择其他打印机。</translation>
     </message>
     <message>
         <source>This printer does not have what you chose for the one before:</source>

@@ -109,13 +109,14 @@ QueuePrinter failed(const ServerProblem &problem)
     return {QueuePrinter::Outcome::ServerFailed, {}, problem};
 }
 
-QueuePrinter openedFrom(const QString &path)
+QueuePrinter openedFrom(const QString &path, const std::shared_ptr<void> &file = nullptr)
 {
     PpdDocument::Opened opened = PpdDocument::open(path);
     if (const auto *error = std::get_if<PpdError>(&opened))
         return {QueuePrinter::Outcome::BrokenPpd, {}, {}, error->reason};
-    return {QueuePrinter::Outcome::Opened,
-            std::move(std::get<std::unique_ptr<PpdDocument>>(opened))};
+    auto printer = std::move(std::get<std::unique_ptr<PpdDocument>>(opened));
+    printer->holdFile(file);
+    return {QueuePrinter::Outcome::Opened, std::move(printer)};
 }
 
 /// The server's time is that of its answer, within whose second the PPD may still change.
@@ -146,10 +147,10 @@ public:
 private:
     [[nodiscard]] QueuePrinter get(const std::optional<PpdCache::Entry> &entry) const
     {
-        Download download;
-        switch (download.get(connection_.http(), queue_, entry ? entry->modified : 0)) {
+        const auto download = std::make_shared<Download>();
+        switch (download->get(connection_.http(), queue_, entry ? entry->modified : 0)) {
         case HTTP_STATUS_OK:
-            return openedFrom(kept(download));
+            return openedFrom(kept(*download), download);
         case HTTP_STATUS_NOT_MODIFIED:
             return entry ? openedFrom(entry->path) : failed(connection_.problem());
         case HTTP_STATUS_NOT_FOUND:
@@ -249,6 +250,11 @@ void PpdCache::drop(const QString &server, const QString &queue) const
 {
     if (folder_)
         static_cast<void>(folder_->remove(fileName(server, queue)));
+}
+
+QueuePrinter silentPrinter()
+{
+    return failed({ServerFault::Silent});
 }
 
 QueuePrinter openQueuePrinter(const QString &queue, const ServerTimes &times)

@@ -63,6 +63,9 @@ struct QueuePrinter
     QString reason = {}; ///< of a broken PPD
 };
 
+/// Of a server that does not answer in time.
+[[nodiscard]] QueuePrinter silentPrinter();
+
 /// Opens the printer behind a queue with its PPD from the cache or, where the server has a newer
 /// one, from there; blocks. Two requests, of which at most one downloads; three without a PPD.
 [[nodiscard]] QueuePrinter openQueuePrinter(const QString &queue, const ServerTimes &times);

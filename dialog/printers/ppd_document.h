@@ -51,6 +51,8 @@ public:
     /// Borrowed by the panels.
     [[nodiscard]] ppd_file_t *handle() const;
     [[nodiscard]] const QString &path() const { return path_; }
+    /// Keeps something alive with which the file at path() would go.
+    void holdFile(std::shared_ptr<void> file) { file_ = std::move(file); }
     [[nodiscard]] QString manufacturer() const;
     [[nodiscard]] QString modelName() const;
     [[nodiscard]] QString nickName() const;
@@ -116,6 +118,7 @@ private:
     [[nodiscard]] QString translatedText(const char *name, const char *specifier) const;
 
     QString path_;
+    std::shared_ptr<void> file_;
     Handle ppd_;
     Choices defaults_;
     Constraints constraints_;

@@ -5,9 +5,13 @@
 namespace dialog {
 namespace {
 
-int giveUp(http_t *, void *fellSilent)
+constexpr double kNoTime = 0.001;
+
+/// libcups connects anew and asks once more; nobody waits for that as long again.
+int giveUp(http_t *http, void *fellSilent)
 {
     *static_cast<bool *>(fellSilent) = true;
+    httpSetTimeout(http, kNoTime, giveUp, fellSilent);
     return 0;
 }
 

@@ -1,7 +1,6 @@
 #include "dialog/printers/queue_job.h"
 
 #include <cups/cups.h>
-#include <cups/ppd.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -358,20 +357,6 @@ void settleJobs(QObject *context, const std::vector<JobTrace> &traces, const Ser
             },
             Qt::QueuedConnection);
     }).detach();
-}
-
-QueuePpd fetchQueuePpd(const QString &queue)
-{
-    const Connection http = connectToServer({});
-    if (!http)
-        return {{}, lastServerError()};
-    time_t modified = 0;
-    char path[1024] = "";
-    const http_status_t status =
-        cupsGetPPD3(http.get(), queue.toUtf8().constData(), &modified, path, sizeof path);
-    if (status != HTTP_STATUS_OK)
-        return {{}, lastServerError()};
-    return {QFile::decodeName(path), {}};
 }
 
 } // namespace dialog

@@ -12,9 +12,6 @@
 
 namespace dialog {
 
-/// Who gives a name and password where the server wants them.
-enum class SignInBy { Nobody, Person };
-
 struct QueueJobRequest
 {
     QString title;
@@ -82,14 +79,5 @@ private:
 /// main thread with one settlement for each, in order, unless @p context has gone.
 void settleJobs(QObject *context, const std::vector<JobTrace> &traces, const ServerLimits &limits,
                 const std::function<void(const std::vector<Settlement> &)> &told);
-
-/// The queue's PPD as a file that the caller removes; null, with a reason, when it cannot be had.
-/// Blocks, at most for the time that a server gets.
-struct QueuePpd
-{
-    QString path;
-    QString error;
-};
-[[nodiscard]] QueuePpd fetchQueuePpd(const QString &queue);
 
 } // namespace dialog

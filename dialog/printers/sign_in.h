@@ -28,6 +28,9 @@ private:
     QByteArray password_;
 };
 
+/// Who gives a name and password where the server wants them.
+enum class SignInBy { Nobody, Person };
+
 /// What a person has to know to give a name and password.
 struct SignInQuestion
 {

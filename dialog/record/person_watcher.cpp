@@ -1,5 +1,6 @@
 #include "dialog/record/person_watcher.h"
 
+#include "dialog/window/sign_in_prompt.h"
 #include "platform/controls/modal_session.h"
 #include "platform/controls/stepper.h"
 
@@ -45,6 +46,13 @@ QString nameOf(QKeyCombination key)
     const QString name = QKeySequence(key).toString(QKeySequence::PortableText);
     const QKeySequence again(name);
     return again.count() == 1 && again[0] == key ? name : QString();
+}
+
+bool isInSignInPrompt(const QWidget *control)
+{
+    while (control && !qobject_cast<const SignInPrompt *>(control))
+        control = control->parentWidget();
+    return control != nullptr;
 }
 
 const QComboBox *popUpOfList(const QWidget *widget)
@@ -300,9 +308,10 @@ void PersonWatcher::tell(const QWidget *control, const MaybeStep &step)
         Q_EMIT actedWithoutName(control);
 }
 
+/// A name and password are told to nobody.
 bool PersonWatcher::isInFront(const QWidget *control) const
 {
-    return control->window() == front_();
+    return control->window() == front_() && !isInSignInPrompt(control);
 }
 
 } // namespace dialog::record

@@ -1,7 +1,6 @@
 #include "dialog/record/recorder.h"
 
 #include "dialog/print_dialog.h"
-#include "dialog/printers/queue_job.h"
 #include "dialog/record/step_line.h"
 #include "dialog/window/print_window.h"
 #include "platform/controls/pop_up_button.h"
@@ -33,16 +32,6 @@ bool leadsThroughHome(const QString &recording, const QString &path)
 {
     const QString home = pathFrom(recording, QDir::homePath());
     return home.endsWith(QFileInfo(QDir::homePath()).fileName()) && path.startsWith(home + u'/');
-}
-
-bool copyPrinter(const PrintCase &printCase, const QString &copy)
-{
-    if (!printCase.ppd.isNull())
-        return QFile::copy(printCase.ppd, copy);
-    const QueuePpd fetched = fetchQueuePpd(printCase.queue);
-    const bool isCopied = !fetched.path.isNull() && QFile::copy(fetched.path, copy);
-    QFile::remove(fetched.path);
-    return isCopied;
 }
 
 /// The word that gives back both the first language and the locale, where one can.
@@ -101,7 +90,7 @@ void Recorder::writePrinter(const PrintCase &printCase)
     if (printCase.ppd.isNull() || leadsThroughHome(recording_->path(), path)) {
         const QString copy = recording_->path() + QStringLiteral(".ppd");
         path = QFileInfo(copy).fileName();
-        if (!copyPrinter(printCase, copy))
+        if (!QFile::copy(dialog_.printer().path(), copy))
             comment(QStringLiteral("the printer's file could not be copied to the next name"));
     }
     write({StepKind::Printer, {path}, 0});

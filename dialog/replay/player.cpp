@@ -249,6 +249,8 @@ void Player::takeTurn()
     }
     if (next_ == scenario_.steps.size())
         finish(Outcome::AllDone, {});
+    else if (!dialog_ && !standsBeforePrinter(scenario_.steps[next_].kind))
+        openPrinter();
     else
         perform(scenario_.steps[next_++]);
 }
@@ -265,8 +267,6 @@ bool Player::isUnwinding()
 
 void Player::perform(const Step &step)
 {
-    if (!standsBeforePrinter(step.kind) && !dialog_ && !openPrinter())
-        return;
     turn_.start();
     if (needsPanels(step.kind))
         dialog_->showPanels();
@@ -279,17 +279,23 @@ void Player::perform(const Step &step)
         fail(step, error);
 }
 
-bool Player::openPrinter()
+/// The steps go on when it is there.
+void Player::openPrinter()
 {
-    PrintDialog::Opened opened = PrintDialog::open(case_);
+    PrintDialog::openLater(this, case_,
+                           [this](PrintDialog::Opened opened) { takePrinter(std::move(opened)); });
+}
+
+void Player::takePrinter(PrintDialog::Opened opened)
+{
     if (const auto *problem = std::get_if<QString>(&opened)) {
         finish(Outcome::NotStarted, *problem);
-        return false;
+        return;
     }
     dialog_ = std::move(std::get<std::unique_ptr<PrintDialog>>(opened));
     watchDialog();
     Q_EMIT dialogOpened(*dialog_);
-    return true;
+    turn_.start();
 }
 
 void Player::fail(const Step &step, const QString &error)

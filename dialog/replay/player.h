@@ -58,7 +58,8 @@ private:
     void fail(const Step &step, const QString &error);
     void finish(Outcome outcome, const QString &message);
 
-    [[nodiscard]] bool openPrinter();
+    void openPrinter();
+    void takePrinter(PrintDialog::Opened opened);
     void watchProcess();
     void watchDialog();
     void jobEnded(const QString &error);

@@ -93,4 +93,23 @@ QString problemText(const ServerProblem &problem)
         .arg(serverName(), problem.reason);
 }
 
+QString printerProblem(const QueuePrinter &printer, const QString &queue)
+{
+    switch (printer.outcome) {
+    case QueuePrinter::Outcome::Opened:
+    case QueuePrinter::Outcome::NoPpd:
+        return {};
+    case QueuePrinter::Outcome::NoQueue:
+        return PrinterWords::tr("There is no printer %1 at the print server. Choose another one.")
+            .arg(queue);
+    case QueuePrinter::Outcome::BrokenPpd:
+        return PrinterWords::tr("The printer %1 cannot be used, because its PPD is damaged: %2. "
+                                "Have the printer set up again or choose another one.")
+            .arg(queue, printer.reason);
+    case QueuePrinter::Outcome::ServerFailed:
+        break;
+    }
+    return problemText(printer.problem);
+}
+
 } // namespace dialog

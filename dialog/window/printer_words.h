@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/printers/ppd_cache.h"
 #include "dialog/printers/queue_list.h"
 
 namespace dialog {
@@ -13,5 +14,8 @@ namespace dialog {
 
 /// A server's fault with its remedy.
 [[nodiscard]] QString problemText(const ServerProblem &problem);
+
+/// Why there is no printer behind the queue, with a remedy; null when there is one.
+[[nodiscard]] QString printerProblem(const QueuePrinter &printer, const QString &queue);
 
 } // namespace dialog

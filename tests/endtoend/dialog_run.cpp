@@ -7,6 +7,7 @@
 #include "tests/support/print_to.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QComboBox>
 #include <QEventLoop>
 #include <QJsonDocument>
@@ -50,7 +51,13 @@ DialogRun::DialogRun(dialog::PrintCase printCase)
     printCase.root = q(KORVANE_ROOT_DIR);
     printCase.document = sampleDocument();
     printCase.jobFolder = jobs_.path();
-    dialog::PrintDialog::Opened opened = dialog::PrintDialog::open(printCase);
+    dialog::PrintDialog::Opened opened;
+    QEventLoop loop;
+    dialog::PrintDialog::openLater(&loop, printCase, [&](dialog::PrintDialog::Opened answer) {
+        opened = std::move(answer);
+        loop.quit();
+    });
+    loop.exec();
     if (const auto *problem = std::get_if<QString>(&opened))
         throw std::runtime_error(problem->toStdString());
     dialog_ = std::move(std::get<std::unique_ptr<dialog::PrintDialog>>(opened));
