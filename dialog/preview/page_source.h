@@ -4,6 +4,7 @@
 #include <QRect>
 #include <QSizeF>
 #include <QString>
+#include <QTransform>
 
 #include <functional>
 #include <memory>
@@ -49,8 +50,8 @@ public:
     [[nodiscard]] virtual QSizeF pageSize(int page) = 0;
     /// On white; null when the page cannot be drawn or the drawing was stopped.
     [[nodiscard]] virtual QImage picture(const PagePart &part, const ShouldStop &shouldStop) = 0;
-    /// In points of the page, as lines and text where the document has them. False when the page
-    /// cannot be drawn.
+    /// In points of the page, as lines where the document has them, its letters too. False when the
+    /// page cannot be drawn.
     [[nodiscard]] virtual bool paint(int page, QPainter &painter) = 0;
 };
 
@@ -59,6 +60,9 @@ struct OpenedSource
     std::unique_ptr<PageSource> source = {}; ///< null with a problem
     DocumentProblem problem = DocumentProblem::None;
 };
+
+/// By how many quarters to the left a transformation turns a page, apart from a flip after that.
+[[nodiscard]] int quartersOf(const QTransform &transform);
 
 /// By what the file contains, whatever its name.
 [[nodiscard]] OpenedSource openPageSource(const QString &path);

@@ -9,6 +9,8 @@
 #include <QSaveFile>
 
 #include <atomic>
+#include <chrono>
+#include <condition_variable>
 #include <functional>
 #include <mutex>
 #include <thread>
@@ -20,9 +22,13 @@ namespace {
 constexpr int kResolution = 1200;
 constexpr double kPointsPerInch = 72;
 
-void setPage(QPdfWriter &writer, const SideLayout &side)
+constexpr double kPicturePixelsPerPoint = 300 / kPointsPerInch;
+// As long as a person does not wonder where the window stays; a damaged document takes longer.
+constexpr auto kPatience = std::chrono::seconds(1);
+
+void setPage(QPdfWriter &writer, const QSizeF &size)
 {
-    writer.setPageSize(QPageSize(side.size, QPageSize::Point, {}, QPageSize::ExactMatch));
+    writer.setPageSize(QPageSize(size, QPageSize::Point, {}, QPageSize::ExactMatch));
     writer.setPageMargins({});
 }
 
@@ -33,12 +39,16 @@ struct PdfSaving::Work
 {
     PdfOrder order;
     std::atomic<bool> isCancelled = false;
-    QString reason = {}; ///< null: written
+    bool isWritten = false;
+    QString reason = {}; ///< why it is not written, unless it has been given up
     std::mutex mutex;
+    std::condition_variable ending;
+    bool hasEnded = false;
     PdfSaving *owner = nullptr; ///< null once nobody listens
 
     void run();
     void write(PageSource &source, QSaveFile &file);
+    [[nodiscard]] int putSide(PageSource &source, int number, QPainter &painter) const;
 
     /// Has @p tell called on the main thread, unless nobody listens by then.
     void post(std::function<void(PdfSaving &)> tell)
@@ -66,34 +76,44 @@ void PdfSaving::Work::run()
     write(*opened.source, file);
     if (isCancelled || !reason.isNull())
         file.cancelWriting();
-    if (!file.commit() && !isCancelled && reason.isNull())
+    isWritten = file.commit();
+    if (!isWritten && reason.isNull())
         reason = file.errorString();
 }
 
 void PdfSaving::Work::write(PageSource &source, QSaveFile &file)
 {
-    const SheetLook look = lookFor(source, order.look);
-    const std::vector<int> sides = printedSides(look, source.pageCount());
+    const std::vector<int> sides = printedSides(order.look, source.pageCount());
     QPdfWriter writer(&file);
     writer.setResolution(kResolution);
     writer.setTitle(order.title);
     QPainter painter;
     for (std::size_t i = 0; i < sides.size() && !isCancelled && reason.isNull(); ++i) {
-        const SideLayout side = layOutSide(source, look, sides[i]);
-        setPage(writer, side);
+        setPage(writer, sideSize(order.look));
         if (painter.isActive())
             writer.newPage();
         else
             painter.begin(&writer);
         painter.resetTransform();
         painter.scale(kResolution / kPointsPerInch, kResolution / kPointsPerInch);
-        const int damaged = paintSide(source, side, painter);
+        const int damaged = putSide(source, sides[i], painter);
         if (damaged >= 0)
             reason = PreviewWords::damagedPages({damaged});
         const int done = static_cast<int>(i) + 1;
         const int all = static_cast<int>(sides.size());
         post([done, all](PdfSaving &saving) { Q_EMIT saving.progressed(done, all); });
     }
+}
+
+/// Colours of lines cannot be taken away, those of a picture can.
+int PdfSaving::Work::putSide(PageSource &source, int number, QPainter &painter) const
+{
+    if (!order.look.isGrayscale)
+        return paintSide(source, order.look, number, painter);
+    const SidePicture side = drawSide(source, order.look, number, kPicturePixelsPerPoint,
+                                      [this] { return isCancelled.load(); });
+    painter.drawImage(QRectF({}, side.layout.size), side.image);
+    return side.damaged.empty() || isCancelled ? -1 : side.damaged.front();
 }
 
 PdfSaving::PdfSaving(QObject *parent) : QObject(parent) {}
@@ -103,8 +123,9 @@ PdfSaving::~PdfSaving()
     if (!work_)
         return;
     cancel();
-    const std::lock_guard lock(work_->mutex);
+    std::unique_lock lock(work_->mutex);
     work_->owner = nullptr;
+    work_->ending.wait_for(lock, kPatience, [this] { return work_->hasEnded; });
 }
 
 void PdfSaving::start(const PdfOrder &order)
@@ -117,6 +138,9 @@ void PdfSaving::start(const PdfOrder &order)
     std::thread([work = work_] {
         work->run();
         work->post([work](PdfSaving &saving) { saving.finish(*work); });
+        const std::lock_guard lock(work->mutex);
+        work->hasEnded = true;
+        work->ending.notify_all();
     }).detach();
 }
 
@@ -129,10 +153,10 @@ void PdfSaving::cancel()
 void PdfSaving::finish(const Work &work)
 {
     work_.reset();
-    if (work.isCancelled)
-        Q_EMIT cancelled();
-    else if (work.reason.isNull())
+    if (work.isWritten)
         Q_EMIT saved(work.order.file);
+    else if (work.isCancelled)
+        Q_EMIT cancelled();
     else
         Q_EMIT failed(work.reason);
 }

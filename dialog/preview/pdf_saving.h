@@ -17,28 +17,30 @@ struct PdfOrder
     SheetLook look;
 };
 
-/// Writes documents as PDF files as they would print: the sides and pages of the preview, as lines
-/// and text. The work is done on a thread of its own, one file at a time.
+/// Writes documents as PDF files as they would print: the sides and pages of the preview, as lines,
+/// letters too: what the file says cannot be copied as text. In grayscale pages are pictures of at
+/// most 300 dots per inch. The work is done on a thread of its own, one file at a time.
 class PdfSaving : public QObject
 {
     Q_OBJECT
 
 public:
     explicit PdfSaving(QObject *parent = nullptr);
-    /// Gives up what is under way; nothing of it is left.
+    /// Gives up what is under way, and waits a moment for it; nothing of it is left, unless a
+    /// damaged document holds it up.
     ~PdfSaving() override;
 
     [[nodiscard]] bool isSaving() const { return work_ != nullptr; }
     /// Does nothing while another file is being written.
     void start(const PdfOrder &order);
-    /// finished() follows when the work has been given up.
+    /// cancelled() follows when the work has been given up, saved() when it was done already.
     void cancel();
 
 Q_SIGNALS:
     void progressed(int sides, int allSides);
     /// Once per start(); the file is there.
     void saved(const QString &file);
-    /// Once per start(), instead; there is no file, or the former one.
+    // Instead, once per start(): there is no file, or the former one.
     void failed(const QString &reason);
     void cancelled();
 

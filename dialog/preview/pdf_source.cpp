@@ -4,6 +4,8 @@
 
 #include <poppler-qt6.h>
 
+#include <array>
+
 namespace dialog {
 namespace {
 
@@ -25,6 +27,18 @@ public:
 private:
     std::unique_ptr<Poppler::Document> document_;
 };
+
+// A window has whole numbers.
+constexpr int kUnitsPerPoint = 100;
+// By quarters to the left.
+constexpr std::array kRotations{Poppler::Page::Rotate0, Poppler::Page::Rotate270,
+                                Poppler::Page::Rotate180, Poppler::Page::Rotate90};
+
+/// With the right edge at the left.
+QRect flipped(const QRect &rect)
+{
+    return {rect.x() + rect.width(), rect.y(), -rect.width(), rect.height()};
+}
 
 bool isReasonable(const QSizeF &size)
 {
@@ -69,7 +83,20 @@ bool PdfSource::paint(int page, QPainter &painter)
     if (!found || !isReasonable(found->pageSizeF()))
         return false;
     document_->setRenderBackend(Poppler::Document::QPainterBackend);
-    return found->renderToPainter(&painter, kPointsPerInch, kPointsPerInch);
+    // Poppler replaces the painter's transformation; what it keeps are window and viewport.
+    const QTransform transform = painter.transform();
+    const int quarters = quartersOf(transform);
+    const QRect place = transform.mapRect(QRectF({}, found->pageSizeF())).toRect();
+    const QSizeF turned = quarters % 2 == 0 ? found->pageSizeF() : found->pageSizeF().transposed();
+    painter.save();
+    painter.resetTransform();
+    painter.setViewport(transform.determinant() < 0 ? flipped(place) : place);
+    painter.setWindow(QRect({}, (turned * kUnitsPerPoint).toSize()));
+    const bool isPainted = found->renderToPainter(&painter, kPointsPerInch * kUnitsPerPoint,
+                                                  kPointsPerInch * kUnitsPerPoint, -1, -1, -1, -1,
+                                                  kRotations[static_cast<std::size_t>(quarters)]);
+    painter.restore();
+    return isPainted;
 }
 
 /// What Poppler says of damage that it works around is nobody's concern here.

@@ -39,16 +39,6 @@ QTransform PixelPlace::transform() const
     return turn * QTransform::fromTranslate(page.x() - turned.x(), page.y() - turned.y());
 }
 
-/// Quarters to the left, from where the page's right edge points once it is not flipped.
-int quartersOf(const QTransform &transform)
-{
-    const double right = transform.determinant() < 0 ? -transform.m11() : transform.m11();
-    const double down = transform.m12();
-    if (std::abs(right) > std::abs(down))
-        return right > 0 ? 0 : 2;
-    return down < 0 ? 1 : 3;
-}
-
 /// Edges on whole pixels, so that pages stay sharp.
 QRect wholePixels(const QRectF &rect)
 {
@@ -108,8 +98,7 @@ void drawBorder(const PlacedPage &page, double width, const QTransform &toPixels
     painter.setOpacity(1);
 }
 
-} // namespace
-
+/// The look as it holds for this document: pictures fit the sheet unless the job says otherwise.
 SheetLook lookFor(const PageSource &source, SheetLook look)
 {
     if (look.scaling == PageScaling::Unset)
@@ -117,19 +106,12 @@ SheetLook lookFor(const PageSource &source, SheetLook look)
     return look;
 }
 
-double cappedScale(const QSizeF &side, double pixelsPerPoint)
-{
-    const double most = std::sqrt(kMostPixels / std::max(1.0, side.width() * side.height()));
-    return std::min(pixelsPerPoint, most);
-}
-
+/// Reads the sizes of the pages on the side.
 SideLayout layOutSide(PageSource &source, const SheetLook &look, int number)
 {
     return placePages(lookFor(source, look), pagesOnSide(look, number, source.pageCount()),
                       [&](int page) { return source.pageSize(page); });
 }
-
-namespace {
 
 /// Pages that have no place because they cannot be read.
 std::vector<int> missingPages(const std::vector<int> &wanted, const SideLayout &layout)
@@ -142,7 +124,23 @@ std::vector<int> missingPages(const std::vector<int> &wanted, const SideLayout &
     return missing;
 }
 
+bool paintPage(PageSource &source, const PlacedPage &page, QPainter &painter)
+{
+    painter.save();
+    painter.setClipRect(page.visible);
+    painter.setTransform(page.transform, true);
+    const bool isPainted = source.paint(page.page, painter);
+    painter.restore();
+    return isPainted;
+}
+
 } // namespace
+
+double cappedScale(const QSizeF &side, double pixelsPerPoint)
+{
+    const double most = std::sqrt(kMostPixels / std::max(1.0, side.width() * side.height()));
+    return std::min(pixelsPerPoint, most);
+}
 
 SidePicture drawSide(PageSource &source, const SheetLook &look, int number, double pixelsPerPoint,
                      const ShouldStop &shouldStop)
@@ -168,15 +166,15 @@ SidePicture drawSide(PageSource &source, const SheetLook &look, int number, doub
     return side;
 }
 
-int paintSide(PageSource &source, const SideLayout &layout, QPainter &painter)
+int paintSide(PageSource &source, const SheetLook &look, int number, QPainter &painter)
 {
+    const SideLayout layout = layOutSide(source, look, number);
+    const std::vector<int> missing =
+        missingPages(pagesOnSide(look, number, source.pageCount()), layout);
+    if (!missing.empty())
+        return missing.front();
     for (const PlacedPage &page : layout.pages) {
-        painter.save();
-        painter.setClipRect(page.visible);
-        painter.setTransform(page.transform, true);
-        const bool isPainted = source.paint(page.page, painter);
-        painter.restore();
-        if (!isPainted)
+        if (!paintPage(source, page, painter))
             return page.page;
         paintBorder(page, layout.borderWidth, painter);
     }

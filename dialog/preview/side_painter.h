@@ -5,9 +5,6 @@
 
 namespace dialog {
 
-/// The look as it holds for this document: pictures fill the sheet unless the job says otherwise.
-[[nodiscard]] SheetLook lookFor(const PageSource &source, SheetLook look);
-
 /// A printed side as it comes out.
 struct SidePicture
 {
@@ -25,11 +22,9 @@ struct SidePicture
 [[nodiscard]] SidePicture drawSide(PageSource &source, const SheetLook &look, int number,
                                    double pixelsPerPoint, const ShouldStop &shouldStop);
 
-/// Paints the pages of a side in points, as lines and text. The answer names the first page that
-/// cannot be painted, -1 without one.
-[[nodiscard]] int paintSide(PageSource &source, const SideLayout &layout, QPainter &painter);
-
-/// The layout of one side of a document; reads the sizes of its pages.
-[[nodiscard]] SideLayout layOutSide(PageSource &source, const SheetLook &look, int number);
+/// Paints the pages of a side in points, as lines, letters too, in colours. The answer is the first
+/// page that cannot be painted, -1 without one.
+[[nodiscard]] int paintSide(PageSource &source, const SheetLook &look, int number,
+                            QPainter &painter);
 
 } // namespace dialog
