@@ -16,7 +16,7 @@ struct ServerTimes
     /// Without a single byte.
     std::chrono::milliseconds silence{3'000};
     /// For a whole list of queues; one that trickles in byte by byte is given up.
-    std::chrono::milliseconds list{3'500};
+    std::chrono::milliseconds list{3'300};
     /// For a whole PPD, which may be large and come from far away.
     std::chrono::milliseconds printer{20'000};
 };

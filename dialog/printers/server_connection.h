@@ -14,7 +14,7 @@ class SignIn;
 /// How long a print server gets for one step of a talk before a person is told that it is silent.
 struct ServerLimits
 {
-    int answerMilliseconds = 3'500;
+    int answerMilliseconds = 3'300; ///< told within 3.5 s
     /// For a person who is asked for a name and password.
     int signInMilliseconds = 600'000;
 };
