@@ -150,9 +150,21 @@ void PresetDesk::reset()
 void PresetDesk::showApplied(const PresetEntry &entry, const PresetContent &content)
 {
     former_ = std::exchange(applied_, Applied{entry, content});
+    showEntry();
+}
+
+/// The presets before are past; what is set stays.
+void PresetDesk::showStored(const PresetEntry &entry, const PresetContent &content)
+{
+    applied_ = former_ = Applied{entry, content};
+    showEntry();
+}
+
+void PresetDesk::showEntry()
+{
     if (!bar_)
         return;
-    bar_->select(entry);
+    bar_->select(applied_.entry);
     followState();
 }
 
@@ -189,7 +201,7 @@ void PresetDesk::save(const QString &name)
     const StoreResult result = store_.save(presentPreset(name));
     if (!take(result))
         return;
-    showApplied({PresetKind::Own, result.preset->name}, present());
+    showStored({PresetKind::Own, result.preset->name}, present());
 }
 
 /// One that was gone is saved anew, with nothing to take back.
@@ -199,7 +211,7 @@ void PresetDesk::update()
     const StoreResult result = store_.update(updated);
     if (!take(result))
         return;
-    showApplied(applied_.entry, updated.content);
+    showStored(applied_.entry, updated.content);
     if (*result.preset == updated)
         return;
     offerUndo(tr("The preset “%1” has the present settings now.").arg(updated.name),
@@ -215,9 +227,7 @@ void PresetDesk::rename(const QString &name)
     const StoreResult result = store_.rename(applied_.entry.name, name);
     if (!take(result))
         return;
-    applied_.entry.name = result.preset->name;
-    bar_->select(applied_.entry);
-    followState();
+    showStored({PresetKind::Own, result.preset->name}, applied_.content);
 }
 
 /// What it had set stays, as a change of the default settings.
@@ -226,7 +236,7 @@ void PresetDesk::remove()
     const StoreResult result = store_.remove(applied_.entry.name);
     if (!take(result))
         return;
-    showApplied({}, contentOf(defaults_, printer_));
+    showStored({}, contentOf(defaults_, printer_));
     offerUndo(tr("The preset “%1” has been deleted.").arg(result.preset->name),
               [this, removed = *result.preset] { return store_.restore(removed); });
 }
@@ -236,7 +246,7 @@ void PresetDesk::offerUndo(const QString &text, const std::function<StoreResult(
     const auto run = [this, undo] {
         const StoreResult result = undo();
         if (take(result))
-            showApplied({PresetKind::Own, result.preset->name}, result.preset->content);
+            showStored({PresetKind::Own, result.preset->name}, result.preset->content);
     };
     Q_EMIT noticed(
         {kUndoKey, Severity::Information, text, {{tr("Undo"), QStringLiteral("presetUndo"), run}}});

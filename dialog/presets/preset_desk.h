@@ -45,6 +45,8 @@ private:
     void fillBar();
     void apply(const PresetEntry &entry);
     void showApplied(const PresetEntry &entry, const PresetContent &content);
+    void showStored(const PresetEntry &entry, const PresetContent &content);
+    void showEntry();
     void followState();
     void showDifferences();
     void save(const QString &name);
