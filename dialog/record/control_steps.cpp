@@ -4,6 +4,7 @@
 #include "platform/controls/radio_matrix.h"
 #include "platform/controls/stepper.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -53,6 +54,13 @@ MaybeStep stepForButton(const QAbstractButton *button)
     if (qobject_cast<const QCheckBox *>(button))
         return stepOn(button, button->isChecked() ? StepKind::Tick : StepKind::Untick);
     return stepOn(button, StepKind::Click);
+}
+
+MaybeStep stepForEntry(const QAction *entry)
+{
+    if (entry->objectName().isEmpty())
+        return std::nullopt;
+    return replay::Step{StepKind::Click, {entry->objectName()}, 0};
 }
 
 MaybeStep stepForText(const QLineEdit *field)

@@ -7,6 +7,7 @@
 #include <optional>
 
 class QAbstractButton;
+class QAction;
 class QComboBox;
 class QLineEdit;
 class QSpinBox;
@@ -23,6 +24,8 @@ using MaybeStep = std::optional<replay::Step>;
 [[nodiscard]] MaybeStep stepForItem(const QComboBox *popUp, int index);
 /// After the button has taken its new state: a tick, a row, a step, or else a click.
 [[nodiscard]] MaybeStep stepForButton(const QAbstractButton *button);
+/// Of a menu that is open.
+[[nodiscard]] MaybeStep stepForEntry(const QAction *entry);
 [[nodiscard]] MaybeStep stepForText(const QLineEdit *field);
 /// Whatever way the number came.
 [[nodiscard]] MaybeStep stepForNumber(const QSpinBox *field);

@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLineEdit>
+#include <QMenu>
 #include <QSpinBox>
 
 namespace dialog::record {
@@ -156,6 +157,8 @@ void PersonWatcher::watch(QWidget *control)
     else if (auto *popUp = qobject_cast<QComboBox *>(control))
         connect(popUp, &QComboBox::currentIndexChanged, this, &PersonWatcher::itemChanged,
                 Qt::UniqueConnection);
+    else if (auto *menu = qobject_cast<QMenu *>(control))
+        connect(menu, &QMenu::triggered, this, &PersonWatcher::entryPicked, Qt::UniqueConnection);
     else if (auto *stepper = qobject_cast<Stepper *>(control))
         connect(stepper, &Stepper::stepped, this, &PersonWatcher::stepped, Qt::UniqueConnection);
     else if (auto *number = qobject_cast<QSpinBox *>(control))
@@ -222,6 +225,17 @@ bool PersonWatcher::isClickOf(const QAbstractButton *button) const
         input_.type == QEvent::KeyPress && input_.key == QKeyCombination(Qt::Key_Escape);
     const bool isLeft = input_.type == QEvent::MouseMove || input_.type == QEvent::FocusOut;
     return button->isEnabled() && !isEscape && (isRepeated || !isLeft);
+}
+
+/// With the button that opened the menu; a menu that was left without a pick tells nothing.
+void PersonWatcher::entryPicked(const QAction *entry)
+{
+    const auto *menu = qobject_cast<const QMenu *>(sender());
+    const auto *button = qobject_cast<const QAbstractButton *>(menu->parentWidget());
+    if (!button)
+        return;
+    tell(button, stepForButton(button));
+    tell(button, stepForEntry(entry));
 }
 
 bool PersonWatcher::isWorkedDirectly(const QWidget *control) const

@@ -62,6 +62,7 @@ private:
     void listHides(const QComboBox *popUp);
     void modalWindowCloses(const QWidget *window);
     void buttonReleased();
+    void entryPicked(const QAction *entry);
     void itemChanged(int index);
     void stepped(int value);
     void textEdited();
