@@ -11,10 +11,11 @@ recorded=${3:-}
 source "$(dirname "$0")/../scenarios/surroundings.sh"
 surround "$build" "$(dirname "$scenario")"
 
-# play SCENARIO NAME [OPTION...]
+# play SCENARIO NAME [OPTION...]: for a person who has kept nothing so far, whatever an earlier one saved.
 play() {
     local scenario=$1 name=$2
     shift 2
+    rm -rf "$scratch/.config"
     replay "$scenario" --report "$scratch/$name.json" "$@" 2>"$scratch/$name.err" || {
         cat "$scratch/$name.err"
         [[ $name == original ]] || cat "$scenario"
