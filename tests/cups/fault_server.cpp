@@ -18,8 +18,8 @@ constexpr std::size_t kBlock = 16 * 1024;
 constexpr const char *kServerVariable = "CUPS_SERVER";
 
 constexpr std::array<const char *, static_cast<std::size_t>(FaultKind::Count)> kNames{
-    "none",    "cut answers", "cut requests", "silence",       "deafness",
-    "trickle", "garble",      "HTTP error",   "close at once",
+    "none",    "cut answers", "cut requests", "silence",   "deafness",
+    "trickle", "garble",      "HTTP error",   "IPP error", "close at once",
 };
 
 sockaddr_in loopback(int port)
@@ -34,6 +34,21 @@ sockaddr_in loopback(int port)
 int newSocket()
 {
     return ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+}
+
+/// Without attributes but the two that every answer has.
+QByteArray ippAnswer(int status)
+{
+    QByteArray ipp("\x02\x00", 2);
+    ipp += static_cast<char>(status >> 8);
+    ipp += static_cast<char>(status & 0xff);
+    ipp += QByteArray("\x00\x00\x00\x01\x01", 5);
+    ipp +=
+        QByteArray("\x47\x00\x12", 3) + "attributes-charset" + QByteArray("\x00\x05", 2) + "utf-8";
+    ipp += QByteArray("\x48\x00\x1b", 3) + "attributes-natural-language" +
+           QByteArray("\x00\x02", 2) + "en" + "\x03";
+    return "HTTP/1.1 200 OK\r\nContent-Type: application/ipp\r\nContent-Length: " +
+           QByteArray::number(ipp.size()) + "\r\n\r\n" + ipp;
 }
 
 bool sendAll(int to, const char *bytes, std::size_t size)
@@ -53,7 +68,7 @@ bool sendAll(int to, const char *bytes, std::size_t size)
 void PrintTo(const Fault &fault, std::ostream *out)
 {
     *out << kNames[static_cast<std::size_t>(fault.kind)] << " at byte " << fault.atByte;
-    if (fault.kind == FaultKind::HttpError)
+    if (fault.kind == FaultKind::HttpError || fault.kind == FaultKind::IppError)
         *out << ", status " << fault.status;
 }
 
@@ -96,6 +111,12 @@ void FaultServer::misbehave(const Fault &fault)
     answerBytes_ = 0;
 }
 
+void FaultServer::setWhenMisbehaving(const std::function<void()> &call)
+{
+    const std::lock_guard lock(mutex_);
+    whenMisbehaving_ = call;
+}
+
 void FaultServer::demand(const QByteArray &user, const QByteArray &password)
 {
     const std::lock_guard lock(mutex_);
@@ -115,6 +136,8 @@ bool FaultServer::takesPlace(FaultKind kind, std::int64_t bytes)
     if (hasHappened_ || fault_.kind != kind || bytes < fault_.atByte)
         return false;
     hasHappened_ = true;
+    if (whenMisbehaving_)
+        whenMisbehaving_();
     return true;
 }
 
@@ -231,6 +254,10 @@ bool FaultServer::passAnswers(Link &link)
     if (takesPlace(FaultKind::HttpError, answerBytes_)) {
         const QByteArray answer =
             "HTTP/1.1 " + QByteArray::number(fault_.status) + " Fault\r\nContent-Length: 0\r\n\r\n";
+        return sendAll(link.client, answer.constData(), static_cast<std::size_t>(answer.size()));
+    }
+    if (takesPlace(FaultKind::IppError, answerBytes_)) {
+        const QByteArray answer = ippAnswer(fault_.status);
         return sendAll(link.client, answer.constData(), static_cast<std::size_t>(answer.size()));
     }
     if (takesPlace(FaultKind::Garble, answerBytes_)) {

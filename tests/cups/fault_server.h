@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <functional>
 #include <mutex>
 #include <ostream>
 #include <thread>
@@ -21,6 +22,7 @@ enum class FaultKind {
     Trickle,     ///< from there on answers come a byte at a time, never all in time
     Garble,      ///< the bytes of the next block of answers are inverted
     HttpError,   ///< instead of the next answer an HTTP status comes
+    IppError,    ///< the same with a status of IPP
     CloseAtOnce, ///< connections are closed without a byte
     Count
 };
@@ -29,7 +31,7 @@ struct Fault
 {
     FaultKind kind = FaultKind::None;
     std::int64_t atByte = 0;
-    int status = 500; ///< of HttpError
+    int status = 500; ///< of HttpError and IppError
 };
 void PrintTo(const Fault &fault, std::ostream *out);
 
@@ -53,6 +55,8 @@ public:
     void demand(const QByteArray &user, const QByteArray &password);
     /// Requests that were sent away for want of a name and password.
     [[nodiscard]] int refusals() const { return refusals_; }
+    /// Called when the fault happens, on the fault server's thread.
+    void setWhenMisbehaving(const std::function<void()> &call);
     [[nodiscard]] bool hasMisbehaved() const { return hasHappened_; }
     [[nodiscard]] std::int64_t requestBytes() const { return requestBytes_; }
     [[nodiscard]] std::int64_t answerBytes() const { return answerBytes_; }
@@ -88,6 +92,7 @@ private:
     std::mutex mutex_;
     Fault fault_;
     QByteArray demanded_; ///< a line of HTTP; empty without demand
+    std::function<void()> whenMisbehaving_;
     std::atomic<bool> hasHappened_ = false;
     std::atomic<bool> isOver_ = false;
     std::atomic<int> refusals_ = 0;

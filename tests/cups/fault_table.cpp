@@ -18,10 +18,24 @@ constexpr int kLimitMilliseconds = 250;
 constexpr int kHealthyMilliseconds = 20'000;
 constexpr int kMostPresses = 4;
 constexpr int kHttpStatus[] = {400, 401, 403, 404, 413, 426, 500, 501, 503, 505};
+constexpr int kIppStatus[] = {
+    IPP_STATUS_ERROR_FORBIDDEN,           IPP_STATUS_ERROR_NOT_POSSIBLE,
+    IPP_STATUS_ERROR_NOT_FOUND,           IPP_STATUS_ERROR_REQUEST_ENTITY,
+    IPP_STATUS_ERROR_TOO_MANY_JOBS,       IPP_STATUS_ERROR_INTERNAL,
+    IPP_STATUS_ERROR_SERVICE_UNAVAILABLE, IPP_STATUS_ERROR_DEVICE,
+    IPP_STATUS_ERROR_TEMPORARY,           IPP_STATUS_ERROR_BUSY,
+};
 
 bool countsRequests(FaultKind kind)
 {
     return kind == FaultKind::CutRequests || kind == FaultKind::Deafness;
+}
+
+int statusOf(FaultKind kind, int number)
+{
+    const auto &table = kind == FaultKind::IppError ? kIppStatus : kHttpStatus;
+    static_assert(sizeof kIppStatus == sizeof kHttpStatus);
+    return table[static_cast<std::size_t>(number) % std::size(table)];
 }
 
 /// A cut connection is told at once, so that no time runs out on a busy machine.
@@ -93,8 +107,7 @@ std::vector<Fault> spread(FaultKind kind, int count, const Exchange &exchange)
     const std::int64_t bytes = countsRequests(kind) ? exchange.requestBytes : exchange.answerBytes;
     std::vector<Fault> faults;
     for (int i = 0; i < count; ++i)
-        faults.push_back({kind, 1 + (bytes - 1) * i / std::max(count - 1, 1),
-                          kHttpStatus[static_cast<std::size_t>(i) % std::size(kHttpStatus)]});
+        faults.push_back({kind, 1 + (bytes - 1) * i / std::max(count - 1, 1), statusOf(kind, i)});
     return faults;
 }
 

@@ -22,6 +22,7 @@ constexpr Row kRows[] = {
     {"Trickle",     FaultKind::Trickle,     20},
     {"Garble",      FaultKind::Garble,      40},
     {"HttpError",   FaultKind::HttpError,   40},
+    {"IppError",    FaultKind::IppError,    40},
 };
 // clang-format on
 

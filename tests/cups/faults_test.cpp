@@ -41,6 +41,11 @@ TEST(ServerFaults, HttpErrorsMakeOneJob)
     test::expectOneJobEach(FaultKind::HttpError, 5);
 }
 
+TEST(ServerFaults, IppErrorsMakeOneJob)
+{
+    test::expectOneJobEach(FaultKind::IppError, 5);
+}
+
 TEST(ServerFaults, ClosedConnectionsMakeOneJob)
 {
     test::expectOneJobEach(FaultKind::CloseAtOnce, 1);

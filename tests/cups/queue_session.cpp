@@ -30,6 +30,20 @@ QueueSession::QueueSession() : faults_(server_.address())
     server_.addQueue(queue(), p1().bytes());
 }
 
+QString QueueSession::copyOfDocument(const QString &name) const
+{
+    const QString path = files_.filePath(name);
+    EXPECT_TRUE(QFile::copy(document(), path));
+    return path;
+}
+
+void QueueSession::growDocument(qint64 bytes) const
+{
+    QFile file(document());
+    EXPECT_TRUE(file.open(QIODevice::Append));
+    EXPECT_EQ(file.write(QByteArray(bytes - file.size(), ' ')), bytes - file.size());
+}
+
 dialog::JobOptions QueueSession::options()
 {
     return {

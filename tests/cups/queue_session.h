@@ -29,9 +29,18 @@ public:
 
     [[nodiscard]] static QString queue() { return QStringLiteral("ink"); }
     [[nodiscard]] PrivateCupsd &server() { return server_; }
+    [[nodiscard]] const PrivateCupsd &server() const { return server_; }
     [[nodiscard]] FaultServer &faults() { return faults_; }
     [[nodiscard]] QString document() const { return files_.filePath(QStringLiteral("page.pdf")); }
     [[nodiscard]] QString stateFolder() const { return files_.filePath(QStringLiteral("state")); }
+    /// Its path.
+    [[nodiscard]] QString copyOfDocument(const QString &name) const;
+    void growDocument(qint64 bytes) const;
+    /// How often a document of that title has reached the printer.
+    [[nodiscard]] qsizetype printed(const QString &title) const
+    {
+        return server_.printedTitles().count(title);
+    }
     [[nodiscard]] static dialog::JobOptions options();
     [[nodiscard]] static std::unique_ptr<dialog::QueuePrinting> printing(int limitMilliseconds);
     [[nodiscard]] static std::unique_ptr<dialog::QueuePrinting>

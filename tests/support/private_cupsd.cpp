@@ -20,6 +20,7 @@
 #include <pwd.h>
 #include <signal.h>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -52,7 +53,8 @@ if [ $# -eq 0 ]; then
     echo 'direct keep "Unknown" "Keep"'
     exit 0
 fi
-cat ${6:+"$6"} > "@FOLDER@/out/$1.document" && : > "@FOLDER@/out/$1.done"
+cat ${6:+"$6"} > "@FOLDER@/out/$1.document" && : > "@FOLDER@/out/$1.done" &&
+    printf '%s\n' "$3" >> "@FOLDER@/out/printed"
 )";
 
 constexpr const char *kFiles = R"(ServerRoot @FOLDER@/root
@@ -139,6 +141,16 @@ bool answersAt(int port)
 void dieWithTest()
 {
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+}
+
+/// Writing beyond it fails, instead of ending the server.
+void limitFilesTo(qint64 bytes)
+{
+    if (bytes < 0)
+        return;
+    const rlimit limit{static_cast<rlim_t>(bytes), static_cast<rlim_t>(bytes)};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    ::signal(SIGXFSZ, SIG_IGN);
 }
 
 /// The same, for a server without root's rights. Every call here is allowed between fork and exec.
@@ -257,7 +269,10 @@ bool PrivateCupsd::comesUp()
     server_ = std::make_unique<QProcess>();
     server_->setStandardOutputFile(folder() + QStringLiteral("/log/output"));
     server_->setStandardErrorFile(folder() + QStringLiteral("/log/errors"));
-    server_->setChildProcessModifier(dieWithTest);
+    server_->setChildProcessModifier([largest = largestFile_] {
+        limitFilesTo(largest);
+        dieWithTest();
+    });
     if (gaveUpRights_) {
         const passwd user = *::getpwnam(kOrdinaryUser);
         server_->setChildProcessModifier([user] { becomeUser(user.pw_uid, user.pw_gid); });
@@ -298,6 +313,34 @@ void PrivateCupsd::configure(const QByteArray &lines)
 {
     moreConfiguration_ = lines;
     restart();
+}
+
+void PrivateCupsd::crash() const
+{
+    ::kill(static_cast<pid_t>(server_->processId()), SIGKILL);
+}
+
+void PrivateCupsd::limitFiles(qint64 bytes)
+{
+    largestFile_ = bytes;
+    restart();
+}
+
+QStringList PrivateCupsd::printedTitles() const
+{
+    QFile file(folder() + QStringLiteral("/out/printed"));
+    return file.open(QIODevice::ReadOnly)
+               ? QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts)
+               : QStringList();
+}
+
+std::vector<qint64> PrivateCupsd::documentSizes() const
+{
+    std::vector<qint64> sizes;
+    const QDir out(folder() + QStringLiteral("/out"));
+    for (const QFileInfo &document : out.entryInfoList({QStringLiteral("*.document")}, QDir::Files))
+        sizes.push_back(document.size());
+    return sizes;
 }
 
 bool PrivateCupsd::isRunning() const

@@ -52,6 +52,11 @@ public:
     /// Starts it at the same address, with the queues and jobs that it had; fails the test if it
     /// cannot.
     void restart();
+    /// Ends it as a crash does: nothing is written down, nothing is answered any more. From any
+    /// thread; restart() afterwards.
+    void crash() const;
+    /// Starts it anew so that no file can grow beyond that, as on a full disk.
+    void limitFiles(qint64 bytes);
     /// Starts it anew with these lines of configuration besides its own.
     void configure(const QByteArray &lines);
 
@@ -74,6 +79,12 @@ public:
     [[nodiscard]] int copies(int id) const; ///< never among the options
     [[nodiscard]] QByteArray document(int id) const;
 
+    /// Titles of the jobs whose document has reached the printer, in that order; also of those that
+    /// the server no longer knows.
+    [[nodiscard]] QStringList printedTitles() const;
+    /// Sizes of all documents at the printer.
+    [[nodiscard]] std::vector<qint64> documentSizes() const;
+
 private:
     void writeFiles() const;
     void start();
@@ -84,6 +95,7 @@ private:
     QTemporaryDir folder_;
     int port_ = 0;
     QByteArray moreConfiguration_;
+    qint64 largestFile_ = -1; ///< no limit
     std::unique_ptr<QProcess> server_;
     QByteArray formerServer_;
 };
