@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kLimitMilliseconds = 250;
 constexpr int kHealthyMilliseconds = 20'000;
-constexpr int kMostPresses = 4;
+constexpr int kMostPresses = 6;
 constexpr int kHttpStatus[] = {400, 401, 403, 404, 413, 426, 500, 501, 503, 505};
 constexpr int kIppStatus[] = {
     IPP_STATUS_ERROR_FORBIDDEN,           IPP_STATUS_ERROR_NOT_POSSIBLE,
@@ -46,14 +46,21 @@ int limitFor(FaultKind kind)
     return isCut ? kHealthyMilliseconds : kLimitMilliseconds;
 }
 
-/// What a healthy job takes.
+/// What a healthy job takes at least: on a busy machine the server is asked more often how the job
+/// does.
 Exchange measured(QueueSession &session)
 {
-    session.faults().misbehave({});
+    constexpr int kRounds = 3;
     const auto printing = session.printing(kHealthyMilliseconds);
-    const Pressed pressed = session.press(*printing, q("measured"));
-    EXPECT_GT(pressed.result.jobId, 0) << pressed.result.detail.toStdString();
-    return {session.faults().requestBytes(), session.faults().answerBytes()};
+    Exchange least{INT64_MAX, INT64_MAX};
+    for (int i = 0; i < kRounds; ++i) {
+        session.faults().misbehave({});
+        const Pressed pressed = session.press(*printing, q("measured"));
+        EXPECT_GT(pressed.result.jobId, 0) << pressed.result.detail.toStdString();
+        least.requestBytes = std::min(least.requestBytes, session.faults().requestBytes());
+        least.answerBytes = std::min(least.answerBytes, session.faults().answerBytes());
+    }
+    return least;
 }
 
 struct Ended

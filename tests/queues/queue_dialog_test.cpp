@@ -20,6 +20,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cups/cups.h>
+
 #include <thread>
 
 using namespace dialog;
@@ -327,6 +329,124 @@ TEST_F(QueueDialogs, SayThatAServerHasNoPrintersAndFindOneThatComes)
     server.addQueue(q("ink"), samplePpd("Korvane-S300.ppd"));
     EXPECT_TRUE(run.untilReady("ink"));
     EXPECT_TRUE(run.notices().isEmpty()) << run.notices().join(u'\n').toStdString();
+}
+
+TEST_F(QueueDialogs, PrintOneJobWhenPrintIsDoubleClicked)
+{
+    addQueues();
+    const Visit run(Visit::quick(), q("ink"));
+    ASSERT_TRUE(run.untilReady("ink"));
+    QSignalSpy made(&run.dialog(), &QueueDialog::jobMade);
+    QPushButton *print = run.button("printButton");
+    // What a window system sends: press, release, double click, release.
+    QTest::mouseClick(print, Qt::LeftButton);
+    QTest::mouseDClick(print, Qt::LeftButton);
+    QTest::mouseRelease(print, Qt::LeftButton);
+    ASSERT_TRUE(run.until([&] { return !made.isEmpty() && server.printedTitles().size() == 1; }))
+        << run.notices().join(u'\n').toStdString();
+    EXPECT_EQ(made.size(), 1);
+    EXPECT_FALSE(server.run(q("lpstat"), {q("-W"), q("all"), q("-o")}).contains("ink-2"));
+}
+
+TEST_F(QueueDialogs, KeepWhatWasChosenThroughEveryFailure)
+{
+    struct Failure
+    {
+        const char *told;
+        std::function<void()> happen;
+        std::function<void()> pass;
+    };
+    addQueues();
+    const auto run = [this](const char *command, const QStringList &words) {
+        server.run(q(command), words);
+    };
+    const Failure failures[] = {
+        {"takes no jobs", [&] { run("cupsreject", {q("ink")}); },
+         [&] { run("cupsaccept", {q("ink")}); }},
+        {"no longer has",
+         [&] {
+             run("lpadmin", {q("-x"), q("ink")});
+         },
+         [&] { server.addQueue(q("ink"), samplePpd("Korvane-S300.ppd")); }},
+        {"no print server", [&] { server.stop(); }, [&] { server.restart(); }},
+    };
+    const Visit visit(Visit::quick(), q("ink"));
+    ASSERT_TRUE(visit.untilReady("ink"));
+    visit.choose("ibPaperType", "IronOn");
+    QSignalSpy made(&visit.dialog(), &QueueDialog::jobMade);
+    for (const Failure &failure : failures) {
+        SCOPED_TRACE(failure.told);
+        failure.happen();
+        visit.button("printButton")->click();
+        ASSERT_TRUE(visit.untilNotice(failure.told)) << visit.notices().join(u'\n').toStdString();
+        ASSERT_TRUE(visit.until([&] { return visit.button("printButton")->isEnabled(); }));
+        EXPECT_SAME(visit.printer().marked(q("MediaType")), q("IronOn"));
+        EXPECT_SAME(visit.popUp("ibPaperType")->currentData().toString(), q("IronOn"));
+        EXPECT_EQ(made.size(), 0);
+        failure.pass();
+        visit.button("printButton")->click();
+        ASSERT_TRUE(visit.until([&] { return made.size() == 1; }))
+            << visit.notices().join(u'\n').toStdString();
+        const int job = made.takeFirst().first().value<JobRecord>().id.toInt();
+        ASSERT_TRUE(server.waitForJob(job));
+        const FilterOptions options = server.options(job);
+        EXPECT_NE(std::find(options.begin(), options.end(), std::pair(q("MediaType"), q("IronOn"))),
+                  options.end());
+    }
+}
+
+TEST_F(QueueDialogs, ShowClassesAndQueuesOfOtherServersAndPrintToThem)
+{
+    addQueues();
+    server.run(q("lpadmin"), {q("-p"), q("ink"), q("-c"), q("floor")});
+    server.run(q("cupsenable"), {q("floor")});
+    server.run(q("cupsaccept"), {q("floor")});
+    PrivateCupsd other;
+    ASSERT_TRUE(
+        QFile::link(q("/usr/lib/cups/backend/ipp"), other.folder() + q("/bin/backend/ipp")));
+    other.run(q("lpadmin"), {q("-p"), q("far"), q("-E"), q("-v"),
+                             q("ipp://") + server.address() + q("/printers/ink")});
+    {
+        const Visit run(Visit::quick(), q("far"));
+        ASSERT_TRUE(run.untilReady("far"));
+        QSignalSpy made(&run.dialog(), &QueueDialog::jobMade);
+        run.button("printButton")->click();
+        ASSERT_TRUE(run.until([&] { return made.size() == 1; }))
+            << run.notices().join(u'\n').toStdString();
+        EXPECT_TRUE(run.until([&] { return server.printedTitles().size() == 1; }));
+    }
+    qputenv("CUPS_SERVER", server.address().toLatin1());
+    cupsSetServer(server.address().toLatin1().constData());
+    const Visit run(Visit::quick(), q("floor"));
+    ASSERT_TRUE(run.untilReady("floor")) << run.notices().join(u'\n').toStdString();
+    ASSERT_TRUE(run.until([&] { return run.dialog().picker().offered().contains(q("floor")); }));
+    EXPECT_FALSE(run.dialog().printDialog()->panels().loaded().empty())
+        << "a class has its members' options";
+    QSignalSpy made(&run.dialog(), &QueueDialog::jobMade);
+    run.button("printButton")->click();
+    ASSERT_TRUE(run.until([&] { return made.size() == 1; }))
+        << run.notices().join(u'\n').toStdString();
+    EXPECT_TRUE(run.until([&] { return server.printedTitles().size() == 2; }));
+}
+
+TEST_F(QueueDialogs, PrintToADriverlessQueueWithoutTheMakersPanels)
+{
+    server.addQueue(q("plain"), "*PPD-Adobe: \"4.3\"\n"
+                                "*LanguageEncoding: UTF-8\n"
+                                "*NickName: \"Somebody's Printer, driverless\"\n"
+                                "*OpenUI *Duplex/2-Sided: PickOne\n"
+                                "*DefaultDuplex: None\n"
+                                "*Duplex None/Off: \"\"\n"
+                                "*Duplex DuplexNoTumble/Long Edge: \"\"\n"
+                                "*CloseUI: *Duplex\n");
+    const Visit run(Visit::quick(), q("plain"));
+    ASSERT_TRUE(run.untilReady("plain"));
+    EXPECT_TRUE(run.dialog().printDialog()->panels().loaded().empty());
+    QSignalSpy made(&run.dialog(), &QueueDialog::jobMade);
+    run.button("printButton")->click();
+    ASSERT_TRUE(run.until([&] { return made.size() == 1; }))
+        << run.notices().join(u'\n').toStdString();
+    EXPECT_TRUE(server.waitForJob(made.first().first().value<JobRecord>().id.toInt()));
 }
 
 TEST_F(QueueDialogs, SayWhatIsWrongWithABrokenPpd)
