@@ -2,6 +2,7 @@
 
 #include "dialog/presets/preset_messages.h"
 #include "platform/controls/pop_up_button.h"
+#include "platform/controls/spoken_label.h"
 
 #include <QAction>
 #include <QHBoxLayout>
@@ -63,7 +64,6 @@ PresetBar::PresetBar(QWidget *parent) : QWidget(parent)
     rows->addWidget(differencesView_ = makeDifferencesView());
     nameRow_->hide();
     differencesView_->hide();
-    setFocusProxy(popUp_);
     setEntries({{}});
 }
 
@@ -80,6 +80,7 @@ QWidget *PresetBar::makeChoiceRow()
     auto *row = new QHBoxLayout(choice);
     row->setContentsMargins({});
     row->addWidget(popUp_, 1);
+    addSpokenLabel(popUp_, tr("Presets"));
     row->addWidget(changed_);
     row->addWidget(makeMenuButton());
     connect(popUp_, &QComboBox::activated, this, &PresetBar::pick);

@@ -41,7 +41,8 @@ QLabel *literalLabel(const QString &text)
 QLabel *labelOf(QWidget *control, const QString &text)
 {
     QLabel *label = literalLabel(text);
-    label->setBuddy(control);
+    auto *inside = control->findChild<PopUpButton *>(); // of a control made of several
+    label->setBuddy(inside ? inside : control);
     return label;
 }
 

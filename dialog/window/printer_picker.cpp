@@ -2,6 +2,7 @@
 
 #include "dialog/window/printer_words.h"
 #include "platform/controls/pop_up_button.h"
+#include "platform/controls/spoken_label.h"
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
@@ -31,7 +32,7 @@ PrinterPicker::PrinterPicker(QWidget *parent)
     column->addWidget(popUp_);
     column->addWidget(filter_);
     column->addWidget(state_);
-    setFocusProxy(popUp_);
+    addSpokenLabel(popUp_, tr("Printer"));
     connect(popUp_, &QComboBox::activated, this, &PrinterPicker::pick);
     connect(filter_, &QLineEdit::textChanged, this, &PrinterPicker::fillPopUp);
 }
