@@ -1,14 +1,16 @@
 #include "dialog/print_dialog.h"
 
-#include "dialog/choice_words.h"
 #include "dialog/jobs/document.h"
+#include "dialog/panels/features_panel.h"
 #include "dialog/panels/layout_panel.h"
 #include "dialog/panels/summary_panel.h"
 #include "dialog/preview/job_look.h"
 #include "dialog/preview/preview_pane.h"
 #include "dialog/printers/errand.h"
 #include "dialog/printers/ppd_cache.h"
+#include "dialog/printers/standard_options.h"
 #include "dialog/texts.h"
+#include "dialog/window/conflict_sheet.h"
 #include "dialog/window/help_window.h"
 #include "dialog/window/print_window.h"
 #include "dialog/window/printer_words.h"
@@ -52,8 +54,15 @@ QObject *openQueueLater(QObject *parent, const PrintCase &printCase,
     return runErrand<QueuePrinter>(parent, printCase.serverTimes.printer, open, take);
 }
 
-const QString kOfferGroup = QStringLiteral("offer:");
+const QString kUndoKey = QStringLiteral("undo");
 const QString kHelpKey = QStringLiteral("help");
+
+/// Options of the PPD that the window's own sections show.
+QStringList shownElsewhere(const PpdDocument &printer)
+{
+    return {QStringLiteral("PageSize"), QStringLiteral("PageRegion"),
+            counterpartOf(QStringLiteral("sides"), standardCounterparts(printer))};
+}
 
 } // namespace
 
@@ -98,9 +107,10 @@ QObject *PrintDialog::openLater(QObject *parent, const PrintCase &printCase,
 }
 
 PrintDialog::PrintDialog(const PrintCase &printCase, std::unique_ptr<PpdDocument> printer)
-    : case_(printCase), printer_(std::move(printer)), host_(*printer_),
-      desk_(case_, *printer_, host_), panels_(host_),
-      presets_(*printer_, host_, [](const QString &, const auto &change) { change(); })
+    : case_(printCase), printer_(std::move(printer)), host_(*printer_), history_(host_),
+      conflicts_(*printer_, host_, history_), desk_(case_, *printer_, host_), panels_(host_),
+      presets_(*printer_, host_,
+               [this](const QString &title, const auto &change) { changeWithUndo(title, change); })
 {
     host_.followPageSize();
     formerHelpOpener_ = platform::setHelpOpener(
@@ -123,7 +133,9 @@ PrintDialog::~PrintDialog()
 
 void PrintDialog::connectParts()
 {
-    connect(&host_, &DialogHost::judged, this, &PrintDialog::showOutcome);
+    connect(&history_, &UndoHistory::changed, this, &PrintDialog::offerUndo);
+    connect(&conflicts_, &ConflictDesk::noticed, this, &PrintDialog::notify);
+    connect(&conflicts_, &ConflictDesk::asked, this, &PrintDialog::noticeShown);
     connect(&host_, &DialogHost::stateChanged, this, &PrintDialog::takeChange);
     connect(&panels_, &PanelStack::noticed, this, &PrintDialog::notify);
     connect(&desk_, &JobDesk::noticed, this, &PrintDialog::notify);
@@ -176,9 +188,16 @@ void PrintDialog::connectWindow()
             qOverload<const Notice &>(&NoticeArea::show));
     connect(&desk_, &JobDesk::dismissed, &window_->notices(), &NoticeArea::dismiss);
     connect(&host_, &DialogHost::panelResized, window_, &PrintWindow::fitContents);
-    // What an earlier action was refused is told, and past, once a person tries something else.
+    connect(&conflicts_, &ConflictDesk::dismissed, &window_->notices(), &NoticeArea::dismissGroup);
+    conflicts_.setSheet(&window_->conflictSheet());
+    connect(window_, &PrintWindow::resetRequested, this, &PrintDialog::resetToDefaults);
+    connect(window_, &PrintWindow::undoRequested, &history_, &UndoHistory::undo);
+    connect(window_, &PrintWindow::redoRequested, &history_, &UndoHistory::redo);
+    // There is something newer to undo, or nothing any more.
     connect(&host_, &DialogHost::actionBegan, &window_->notices(),
-            [this] { window_->notices().dismissGroup(kOfferGroup); });
+            [this] { window_->notices().dismiss(kUndoKey); });
+    connect(&history_, &UndoHistory::undone, &window_->notices(),
+            [this] { window_->notices().dismiss(kUndoKey); });
 }
 
 void PrintDialog::buildPresets()
@@ -209,7 +228,13 @@ void PrintDialog::buildPanels()
 {
     auto *layout = new LayoutPanel(host_.settings());
     connect(layout, &LayoutPanel::settingsChanged, this, &PrintDialog::setSettings);
-    panels_.showIn(*window_, {layout}, {makeSummary()});
+    std::vector<OwnPanel *> following;
+    auto features = std::make_unique<FeaturesPanel>(
+        *printer_, host_, panels_.claimedOptions() + shownElsewhere(*printer_));
+    if (!features->isEmpty())
+        following.push_back(features.release());
+    following.push_back(makeSummary());
+    panels_.showIn(*window_, {layout}, following);
     panels_.bringForward(panels_.firstIndex());
 }
 
@@ -288,8 +313,8 @@ void PrintDialog::showOwnHelp()
     notify({kHelpKey,
             Severity::Information,
             tr("Choose a group of settings from the pop-up menu, change what you need, and press "
-               "Print. A choice that the printer cannot combine with another one is refused, and "
-               "a notice says which one is in the way."),
+               "Print. Where the printer cannot combine a choice with another one, the window says "
+               "which one is in the way, and what could change instead."),
             {}});
 }
 
@@ -309,17 +334,20 @@ void PrintDialog::showBook(const platform::HelpRequest &request)
     helpWindow_->showPage(request.bookName, page, request.anchor);
 }
 
-void PrintDialog::showOutcome(const OfferOutcome &outcome)
+/// The printer's, and nothing said beside them.
+void PrintDialog::resetToDefaults()
 {
-    const Choice &offered = outcome.offered;
-    const QString key = kOfferGroup + offered.option;
-    if (outcome.verdict == OfferVerdict::Conflicts)
-        notify({key,
-                Severity::Warning,
-                forbiddenWords(*printer_, offered, outcome.inTheWay.front()),
-                {}});
-    else if (outcome.verdict == OfferVerdict::Refused)
-        notify({key, Severity::Warning, refusedWords(*printer_, offered), {}});
+    changeWithUndo(tr("Reset to Defaults"), [this] {
+        host_.setState({printer_->defaults(), {}, {}, {}});
+    });
+}
+
+void PrintDialog::offerUndo(const QString &title)
+{
+    notify({kUndoKey,
+            Severity::Information,
+            tr("Changed: %1").arg(title),
+            {{tr("Undo"), QStringLiteral("undoButton"), [this] { history_.undo(); }}}});
 }
 
 void PrintDialog::notify(const Notice &notice)

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "dialog/conflict_desk.h"
 #include "dialog/host/dialog_host.h"
+#include "dialog/host/undo_history.h"
 #include "dialog/job_desk.h"
 #include "dialog/panel_stack.h"
 #include "dialog/presets/preset_desk.h"
@@ -71,6 +73,13 @@ public:
 
     /// A person sits in front of the window, who can be asked for a name and password.
     void offerSignIn();
+    /// Makes a change of several settings that a person can take back: a notice names it and offers
+    /// that. @p function changes what is set, in whatever way.
+    void changeWithUndo(const QString &title, const std::function<void()> &function)
+    {
+        history_.change(title, function);
+    }
+
     CommitResult commit() { return host_.commitPanels(); }
     void setDocument(const QString &path);
     /// Commits and prints, or shows a notice that says why not.
@@ -97,7 +106,8 @@ private:
     void showHelp();
     void showOwnHelp();
     void showBook(const platform::HelpRequest &request);
-    void showOutcome(const OfferOutcome &outcome);
+    void resetToDefaults();
+    void offerUndo(const QString &title);
     void notify(const Notice &notice);
     void takeChange();
     void showPreview();
@@ -111,6 +121,8 @@ private:
     PrintCase case_;
     std::unique_ptr<PpdDocument> printer_;
     DialogHost host_;
+    UndoHistory history_;
+    ConflictDesk conflicts_;
     JobDesk desk_;
     PanelStack panels_;
     PresetDesk presets_;

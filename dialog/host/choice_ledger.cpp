@@ -1,20 +1,8 @@
 #include "dialog/host/choice_ledger.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace dialog {
-namespace {
-
-QString markedChoice(const Choices &marks, const QString &option)
-{
-    const auto found = std::find_if(marks.begin(), marks.end(), [&](const Choice &mark) {
-        return mark.option.compare(option, Qt::CaseInsensitive) == 0;
-    });
-    return found == marks.end() ? QString() : found->choice;
-}
-
-} // namespace
 
 void ChoiceLedger::beginAction()
 {
@@ -39,7 +27,7 @@ std::vector<Difference> ChoiceLedger::differences(const Choices &marks) const
 {
     std::vector<Difference> differences;
     for (const auto &[option, choice] : chosen_) {
-        const QString marked = markedChoice(marks, option);
+        const QString marked = joinedChoices(marks, option);
         if (marked.isNull() || marked.compare(choice, Qt::CaseInsensitive) != 0)
             differences.push_back({option, choice, marked});
     }

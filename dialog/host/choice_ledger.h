@@ -10,8 +10,8 @@ namespace dialog {
 struct Difference
 {
     QString option;
-    QString chosen;
-    QString marked; ///< null when nothing is marked
+    QString chosen; ///< several choices of one option are joined by commas
+    QString marked; ///< likewise; null when nothing is marked
 
     bool operator==(const Difference &) const = default;
 };

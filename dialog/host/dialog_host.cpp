@@ -66,9 +66,9 @@ bool DialogHost::takesRefusal(const QString &option)
 
 bool DialogHost::answer(const Choice &offered)
 {
-    const OfferOutcome outcome = judge(offered);
+    OfferOutcome outcome = judge(offered);
     if (!called_ && namesKnownChoice(outcome.verdict))
-        recordPersonsOffer(outcome);
+        outcome.by = recordPersonsOffer(outcome);
     const bool accepted = outcome.verdict == OfferVerdict::Accepted;
     if (accepted)
         accept(offered);
@@ -85,16 +85,30 @@ bool DialogHost::commit(const Choice &offered)
     return known;
 }
 
-void DialogHost::recordPersonsOffer(const OfferOutcome &outcome)
+/// The first offer of an action passes for the person's own, the others for a rule's.
+OfferedBy DialogHost::recordPersonsOffer(const OfferOutcome &outcome)
 {
+    const OfferedBy by = isActionOpen_ ? OfferedBy::Rule : OfferedBy::Person;
     openAction();
-    ledger_.recordOffer(outcome.offered);
+    ledger_.recordOffer(asChosen(outcome.offered));
+    return by;
+}
+
+/// Of an option where several choices can stand, all that are chosen with this one.
+Choice DialogHost::asChosen(const Choice &choice) const
+{
+    if (!printer_.isPickMany(choice.option))
+        return choice;
+    return {choice.option,
+            marksAfterSwitching(printer_.option(choice.option), printer_.allMarked(choice.option),
+                                choice.choice, Switch::On)
+                .join(u',')};
 }
 
 void DialogHost::recordPersonsChoice(const Choice &choice)
 {
     openAction();
-    ledger_.recordAction(choice);
+    ledger_.recordAction(asChosen(choice));
     announceChange();
 }
 
@@ -154,16 +168,17 @@ CommitResult DialogHost::commitPanels()
 void DialogHost::takeMarksAsChosen()
 {
     const Choices &defaults = printer_.defaults();
-    for (const Choice &mark : printer_.marks()) {
+    const Choices marks = printer_.marks();
+    for (const Choice &mark : marks) {
         if (std::find(defaults.begin(), defaults.end(), mark) == defaults.end())
-            ledger_.recordChosen(mark);
+            ledger_.recordChosen({mark.option, joinedChoices(marks, mark.option)});
     }
 }
 
 void DialogHost::changeFromElsewhere(const Choice &choice)
 {
     if (printer_.hasChoice(choice))
-        ledger_.recordChosen(choice);
+        ledger_.recordChosen(asChosen(choice));
     printer_.mark(choice);
     followPageSize();
     tellPanels({choice, nullptr});
@@ -172,7 +187,9 @@ void DialogHost::changeFromElsewhere(const Choice &choice)
 
 OfferOutcome DialogHost::choose(const Choice &choice)
 {
+    Q_EMIT actionBegan();
     OfferOutcome outcome = judge(choice);
+    outcome.by = OfferedBy::Person;
     if (outcome.verdict == OfferVerdict::Accepted) {
         deliverChanges(); // in the order in which they were made
         dropStandIns(choice.option);
@@ -192,6 +209,32 @@ void DialogHost::dropStandIns(const QString &option)
     }
     if (option == kPageSize)
         paperName_ = QString();
+}
+
+OfferOutcome DialogHost::switchChoice(const Choice &choice, Switch to)
+{
+    if (!printer_.isPickMany(choice.option))
+        return choose(choice);
+    const QStringList before = printer_.allMarked(choice.option);
+    const QStringList after =
+        marksAfterSwitching(printer_.option(choice.option), before, choice.choice, to);
+    const auto added = std::find_if(after.begin(), after.end(), [&](const QString &keyword) {
+        return !before.contains(keyword);
+    });
+    Q_EMIT actionBegan();
+    OfferOutcome outcome{OfferVerdict::Accepted, choice, {}};
+    if (added != after.end())
+        outcome = judge({choice.option, *added});
+    outcome.by = OfferedBy::Person;
+    if (outcome.verdict == OfferVerdict::Accepted) {
+        deliverChanges();
+        ledger_.recordChosen({choice.option, after.join(u',')});
+        printer_.setMarked(choice.option, after);
+        tellPanels({{choice.option, after.value(0)}, nullptr});
+        announceChange();
+    }
+    Q_EMIT judged(outcome);
+    return outcome;
 }
 
 void DialogHost::setSetting(const QString &key, const QVariant &value)

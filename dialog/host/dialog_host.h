@@ -3,6 +3,7 @@
 #include "dialog/host/choice_ledger.h"
 #include "dialog/host/choice_state.h"
 #include "dialog/host/offer.h"
+#include "dialog/printers/option_groups.h"
 #include "platform/panel_protocol.h"
 
 #include <QObject>
@@ -71,6 +72,9 @@ public:
     /// an accepted one is marked and reaches every panel, any other leaves everything as it was.
     /// The last word counts: print settings that would stand for the option go.
     OfferOutcome choose(const Choice &choice);
+    /// The same of an option where several choices can stand: switches one of them on or off. Of
+    /// any other option, On chooses.
+    OfferOutcome switchChoice(const Choice &choice, Switch to);
     /// A person's print setting, and what is kept in step with it; an invalid value removes it.
     void setSetting(const QString &key, const QVariant &value);
     [[nodiscard]] ChoiceState state() const;
@@ -92,7 +96,7 @@ public:
     [[nodiscard]] const ChoiceLedger &ledger() const { return ledger_; }
 
 Q_SIGNALS:
-    /// A person's action made its first offer.
+    /// A person's action made its first offer, or used a control of the dialog's own.
     void actionBegan();
     /// Every offer, with the answer that the panel gets; commits included.
     void answered(const dialog::Choice &choice, bool accepted);
@@ -116,7 +120,8 @@ private:
     [[nodiscard]] bool takesRefusal(const QString &option);
     [[nodiscard]] bool answer(const Choice &offered);
     [[nodiscard]] bool commit(const Choice &offered);
-    void recordPersonsOffer(const OfferOutcome &outcome);
+    [[nodiscard]] OfferedBy recordPersonsOffer(const OfferOutcome &outcome);
+    [[nodiscard]] Choice asChosen(const Choice &choice) const;
     void openAction();
     void accept(const Choice &offered);
     void queueChange(const Change &change);

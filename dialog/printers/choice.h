@@ -17,6 +17,10 @@ struct Choice
 
 using Choices = std::vector<Choice>;
 
+/// What is marked of an option as one word, the way a job says it: several choices joined by
+/// commas; null when nothing is.
+[[nodiscard]] QString joinedChoices(const Choices &marks, const QString &option);
+
 /// Two marked choices that a constraint of the PPD forbids together.
 struct Conflict
 {

@@ -350,6 +350,12 @@ QString PpdDocument::translatedText(const char *name, const char *specifier) con
     return {};
 }
 
+PrinterOption PpdDocument::option(const QString &keyword) const
+{
+    const ppd_option_t *found = findOption(ppd_.get(), keyword);
+    return found ? optionFrom(ppd_.get(), *found, defaults_) : PrinterOption();
+}
+
 QStringList PpdDocument::options() const
 {
     QStringList keywords;
@@ -400,6 +406,18 @@ QString PpdDocument::marked(const QString &option) const
 {
     const ppd_choice_t *choice = ppdFindMarkedChoice(ppd_.get(), option.toUtf8().constData());
     return choice ? decodedUtf8(choice->choice) : QString();
+}
+
+QStringList PpdDocument::allMarked(const QString &option) const
+{
+    QStringList keywords;
+    if (const ppd_option_t *found = findOption(ppd_.get(), option)) {
+        for (const ppd_choice_t &choice : choicesOf(*found)) {
+            if (choice.marked)
+                keywords.append(decodedUtf8(choice.choice));
+        }
+    }
+    return keywords;
 }
 
 Choices PpdDocument::marks() const

@@ -71,6 +71,8 @@ public:
     /// Every option in its group; subgroups count to the group that they stand in. Values that a
     /// person can type are not among the choices.
     [[nodiscard]] OptionGroups groups() const;
+    /// One option; without choices where it is unknown.
+    [[nodiscard]] PrinterOption option(const QString &keyword) const;
     [[nodiscard]] QStringList options() const;
     [[nodiscard]] QStringList choices(const QString &option) const;
     [[nodiscard]] bool hasOption(const QString &option) const;
@@ -83,6 +85,8 @@ public:
 
     /// Null when nothing is marked; the first one where several are.
     [[nodiscard]] QString marked(const QString &option) const;
+    /// Every marked choice of an option.
+    [[nodiscard]] QStringList allMarked(const QString &option) const;
     /// Every marked choice, in the order of the PPD; a pick-many option has one entry per choice.
     [[nodiscard]] Choices marks() const;
     /// The same for the defaults; independent of what is marked.

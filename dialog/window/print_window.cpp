@@ -1,6 +1,7 @@
 #include "dialog/window/print_window.h"
 
 #include "dialog/preview/preview_pane.h"
+#include "dialog/window/conflict_sheet.h"
 #include "dialog/window/content_scroll.h"
 #include "dialog/window/notice_area.h"
 #include "dialog/window/print_button.h"
@@ -19,6 +20,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -73,12 +75,18 @@ PrintWindow::PrintWindow(QWidget *printer, const QString &document) : printer_(p
     rows->addLayout(columns, 1);
     rows->addWidget(makeButtons());
     connect(notices_, &NoticeArea::heightChanged, this, &PrintWindow::fitContents);
+    connect(conflictSheet_, &ConflictSheet::heightChanged, this, &PrintWindow::fitContents);
+    connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this,
+            &PrintWindow::undoRequested);
+    connect(new QShortcut(QKeySequence::Redo, this), &QShortcut::activated, this,
+            &PrintWindow::redoRequested);
 }
 
 QWidget *PrintWindow::makeSettings(QWidget *printer, const QString &document)
 {
     auto *settings = new QWidget(this);
     settings->setMinimumWidth(kMinimumSettingsWidth);
+    conflictSheet_ = new ConflictSheet(settings);
     notices_ = new NoticeArea(settings);
     generalPlace_ = new QVBoxLayout;
     auto *column = new QVBoxLayout(settings);
@@ -88,6 +96,7 @@ QWidget *PrintWindow::makeSettings(QWidget *printer, const QString &document)
     column->addWidget(separator());
     column->addWidget(makeChooser());
     column->addWidget(panelPlace_, 1);
+    column->addWidget(conflictSheet_);
     column->addWidget(notices_);
     questionPlace_ = new QVBoxLayout;
     column->addLayout(questionPlace_);
@@ -197,6 +206,7 @@ void PrintWindow::clearPanels()
     front_ = -1;
     widest_ = 0;
     setPrintProblem({});
+    conflictSheet_->withdraw();
     notices_->dismissGroup({});
 }
 

@@ -16,6 +16,7 @@ class QVBoxLayout;
 
 namespace dialog {
 
+class ConflictSheet;
 class ContentScroll;
 class NoticeArea;
 class PreviewPane;
@@ -63,6 +64,7 @@ public:
     [[nodiscard]] NoticeArea &notices() const { return *notices_; }
     /// Stays when the printer changes.
     [[nodiscard]] PreviewPane &preview() const { return *preview_; }
+    [[nodiscard]] ConflictSheet &conflictSheet() const { return *conflictSheet_; }
     [[nodiscard]] PopUpButton *panelPopUp() const { return popUp_; }
     [[nodiscard]] QWidget *view(int index) const;
 
@@ -71,6 +73,9 @@ Q_SIGNALS:
     void helpRequested();
     void resetRequested();
     void printRequested();
+    /// The usual keys for it, anywhere but in a text that can take back its own typing.
+    void undoRequested();
+    void redoRequested();
     /// Cancel, Escape or the close button; once.
     void left();
 
@@ -104,6 +109,7 @@ private:
     ContentScroll *panelPlace_ = nullptr;
     QVBoxLayout *panelLayout_ = nullptr;
     QLabel *waiting_ = nullptr;
+    ConflictSheet *conflictSheet_ = nullptr;
     NoticeArea *notices_ = nullptr;
     QVBoxLayout *questionPlace_ = nullptr;
     QPointer<QWidget> question_;

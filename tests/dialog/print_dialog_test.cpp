@@ -1,5 +1,6 @@
 #include "dialog/print_dialog.h"
 #include "dialog/replay/input.h"
+#include "dialog/window/conflict_sheet.h"
 #include "dialog/window/print_window.h"
 #include "platform/controls/pop_up_button.h"
 #include "tests/dialog/staged_driver.h"
@@ -51,20 +52,25 @@ TEST_F(OpenDialog, ListsThePanelsInTheirOrder)
     ASSERT_EQ(dialog->panels().loaded().size(), 2U);
     EXPECT_TEXT(dialog->panels().loaded()[0].title, "Basics");
     EXPECT_TEXT(dialog->panels().loaded()[1].kind, "com.example.extras");
-    EXPECT_EQ(dialog->window()->panelPopUp()->count(), 4) << "layout, two panels, the summary";
+    EXPECT_EQ(dialog->window()->panelPopUp()->count(), 5)
+        << "layout, two panels, printer features, the summary";
     EXPECT_EQ(dialog->panels().frontIndex(), 1) << "the first of the plug-in";
     EXPECT_TRUE(notices().isEmpty());
 }
 
-TEST_F(OpenDialog, ARefusalStandsUntilAPersonTriesSomethingElse)
+TEST_F(OpenDialog, AConflictIsAskedAboutUntilAPersonTriesSomethingElse)
 {
+    const ConflictSheet &sheet = dialog->window()->conflictSheet();
     choose("ibQuality", 0);
     choose("ibMedia", 1);
-    ASSERT_EQ(notices().size(), 1);
-    EXPECT_TEXT(notices().first(), "“Paper Type: Iron-On Transfer” cannot be used together with "
-                                   "“Print Quality: Quick”.");
-    choose("ibQuality", 2);
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(sheet.isVisible());
+    EXPECT_TEXT(sheet.question().problem,
+                "“Paper Type: Iron-On Transfer” cannot be used together with "
+                "“Print Quality: Quick”.");
     EXPECT_TRUE(notices().isEmpty());
+    choose("ibQuality", 2);
+    EXPECT_FALSE(sheet.isVisible());
 }
 
 TEST_F(OpenDialog, TheReviewNamesConflictsAndDroppedChoices)
