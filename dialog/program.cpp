@@ -16,6 +16,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include <algorithm>
@@ -112,6 +113,12 @@ bool writeReport(const QString &path, const QByteArray &json)
         return true;
     if (path == QLatin1String("-"))
         return writeOut(json);
+    // A device or a pipe is written to; another file must not take its place.
+    const QFileInfo target(path);
+    if (target.exists() && !target.isFile()) {
+        QFile stream(path);
+        return stream.open(QIODevice::WriteOnly) && stream.write(json) == json.size();
+    }
     QSaveFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit();
 }

@@ -9,7 +9,9 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using test::ProgramRun;
 using test::q;
@@ -300,6 +302,24 @@ TEST_F(Program, RefusedOffersAreAnsweredNoAndMarkNothing)
             answers.append(event[q("answer")].toBool());
     }
     EXPECT_EQ(answers, QList<bool>({false, true}));
+}
+
+TEST_F(Program, WritesTheReportIntoAPipeAndLeavesItOne)
+{
+    const QByteArray pipe = QFile::encodeName(driver.path(q("report")));
+    ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);
+    const int reader = open(pipe.constData(), O_RDWR | O_NONBLOCK);
+    const ProgramRun run =
+        runPrint({q("replay"), driver.write(q("a.txt"), "report start\n"), q("--ppd"),
+                    driver.writePrinter(), q("--report"), QFile::decodeName(pipe)});
+    EXPECT_EQ(run.status, 0) << run.errors.constData();
+    char start[2] = {};
+    EXPECT_EQ(read(reader, start, 1), 1);
+    EXPECT_STREQ(start, "{");
+    close(reader);
+    struct stat kind = {};
+    ASSERT_EQ(stat(pipe.constData(), &kind), 0);
+    EXPECT_TRUE(S_ISFIFO(kind.st_mode));
 }
 
 TEST_F(Program, AConflictingOfferIsRefusedWithBothTextsInANotice)
