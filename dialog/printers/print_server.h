@@ -13,8 +13,8 @@ namespace dialog {
 struct ServerTimes
 {
     std::chrono::milliseconds connect{3'000};
-    /// Without a single byte.
-    std::chrono::milliseconds silence{3'000};
+    /// Without a single byte; libcups waits for a second before it begins to count.
+    std::chrono::milliseconds silence{2'200};
     /// For a whole list of queues; one that trickles in byte by byte is given up.
     std::chrono::milliseconds list{3'300};
     /// For a whole PPD, which may be large and come from far away.

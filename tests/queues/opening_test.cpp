@@ -152,6 +152,16 @@ TEST_F(QueueOpening, RecordsAPrinterThatReplaysWithoutTheQueue)
     }
 }
 
+TEST(QueueOpeningFaults, AreToldWithinThreeAndAHalfSecondsByDefault)
+{
+    using namespace std::chrono_literals;
+    const ServerTimes times;
+    EXPECT_LE(times.connect, 3'500ms);
+    EXPECT_LE(times.silence + 1'000ms, 3'500ms) << "libcups waits for a second first";
+    EXPECT_LE(times.list, 3'500ms);
+    EXPECT_LE(ServerLimits().answerMilliseconds, 3'500);
+}
+
 TEST(QueueOpeningFaults, AreToldWhileTheMainThreadLives)
 {
     const UserFolders user;
