@@ -807,6 +807,66 @@
     </message>
 </context>
 <context>
+    <name>dialog::ChoiceDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictDesk</name>
+    <message>
+        <source>What is installed in the printer is set by whoever administers it.</source>
+        <translation>Was im Drucker eingebaut ist, stellt ein, wer ihn verwaltet.</translation>
+    </message>
+    <message>
+        <source>No change of a few other settings makes it possible.</source>
+        <translation>Keine Änderung weniger anderer Einstellungen macht es möglich.</translation>
+    </message>
+    <message>
+        <source>Keep It This Way</source>
+        <translation>So beibehalten</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictSheet</name>
+    <message>
+        <source>Keep What I Had</source>
+        <translation>Bisherige Einstellung behalten</translation>
+    </message>
+    <message>
+        <source>Make This Change</source>
+        <translation>Diese Änderung vornehmen</translation>
+    </message>
+    <message>
+        <source>What should change?</source>
+        <translation>Was soll sich ändern?</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FeaturesPanel</name>
+    <message>
+        <source>Printer Features</source>
+        <translation>Druckerfunktionen</translation>
+    </message>
+    <message>
+        <source>No feature matches.</source>
+        <translation>Keine Funktion passt.</translation>
+    </message>
+    <message>
+        <source>Find a feature</source>
+        <translation>Funktion suchen</translation>
+    </message>
+    <message>
+        <source>Whoever administers the printer sets these.</source>
+        <translation>Diese stellt ein, wer den Drucker verwaltet.</translation>
+    </message>
+    <message>
+        <source>Changed from the default “%1”</source>
+        <translation>Geändert, Standard ist „%1“</translation>
+    </message>
+</context>
+<context>
     <name>dialog::GeneralView</name>
     <message>
         <source>Collate</source>
@@ -982,6 +1042,128 @@
     </message>
 </context>
 <context>
+    <name>dialog::PresetBar</name>
+    <message>
+        <source>Presets</source>
+        <translation>Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>(changed)</source>
+        <translation>(geändert)</translation>
+    </message>
+    <message>
+        <source>The settings are others than those of the preset.</source>
+        <translation>Die Einstellungen sind andere als die der Voreinstellung.</translation>
+    </message>
+    <message>
+        <source>Manage</source>
+        <translation>Verwalten</translation>
+    </message>
+    <message>
+        <source>Manage presets</source>
+        <translation>Voreinstellungen verwalten</translation>
+    </message>
+    <message>
+        <source>Save, change and compare presets</source>
+        <translation>Voreinstellungen sichern, ändern und vergleichen</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Sichern unter …</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Umbenennen …</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Compare with Settings</source>
+        <translation>Mit Einstellungen vergleichen</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Name der Voreinstellung</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Differences from the preset</source>
+        <translation>Unterschiede zur Voreinstellung</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>In the Preset</source>
+        <translation>In der Voreinstellung</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>My Presets</source>
+        <translation>Meine Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>Presets of the Printer</source>
+        <translation>Voreinstellungen des Druckers</translation>
+    </message>
+    <message>
+        <source>Default Settings</source>
+        <translation>Standardeinstellungen</translation>
+    </message>
+    <message>
+        <source>Last Used Settings</source>
+        <translation>Zuletzt benutzte Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PresetDesk</name>
+    <message>
+        <source>Default Settings</source>
+        <translation>Standardeinstellungen</translation>
+    </message>
+    <message>
+        <source>Last Used Settings</source>
+        <translation>Zuletzt benutzte Einstellungen</translation>
+    </message>
+    <message>
+        <source>Preset “%1”</source>
+        <translation>Voreinstellung „%1“</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has the present settings now.</source>
+        <translation>Die Voreinstellung „%1“ hat jetzt die aktuellen Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has been deleted.</source>
+        <translation>Die Voreinstellung „%1“ wurde gelöscht.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+</context>
+<context>
     <name>dialog::PreviewPane</name>
     <message>
         <source>Preview</source>
@@ -1067,10 +1249,6 @@
 </context>
 <context>
     <name>dialog::PrintDialog</name>
-    <message>
-        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation>Wählen Sie im Einblendmenü eine Gruppe von Einstellungen, ändern Sie, was nötig ist, und drücken Sie „Drucken“. Was der Drucker nicht verbinden kann, wird abgelehnt; ein Hinweis nennt die Einstellung, die im Weg steht.</translation>
-    </message>
     <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. Where the printer cannot combine a choice with another one, the window says which one is in the way, and what could change instead.</source>
         <translation>Wählen Sie im Einblendmenü eine Gruppe von Einstellungen, ändern Sie, was nötig ist, und drücken Sie „Drucken“. Wo der Drucker eine Wahl nicht mit einer anderen verbinden kann, nennt das Fenster die, die im Weg steht, und was sich stattdessen ändern ließe.</translation>
@@ -1294,204 +1472,6 @@
     <message>
         <source>Copy as Text</source>
         <translation>Als Text kopieren</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ChoiceDelegate</name>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictDesk</name>
-    <message>
-        <source>What is installed in the printer is set by whoever administers it.</source>
-        <translation>Was im Drucker eingebaut ist, stellt ein, wer ihn verwaltet.</translation>
-    </message>
-    <message>
-        <source>No change of a few other settings makes it possible.</source>
-        <translation>Keine Änderung weniger anderer Einstellungen macht es möglich.</translation>
-    </message>
-    <message>
-        <source>Keep It This Way</source>
-        <translation>So beibehalten</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictSheet</name>
-    <message>
-        <source>Keep What I Had</source>
-        <translation>Bisherige Einstellung behalten</translation>
-    </message>
-    <message>
-        <source>Make This Change</source>
-        <translation>Diese Änderung vornehmen</translation>
-    </message>
-    <message>
-        <source>What should change?</source>
-        <translation>Was soll sich ändern?</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FeaturesPanel</name>
-    <message>
-        <source>Printer Features</source>
-        <translation>Druckerfunktionen</translation>
-    </message>
-    <message>
-        <source>No feature matches.</source>
-        <translation>Keine Funktion passt.</translation>
-    </message>
-    <message>
-        <source>Find a feature</source>
-        <translation>Funktion suchen</translation>
-    </message>
-    <message>
-        <source>Installed Options</source>
-        <translation>Eingebautes Zubehör</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Allgemein</translation>
-    </message>
-    <message>
-        <source>Job Control</source>
-        <translation>Auftragssteuerung</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>Weitere Optionen</translation>
-    </message>
-    <message>
-        <source>Whoever administers the printer sets these.</source>
-        <translation>Diese stellt ein, wer den Drucker verwaltet.</translation>
-    </message>
-    <message>
-        <source>Changed from the default “%1”</source>
-        <translation>Geändert, Standard ist „%1“</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PresetBar</name>
-    <message>
-        <source>Presets</source>
-        <translation>Voreinstellungen</translation>
-    </message>
-    <message>
-        <source>(changed)</source>
-        <translation>(geändert)</translation>
-    </message>
-    <message>
-        <source>The settings are others than those of the preset.</source>
-        <translation>Die Einstellungen sind andere als die der Voreinstellung.</translation>
-    </message>
-    <message>
-        <source>Manage</source>
-        <translation>Verwalten</translation>
-    </message>
-    <message>
-        <source>Manage presets</source>
-        <translation>Voreinstellungen verwalten</translation>
-    </message>
-    <message>
-        <source>Save, change and compare presets</source>
-        <translation>Voreinstellungen sichern, ändern und vergleichen</translation>
-    </message>
-    <message>
-        <source>Save As…</source>
-        <translation>Sichern unter …</translation>
-    </message>
-    <message>
-        <source>Update</source>
-        <translation>Aktualisieren</translation>
-    </message>
-    <message>
-        <source>Rename…</source>
-        <translation>Umbenennen …</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Löschen</translation>
-    </message>
-    <message>
-        <source>Compare with Settings</source>
-        <translation>Mit Einstellungen vergleichen</translation>
-    </message>
-    <message>
-        <source>Name of the preset</source>
-        <translation>Name der Voreinstellung</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Differences from the preset</source>
-        <translation>Unterschiede zur Voreinstellung</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Einstellung</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>Jetzt</translation>
-    </message>
-    <message>
-        <source>In the Preset</source>
-        <translation>In der Voreinstellung</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-    <message>
-        <source>My Presets</source>
-        <translation>Meine Voreinstellungen</translation>
-    </message>
-    <message>
-        <source>Presets of the Printer</source>
-        <translation>Voreinstellungen des Druckers</translation>
-    </message>
-    <message>
-        <source>Default Settings</source>
-        <translation>Standardeinstellungen</translation>
-    </message>
-    <message>
-        <source>Last Used Settings</source>
-        <translation>Zuletzt benutzte Einstellungen</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PresetDesk</name>
-    <message>
-        <source>Default Settings</source>
-        <translation>Standardeinstellungen</translation>
-    </message>
-    <message>
-        <source>Last Used Settings</source>
-        <translation>Zuletzt benutzte Einstellungen</translation>
-    </message>
-    <message>
-        <source>Preset “%1”</source>
-        <translation>Voreinstellung „%1“</translation>
-    </message>
-    <message>
-        <source>The preset “%1” has the present settings now.</source>
-        <translation>Die Voreinstellung „%1“ hat jetzt die aktuellen Einstellungen.</translation>
-    </message>
-    <message>
-        <source>The preset “%1” has been deleted.</source>
-        <translation>Die Voreinstellung „%1“ wurde gelöscht.</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
     </message>
 </context>
 </TS>

@@ -807,6 +807,66 @@
     </message>
 </context>
 <context>
+    <name>dialog::ChoiceDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictDesk</name>
+    <message>
+        <source>What is installed in the printer is set by whoever administers it.</source>
+        <translation>Lo que está instalado en la impresora lo ajusta quien la administra.</translation>
+    </message>
+    <message>
+        <source>No change of a few other settings makes it possible.</source>
+        <translation>Cambiar unos pocos ajustes no lo hace posible.</translation>
+    </message>
+    <message>
+        <source>Keep It This Way</source>
+        <translation>Dejarlo así</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictSheet</name>
+    <message>
+        <source>Keep What I Had</source>
+        <translation>Conservar lo que tenía</translation>
+    </message>
+    <message>
+        <source>Make This Change</source>
+        <translation>Hacer este cambio</translation>
+    </message>
+    <message>
+        <source>What should change?</source>
+        <translation>¿Qué debe cambiar?</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FeaturesPanel</name>
+    <message>
+        <source>Printer Features</source>
+        <translation>Funciones de la impresora</translation>
+    </message>
+    <message>
+        <source>No feature matches.</source>
+        <translation>Ninguna función coincide.</translation>
+    </message>
+    <message>
+        <source>Find a feature</source>
+        <translation>Buscar una función</translation>
+    </message>
+    <message>
+        <source>Whoever administers the printer sets these.</source>
+        <translation>Las ajusta quien administra la impresora.</translation>
+    </message>
+    <message>
+        <source>Changed from the default “%1”</source>
+        <translation>Cambiado; el valor predeterminado es «%1»</translation>
+    </message>
+</context>
+<context>
     <name>dialog::GeneralView</name>
     <message>
         <source>Collate</source>
@@ -982,6 +1042,128 @@
     </message>
 </context>
 <context>
+    <name>dialog::PresetBar</name>
+    <message>
+        <source>Presets</source>
+        <translation>Preajustes</translation>
+    </message>
+    <message>
+        <source>(changed)</source>
+        <translation>(cambiado)</translation>
+    </message>
+    <message>
+        <source>The settings are others than those of the preset.</source>
+        <translation>Los ajustes no son los del preajuste.</translation>
+    </message>
+    <message>
+        <source>Manage</source>
+        <translation>Gestionar</translation>
+    </message>
+    <message>
+        <source>Manage presets</source>
+        <translation>Gestionar preajustes</translation>
+    </message>
+    <message>
+        <source>Save, change and compare presets</source>
+        <translation>Guardar, cambiar y comparar preajustes</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Guardar como…</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualizar</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Cambiar nombre…</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Compare with Settings</source>
+        <translation>Comparar con los ajustes</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Nombre del preajuste</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Differences from the preset</source>
+        <translation>Diferencias con el preajuste</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>In the Preset</source>
+        <translation>En el preajuste</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>My Presets</source>
+        <translation>Mis preajustes</translation>
+    </message>
+    <message>
+        <source>Presets of the Printer</source>
+        <translation>Preajustes de la impresora</translation>
+    </message>
+    <message>
+        <source>Default Settings</source>
+        <translation>Ajustes predeterminados</translation>
+    </message>
+    <message>
+        <source>Last Used Settings</source>
+        <translation>Últimos ajustes usados</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PresetDesk</name>
+    <message>
+        <source>Default Settings</source>
+        <translation>Ajustes predeterminados</translation>
+    </message>
+    <message>
+        <source>Last Used Settings</source>
+        <translation>Últimos ajustes usados</translation>
+    </message>
+    <message>
+        <source>Preset “%1”</source>
+        <translation>Preajuste «%1»</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has the present settings now.</source>
+        <translation>El preajuste «%1» tiene ahora los ajustes actuales.</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has been deleted.</source>
+        <translation>Se ha eliminado el preajuste «%1».</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+</context>
+<context>
     <name>dialog::PreviewPane</name>
     <message>
         <source>Preview</source>
@@ -1067,10 +1249,6 @@
 </context>
 <context>
     <name>dialog::PrintDialog</name>
-    <message>
-        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation>Elija un grupo de ajustes en el menú desplegable, cambie lo que necesite y pulse Imprimir. Se rechaza la opción que la impresora no puede combinar con otra, y un aviso indica cuál lo impide.</translation>
-    </message>
     <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. Where the printer cannot combine a choice with another one, the window says which one is in the way, and what could change instead.</source>
         <translation>Elija un grupo de ajustes en el menú desplegable, cambie lo que necesite y pulse Imprimir. Si la impresora no puede combinar una opción con otra, la ventana indica cuál lo impide y qué podría cambiar en su lugar.</translation>
@@ -1294,204 +1472,6 @@
     <message>
         <source>Copy as Text</source>
         <translation>Copiar como texto</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ChoiceDelegate</name>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictDesk</name>
-    <message>
-        <source>What is installed in the printer is set by whoever administers it.</source>
-        <translation>Lo que está instalado en la impresora lo ajusta quien la administra.</translation>
-    </message>
-    <message>
-        <source>No change of a few other settings makes it possible.</source>
-        <translation>Cambiar unos pocos ajustes no lo hace posible.</translation>
-    </message>
-    <message>
-        <source>Keep It This Way</source>
-        <translation>Dejarlo así</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictSheet</name>
-    <message>
-        <source>Keep What I Had</source>
-        <translation>Conservar lo que tenía</translation>
-    </message>
-    <message>
-        <source>Make This Change</source>
-        <translation>Hacer este cambio</translation>
-    </message>
-    <message>
-        <source>What should change?</source>
-        <translation>¿Qué debe cambiar?</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FeaturesPanel</name>
-    <message>
-        <source>Printer Features</source>
-        <translation>Funciones de la impresora</translation>
-    </message>
-    <message>
-        <source>No feature matches.</source>
-        <translation>Ninguna función coincide.</translation>
-    </message>
-    <message>
-        <source>Find a feature</source>
-        <translation>Buscar una función</translation>
-    </message>
-    <message>
-        <source>Installed Options</source>
-        <translation>Opciones instaladas</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>General</translation>
-    </message>
-    <message>
-        <source>Job Control</source>
-        <translation>Control de trabajos</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>Más opciones</translation>
-    </message>
-    <message>
-        <source>Whoever administers the printer sets these.</source>
-        <translation>Las ajusta quien administra la impresora.</translation>
-    </message>
-    <message>
-        <source>Changed from the default “%1”</source>
-        <translation>Cambiado; el valor predeterminado es «%1»</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PresetBar</name>
-    <message>
-        <source>Presets</source>
-        <translation>Preajustes</translation>
-    </message>
-    <message>
-        <source>(changed)</source>
-        <translation>(cambiado)</translation>
-    </message>
-    <message>
-        <source>The settings are others than those of the preset.</source>
-        <translation>Los ajustes no son los del preajuste.</translation>
-    </message>
-    <message>
-        <source>Manage</source>
-        <translation>Gestionar</translation>
-    </message>
-    <message>
-        <source>Manage presets</source>
-        <translation>Gestionar preajustes</translation>
-    </message>
-    <message>
-        <source>Save, change and compare presets</source>
-        <translation>Guardar, cambiar y comparar preajustes</translation>
-    </message>
-    <message>
-        <source>Save As…</source>
-        <translation>Guardar como…</translation>
-    </message>
-    <message>
-        <source>Update</source>
-        <translation>Actualizar</translation>
-    </message>
-    <message>
-        <source>Rename…</source>
-        <translation>Cambiar nombre…</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Eliminar</translation>
-    </message>
-    <message>
-        <source>Compare with Settings</source>
-        <translation>Comparar con los ajustes</translation>
-    </message>
-    <message>
-        <source>Name of the preset</source>
-        <translation>Nombre del preajuste</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>Aceptar</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
-        <source>Differences from the preset</source>
-        <translation>Diferencias con el preajuste</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Ajuste</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>Ahora</translation>
-    </message>
-    <message>
-        <source>In the Preset</source>
-        <translation>En el preajuste</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Cerrar</translation>
-    </message>
-    <message>
-        <source>My Presets</source>
-        <translation>Mis preajustes</translation>
-    </message>
-    <message>
-        <source>Presets of the Printer</source>
-        <translation>Preajustes de la impresora</translation>
-    </message>
-    <message>
-        <source>Default Settings</source>
-        <translation>Ajustes predeterminados</translation>
-    </message>
-    <message>
-        <source>Last Used Settings</source>
-        <translation>Últimos ajustes usados</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PresetDesk</name>
-    <message>
-        <source>Default Settings</source>
-        <translation>Ajustes predeterminados</translation>
-    </message>
-    <message>
-        <source>Last Used Settings</source>
-        <translation>Últimos ajustes usados</translation>
-    </message>
-    <message>
-        <source>Preset “%1”</source>
-        <translation>Preajuste «%1»</translation>
-    </message>
-    <message>
-        <source>The preset “%1” has the present settings now.</source>
-        <translation>El preajuste «%1» tiene ahora los ajustes actuales.</translation>
-    </message>
-    <message>
-        <source>The preset “%1” has been deleted.</source>
-        <translation>Se ha eliminado el preajuste «%1».</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Deshacer</translation>
     </message>
 </context>
 </TS>

@@ -807,6 +807,66 @@
     </message>
 </context>
 <context>
+    <name>dialog::ChoiceDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictDesk</name>
+    <message>
+        <source>What is installed in the printer is set by whoever administers it.</source>
+        <translation>Ce qui est installé dans l’imprimante est réglé par la personne qui l’administre.</translation>
+    </message>
+    <message>
+        <source>No change of a few other settings makes it possible.</source>
+        <translation>Changer quelques autres réglages ne suffit pas à le rendre possible.</translation>
+    </message>
+    <message>
+        <source>Keep It This Way</source>
+        <translation>Laisser ainsi</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictSheet</name>
+    <message>
+        <source>Keep What I Had</source>
+        <translation>Garder ce que j’avais</translation>
+    </message>
+    <message>
+        <source>Make This Change</source>
+        <translation>Faire ce changement</translation>
+    </message>
+    <message>
+        <source>What should change?</source>
+        <translation>Que faut-il changer&#x202f;?</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FeaturesPanel</name>
+    <message>
+        <source>Printer Features</source>
+        <translation>Fonctions de l’imprimante</translation>
+    </message>
+    <message>
+        <source>No feature matches.</source>
+        <translation>Aucune fonction ne correspond.</translation>
+    </message>
+    <message>
+        <source>Find a feature</source>
+        <translation>Chercher une fonction</translation>
+    </message>
+    <message>
+        <source>Whoever administers the printer sets these.</source>
+        <translation>La personne qui administre l’imprimante les règle.</translation>
+    </message>
+    <message>
+        <source>Changed from the default “%1”</source>
+        <translation>Modifié, «&#xa0;%1&#xa0;» par défaut</translation>
+    </message>
+</context>
+<context>
     <name>dialog::GeneralView</name>
     <message>
         <source>Collate</source>
@@ -982,6 +1042,128 @@
     </message>
 </context>
 <context>
+    <name>dialog::PresetBar</name>
+    <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+    <message>
+        <source>(changed)</source>
+        <translation>(modifié)</translation>
+    </message>
+    <message>
+        <source>The settings are others than those of the preset.</source>
+        <translation>Les réglages ne sont plus ceux du préréglage.</translation>
+    </message>
+    <message>
+        <source>Manage</source>
+        <translation>Gérer</translation>
+    </message>
+    <message>
+        <source>Manage presets</source>
+        <translation>Gérer les préréglages</translation>
+    </message>
+    <message>
+        <source>Save, change and compare presets</source>
+        <translation>Enregistrer, modifier et comparer les préréglages</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Enregistrer sous…</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mettre à jour</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Renommer…</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Compare with Settings</source>
+        <translation>Comparer aux réglages</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Nom du préréglage</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Differences from the preset</source>
+        <translation>Différences avec le préréglage</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Réglage</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Maintenant</translation>
+    </message>
+    <message>
+        <source>In the Preset</source>
+        <translation>Dans le préréglage</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>My Presets</source>
+        <translation>Mes préréglages</translation>
+    </message>
+    <message>
+        <source>Presets of the Printer</source>
+        <translation>Préréglages de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Default Settings</source>
+        <translation>Réglages par défaut</translation>
+    </message>
+    <message>
+        <source>Last Used Settings</source>
+        <translation>Derniers réglages utilisés</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PresetDesk</name>
+    <message>
+        <source>Default Settings</source>
+        <translation>Réglages par défaut</translation>
+    </message>
+    <message>
+        <source>Last Used Settings</source>
+        <translation>Derniers réglages utilisés</translation>
+    </message>
+    <message>
+        <source>Preset “%1”</source>
+        <translation>Préréglage «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has the present settings now.</source>
+        <translation>Le préréglage «&#xa0;%1&#xa0;» a maintenant les réglages actuels.</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has been deleted.</source>
+        <translation>Le préréglage «&#xa0;%1&#xa0;» a été supprimé.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
     <name>dialog::PreviewPane</name>
     <message>
         <source>Preview</source>
@@ -1067,10 +1249,6 @@
 </context>
 <context>
     <name>dialog::PrintDialog</name>
-    <message>
-        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation>Choisissez un groupe de réglages dans le menu local, modifiez ce qu’il faut, et appuyez sur Imprimer. Un choix que l’imprimante ne peut pas combiner avec un autre est refusé, et un avis dit lequel fait obstacle.</translation>
-    </message>
     <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. Where the printer cannot combine a choice with another one, the window says which one is in the way, and what could change instead.</source>
         <translation>Choisissez un groupe de réglages dans le menu local, modifiez ce qu’il faut, et appuyez sur Imprimer. Quand l’imprimante ne peut pas combiner un choix avec un autre, la fenêtre dit lequel fait obstacle et ce qui pourrait changer à la place.</translation>
@@ -1294,204 +1472,6 @@
     <message>
         <source>Copy as Text</source>
         <translation>Copier comme texte</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ChoiceDelegate</name>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictDesk</name>
-    <message>
-        <source>What is installed in the printer is set by whoever administers it.</source>
-        <translation>Ce qui est installé dans l’imprimante est réglé par la personne qui l’administre.</translation>
-    </message>
-    <message>
-        <source>No change of a few other settings makes it possible.</source>
-        <translation>Changer quelques autres réglages ne suffit pas à le rendre possible.</translation>
-    </message>
-    <message>
-        <source>Keep It This Way</source>
-        <translation>Laisser ainsi</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictSheet</name>
-    <message>
-        <source>Keep What I Had</source>
-        <translation>Garder ce que j’avais</translation>
-    </message>
-    <message>
-        <source>Make This Change</source>
-        <translation>Faire ce changement</translation>
-    </message>
-    <message>
-        <source>What should change?</source>
-        <translation>Que faut-il changer&#x202f;?</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FeaturesPanel</name>
-    <message>
-        <source>Printer Features</source>
-        <translation>Fonctions de l’imprimante</translation>
-    </message>
-    <message>
-        <source>No feature matches.</source>
-        <translation>Aucune fonction ne correspond.</translation>
-    </message>
-    <message>
-        <source>Find a feature</source>
-        <translation>Chercher une fonction</translation>
-    </message>
-    <message>
-        <source>Installed Options</source>
-        <translation>Options installées</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Général</translation>
-    </message>
-    <message>
-        <source>Job Control</source>
-        <translation>Gestion des tâches</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>Autres options</translation>
-    </message>
-    <message>
-        <source>Whoever administers the printer sets these.</source>
-        <translation>La personne qui administre l’imprimante les règle.</translation>
-    </message>
-    <message>
-        <source>Changed from the default “%1”</source>
-        <translation>Modifié, «&#xa0;%1&#xa0;» par défaut</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PresetBar</name>
-    <message>
-        <source>Presets</source>
-        <translation>Préréglages</translation>
-    </message>
-    <message>
-        <source>(changed)</source>
-        <translation>(modifié)</translation>
-    </message>
-    <message>
-        <source>The settings are others than those of the preset.</source>
-        <translation>Les réglages ne sont plus ceux du préréglage.</translation>
-    </message>
-    <message>
-        <source>Manage</source>
-        <translation>Gérer</translation>
-    </message>
-    <message>
-        <source>Manage presets</source>
-        <translation>Gérer les préréglages</translation>
-    </message>
-    <message>
-        <source>Save, change and compare presets</source>
-        <translation>Enregistrer, modifier et comparer les préréglages</translation>
-    </message>
-    <message>
-        <source>Save As…</source>
-        <translation>Enregistrer sous…</translation>
-    </message>
-    <message>
-        <source>Update</source>
-        <translation>Mettre à jour</translation>
-    </message>
-    <message>
-        <source>Rename…</source>
-        <translation>Renommer…</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Supprimer</translation>
-    </message>
-    <message>
-        <source>Compare with Settings</source>
-        <translation>Comparer aux réglages</translation>
-    </message>
-    <message>
-        <source>Name of the preset</source>
-        <translation>Nom du préréglage</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Differences from the preset</source>
-        <translation>Différences avec le préréglage</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Réglage</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>Maintenant</translation>
-    </message>
-    <message>
-        <source>In the Preset</source>
-        <translation>Dans le préréglage</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Fermer</translation>
-    </message>
-    <message>
-        <source>My Presets</source>
-        <translation>Mes préréglages</translation>
-    </message>
-    <message>
-        <source>Presets of the Printer</source>
-        <translation>Préréglages de l’imprimante</translation>
-    </message>
-    <message>
-        <source>Default Settings</source>
-        <translation>Réglages par défaut</translation>
-    </message>
-    <message>
-        <source>Last Used Settings</source>
-        <translation>Derniers réglages utilisés</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PresetDesk</name>
-    <message>
-        <source>Default Settings</source>
-        <translation>Réglages par défaut</translation>
-    </message>
-    <message>
-        <source>Last Used Settings</source>
-        <translation>Derniers réglages utilisés</translation>
-    </message>
-    <message>
-        <source>Preset “%1”</source>
-        <translation>Préréglage «&#xa0;%1&#xa0;»</translation>
-    </message>
-    <message>
-        <source>The preset “%1” has the present settings now.</source>
-        <translation>Le préréglage «&#xa0;%1&#xa0;» a maintenant les réglages actuels.</translation>
-    </message>
-    <message>
-        <source>The preset “%1” has been deleted.</source>
-        <translation>Le préréglage «&#xa0;%1&#xa0;» a été supprimé.</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Annuler</translation>
     </message>
 </context>
 </TS>

@@ -807,6 +807,66 @@
     </message>
 </context>
 <context>
+    <name>dialog::ChoiceDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictDesk</name>
+    <message>
+        <source>What is installed in the printer is set by whoever administers it.</source>
+        <translation>Ciò che è installato nella stampante viene impostato da chi la amministra.</translation>
+    </message>
+    <message>
+        <source>No change of a few other settings makes it possible.</source>
+        <translation>Cambiare poche altre impostazioni non lo rende possibile.</translation>
+    </message>
+    <message>
+        <source>Keep It This Way</source>
+        <translation>Lascia così</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictSheet</name>
+    <message>
+        <source>Keep What I Had</source>
+        <translation>Mantieni com’era</translation>
+    </message>
+    <message>
+        <source>Make This Change</source>
+        <translation>Applica questa modifica</translation>
+    </message>
+    <message>
+        <source>What should change?</source>
+        <translation>Che cosa deve cambiare?</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FeaturesPanel</name>
+    <message>
+        <source>Printer Features</source>
+        <translation>Funzioni della stampante</translation>
+    </message>
+    <message>
+        <source>No feature matches.</source>
+        <translation>Nessuna funzione corrisponde.</translation>
+    </message>
+    <message>
+        <source>Find a feature</source>
+        <translation>Cerca una funzione</translation>
+    </message>
+    <message>
+        <source>Whoever administers the printer sets these.</source>
+        <translation>Le imposta chi amministra la stampante.</translation>
+    </message>
+    <message>
+        <source>Changed from the default “%1”</source>
+        <translation>Modificato rispetto al predefinito “%1”</translation>
+    </message>
+</context>
+<context>
     <name>dialog::GeneralView</name>
     <message>
         <source>Collate</source>
@@ -982,6 +1042,128 @@
     </message>
 </context>
 <context>
+    <name>dialog::PresetBar</name>
+    <message>
+        <source>Presets</source>
+        <translation>Preimpostazioni</translation>
+    </message>
+    <message>
+        <source>(changed)</source>
+        <translation>(modificata)</translation>
+    </message>
+    <message>
+        <source>The settings are others than those of the preset.</source>
+        <translation>Le impostazioni sono diverse da quelle della preimpostazione.</translation>
+    </message>
+    <message>
+        <source>Manage</source>
+        <translation>Gestisci</translation>
+    </message>
+    <message>
+        <source>Manage presets</source>
+        <translation>Gestisci preimpostazioni</translation>
+    </message>
+    <message>
+        <source>Save, change and compare presets</source>
+        <translation>Salva, modifica e confronta preimpostazioni</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Salva con nome…</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aggiorna</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Rinomina…</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Compare with Settings</source>
+        <translation>Confronta con le impostazioni</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Nome della preimpostazione</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Differences from the preset</source>
+        <translation>Differenze dalla preimpostazione</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Impostazione</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>In the Preset</source>
+        <translation>Nella preimpostazione</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>My Presets</source>
+        <translation>Le mie preimpostazioni</translation>
+    </message>
+    <message>
+        <source>Presets of the Printer</source>
+        <translation>Preimpostazioni della stampante</translation>
+    </message>
+    <message>
+        <source>Default Settings</source>
+        <translation>Impostazioni predefinite</translation>
+    </message>
+    <message>
+        <source>Last Used Settings</source>
+        <translation>Ultime impostazioni usate</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PresetDesk</name>
+    <message>
+        <source>Default Settings</source>
+        <translation>Impostazioni predefinite</translation>
+    </message>
+    <message>
+        <source>Last Used Settings</source>
+        <translation>Ultime impostazioni usate</translation>
+    </message>
+    <message>
+        <source>Preset “%1”</source>
+        <translation>Preimpostazione “%1”</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has the present settings now.</source>
+        <translation>La preimpostazione “%1” ora ha le impostazioni attuali.</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has been deleted.</source>
+        <translation>La preimpostazione “%1” è stata eliminata.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
     <name>dialog::PreviewPane</name>
     <message>
         <source>Preview</source>
@@ -1067,10 +1249,6 @@
 </context>
 <context>
     <name>dialog::PrintDialog</name>
-    <message>
-        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation>Scegli un gruppo di impostazioni dal menu a comparsa, modifica ciò che serve e premi Stampa. Una scelta che la stampante non può combinare con un’altra viene rifiutata, e un avviso dice quale lo impedisce.</translation>
-    </message>
     <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. Where the printer cannot combine a choice with another one, the window says which one is in the way, and what could change instead.</source>
         <translation>Scegli un gruppo di impostazioni dal menu a comparsa, modifica ciò che serve e premi Stampa. Se la stampante non può combinare una scelta con un’altra, la finestra dice quale lo impedisce e che cosa potrebbe cambiare al suo posto.</translation>
@@ -1294,204 +1472,6 @@
     <message>
         <source>Copy as Text</source>
         <translation>Copia come testo</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ChoiceDelegate</name>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictDesk</name>
-    <message>
-        <source>What is installed in the printer is set by whoever administers it.</source>
-        <translation>Ciò che è installato nella stampante viene impostato da chi la amministra.</translation>
-    </message>
-    <message>
-        <source>No change of a few other settings makes it possible.</source>
-        <translation>Cambiare poche altre impostazioni non lo rende possibile.</translation>
-    </message>
-    <message>
-        <source>Keep It This Way</source>
-        <translation>Lascia così</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictSheet</name>
-    <message>
-        <source>Keep What I Had</source>
-        <translation>Mantieni com’era</translation>
-    </message>
-    <message>
-        <source>Make This Change</source>
-        <translation>Applica questa modifica</translation>
-    </message>
-    <message>
-        <source>What should change?</source>
-        <translation>Che cosa deve cambiare?</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FeaturesPanel</name>
-    <message>
-        <source>Printer Features</source>
-        <translation>Funzioni della stampante</translation>
-    </message>
-    <message>
-        <source>No feature matches.</source>
-        <translation>Nessuna funzione corrisponde.</translation>
-    </message>
-    <message>
-        <source>Find a feature</source>
-        <translation>Cerca una funzione</translation>
-    </message>
-    <message>
-        <source>Installed Options</source>
-        <translation>Opzioni installate</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Generali</translation>
-    </message>
-    <message>
-        <source>Job Control</source>
-        <translation>Controllo dei lavori</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>Altre opzioni</translation>
-    </message>
-    <message>
-        <source>Whoever administers the printer sets these.</source>
-        <translation>Le imposta chi amministra la stampante.</translation>
-    </message>
-    <message>
-        <source>Changed from the default “%1”</source>
-        <translation>Modificato rispetto al predefinito “%1”</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PresetBar</name>
-    <message>
-        <source>Presets</source>
-        <translation>Preimpostazioni</translation>
-    </message>
-    <message>
-        <source>(changed)</source>
-        <translation>(modificata)</translation>
-    </message>
-    <message>
-        <source>The settings are others than those of the preset.</source>
-        <translation>Le impostazioni sono diverse da quelle della preimpostazione.</translation>
-    </message>
-    <message>
-        <source>Manage</source>
-        <translation>Gestisci</translation>
-    </message>
-    <message>
-        <source>Manage presets</source>
-        <translation>Gestisci preimpostazioni</translation>
-    </message>
-    <message>
-        <source>Save, change and compare presets</source>
-        <translation>Salva, modifica e confronta preimpostazioni</translation>
-    </message>
-    <message>
-        <source>Save As…</source>
-        <translation>Salva con nome…</translation>
-    </message>
-    <message>
-        <source>Update</source>
-        <translation>Aggiorna</translation>
-    </message>
-    <message>
-        <source>Rename…</source>
-        <translation>Rinomina…</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Elimina</translation>
-    </message>
-    <message>
-        <source>Compare with Settings</source>
-        <translation>Confronta con le impostazioni</translation>
-    </message>
-    <message>
-        <source>Name of the preset</source>
-        <translation>Nome della preimpostazione</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
-        <source>Differences from the preset</source>
-        <translation>Differenze dalla preimpostazione</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Impostazione</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>Ora</translation>
-    </message>
-    <message>
-        <source>In the Preset</source>
-        <translation>Nella preimpostazione</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Chiudi</translation>
-    </message>
-    <message>
-        <source>My Presets</source>
-        <translation>Le mie preimpostazioni</translation>
-    </message>
-    <message>
-        <source>Presets of the Printer</source>
-        <translation>Preimpostazioni della stampante</translation>
-    </message>
-    <message>
-        <source>Default Settings</source>
-        <translation>Impostazioni predefinite</translation>
-    </message>
-    <message>
-        <source>Last Used Settings</source>
-        <translation>Ultime impostazioni usate</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PresetDesk</name>
-    <message>
-        <source>Default Settings</source>
-        <translation>Impostazioni predefinite</translation>
-    </message>
-    <message>
-        <source>Last Used Settings</source>
-        <translation>Ultime impostazioni usate</translation>
-    </message>
-    <message>
-        <source>Preset “%1”</source>
-        <translation>Preimpostazione “%1”</translation>
-    </message>
-    <message>
-        <source>The preset “%1” has the present settings now.</source>
-        <translation>La preimpostazione “%1” ora ha le impostazioni attuali.</translation>
-    </message>
-    <message>
-        <source>The preset “%1” has been deleted.</source>
-        <translation>La preimpostazione “%1” è stata eliminata.</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Annulla</translation>
     </message>
 </context>
 </TS>

@@ -803,6 +803,66 @@
     </message>
 </context>
 <context>
+    <name>dialog::ChoiceDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictDesk</name>
+    <message>
+        <source>What is installed in the printer is set by whoever administers it.</source>
+        <translation>プリンタに取り付けられているものは、プリンタの管理者が設定します。</translation>
+    </message>
+    <message>
+        <source>No change of a few other settings makes it possible.</source>
+        <translation>ほかの設定を少し変更しても、この設定は使えません。</translation>
+    </message>
+    <message>
+        <source>Keep It This Way</source>
+        <translation>このままにする</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictSheet</name>
+    <message>
+        <source>Keep What I Had</source>
+        <translation>元の設定を保つ</translation>
+    </message>
+    <message>
+        <source>Make This Change</source>
+        <translation>この変更を行う</translation>
+    </message>
+    <message>
+        <source>What should change?</source>
+        <translation>どの設定を変更しますか?</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FeaturesPanel</name>
+    <message>
+        <source>Printer Features</source>
+        <translation>プリンタの機能</translation>
+    </message>
+    <message>
+        <source>No feature matches.</source>
+        <translation>該当する機能がありません。</translation>
+    </message>
+    <message>
+        <source>Find a feature</source>
+        <translation>機能を検索</translation>
+    </message>
+    <message>
+        <source>Whoever administers the printer sets these.</source>
+        <translation>プリンタの管理者が設定します。</translation>
+    </message>
+    <message>
+        <source>Changed from the default “%1”</source>
+        <translation>変更あり (デフォルトは「%1」)</translation>
+    </message>
+</context>
+<context>
     <name>dialog::GeneralView</name>
     <message>
         <source>Collate</source>
@@ -978,6 +1038,128 @@
     </message>
 </context>
 <context>
+    <name>dialog::PresetBar</name>
+    <message>
+        <source>Presets</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>(changed)</source>
+        <translation>(変更あり)</translation>
+    </message>
+    <message>
+        <source>The settings are others than those of the preset.</source>
+        <translation>現在の設定はプリセットと異なります。</translation>
+    </message>
+    <message>
+        <source>Manage</source>
+        <translation>管理</translation>
+    </message>
+    <message>
+        <source>Manage presets</source>
+        <translation>プリセットを管理</translation>
+    </message>
+    <message>
+        <source>Save, change and compare presets</source>
+        <translation>プリセットの保存、変更、比較</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>別名で保存…</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>名前を変更…</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Compare with Settings</source>
+        <translation>現在の設定と比較</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>プリセットの名前</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Differences from the preset</source>
+        <translation>プリセットとの違い</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>現在</translation>
+    </message>
+    <message>
+        <source>In the Preset</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>My Presets</source>
+        <translation>マイプリセット</translation>
+    </message>
+    <message>
+        <source>Presets of the Printer</source>
+        <translation>プリンタのプリセット</translation>
+    </message>
+    <message>
+        <source>Default Settings</source>
+        <translation>デフォルト設定</translation>
+    </message>
+    <message>
+        <source>Last Used Settings</source>
+        <translation>前回使用した設定</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PresetDesk</name>
+    <message>
+        <source>Default Settings</source>
+        <translation>デフォルト設定</translation>
+    </message>
+    <message>
+        <source>Last Used Settings</source>
+        <translation>前回使用した設定</translation>
+    </message>
+    <message>
+        <source>Preset “%1”</source>
+        <translation>プリセット「%1」</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has the present settings now.</source>
+        <translation>プリセット「%1」を現在の設定で更新しました。</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has been deleted.</source>
+        <translation>プリセット「%1」を削除しました。</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>取り消す</translation>
+    </message>
+</context>
+<context>
     <name>dialog::PreviewPane</name>
     <message>
         <source>Preview</source>
@@ -1063,10 +1245,6 @@
 </context>
 <context>
     <name>dialog::PrintDialog</name>
-    <message>
-        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation>ポップアップメニューで設定の種類を選び、必要な項目を変更して「プリント」を押してください。組み合わせられない選択は受け付けられず、妨げになっている設定が表示されます。</translation>
-    </message>
     <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. Where the printer cannot combine a choice with another one, the window says which one is in the way, and what could change instead.</source>
         <translation>ポップアップメニューで設定の種類を選び、必要な項目を変更して「プリント」を押してください。組み合わせられない選択があるときは、妨げになっている設定と、代わりに変更できる設定が表示されます。</translation>
@@ -1289,204 +1467,6 @@
     <message>
         <source>Copy as Text</source>
         <translation>テキストとしてコピー</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ChoiceDelegate</name>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictDesk</name>
-    <message>
-        <source>What is installed in the printer is set by whoever administers it.</source>
-        <translation>プリンタに取り付けられているものは、プリンタの管理者が設定します。</translation>
-    </message>
-    <message>
-        <source>No change of a few other settings makes it possible.</source>
-        <translation>ほかの設定を少し変更しても、この設定は使えません。</translation>
-    </message>
-    <message>
-        <source>Keep It This Way</source>
-        <translation>このままにする</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictSheet</name>
-    <message>
-        <source>Keep What I Had</source>
-        <translation>元の設定を保つ</translation>
-    </message>
-    <message>
-        <source>Make This Change</source>
-        <translation>この変更を行う</translation>
-    </message>
-    <message>
-        <source>What should change?</source>
-        <translation>どの設定を変更しますか?</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FeaturesPanel</name>
-    <message>
-        <source>Printer Features</source>
-        <translation>プリンタの機能</translation>
-    </message>
-    <message>
-        <source>No feature matches.</source>
-        <translation>該当する機能がありません。</translation>
-    </message>
-    <message>
-        <source>Find a feature</source>
-        <translation>機能を検索</translation>
-    </message>
-    <message>
-        <source>Installed Options</source>
-        <translation>取り付けられているオプション</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>一般</translation>
-    </message>
-    <message>
-        <source>Job Control</source>
-        <translation>ジョブ制御</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>その他のオプション</translation>
-    </message>
-    <message>
-        <source>Whoever administers the printer sets these.</source>
-        <translation>プリンタの管理者が設定します。</translation>
-    </message>
-    <message>
-        <source>Changed from the default “%1”</source>
-        <translation>変更あり (デフォルトは「%1」)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PresetBar</name>
-    <message>
-        <source>Presets</source>
-        <translation>プリセット</translation>
-    </message>
-    <message>
-        <source>(changed)</source>
-        <translation>(変更あり)</translation>
-    </message>
-    <message>
-        <source>The settings are others than those of the preset.</source>
-        <translation>現在の設定はプリセットと異なります。</translation>
-    </message>
-    <message>
-        <source>Manage</source>
-        <translation>管理</translation>
-    </message>
-    <message>
-        <source>Manage presets</source>
-        <translation>プリセットを管理</translation>
-    </message>
-    <message>
-        <source>Save, change and compare presets</source>
-        <translation>プリセットの保存、変更、比較</translation>
-    </message>
-    <message>
-        <source>Save As…</source>
-        <translation>別名で保存…</translation>
-    </message>
-    <message>
-        <source>Update</source>
-        <translation>更新</translation>
-    </message>
-    <message>
-        <source>Rename…</source>
-        <translation>名前を変更…</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>削除</translation>
-    </message>
-    <message>
-        <source>Compare with Settings</source>
-        <translation>現在の設定と比較</translation>
-    </message>
-    <message>
-        <source>Name of the preset</source>
-        <translation>プリセットの名前</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
-    </message>
-    <message>
-        <source>Differences from the preset</source>
-        <translation>プリセットとの違い</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>現在</translation>
-    </message>
-    <message>
-        <source>In the Preset</source>
-        <translation>プリセット</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>閉じる</translation>
-    </message>
-    <message>
-        <source>My Presets</source>
-        <translation>マイプリセット</translation>
-    </message>
-    <message>
-        <source>Presets of the Printer</source>
-        <translation>プリンタのプリセット</translation>
-    </message>
-    <message>
-        <source>Default Settings</source>
-        <translation>デフォルト設定</translation>
-    </message>
-    <message>
-        <source>Last Used Settings</source>
-        <translation>前回使用した設定</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PresetDesk</name>
-    <message>
-        <source>Default Settings</source>
-        <translation>デフォルト設定</translation>
-    </message>
-    <message>
-        <source>Last Used Settings</source>
-        <translation>前回使用した設定</translation>
-    </message>
-    <message>
-        <source>Preset “%1”</source>
-        <translation>プリセット「%1」</translation>
-    </message>
-    <message>
-        <source>The preset “%1” has the present settings now.</source>
-        <translation>プリセット「%1」を現在の設定で更新しました。</translation>
-    </message>
-    <message>
-        <source>The preset “%1” has been deleted.</source>
-        <translation>プリセット「%1」を削除しました。</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>取り消す</translation>
     </message>
 </context>
 </TS>

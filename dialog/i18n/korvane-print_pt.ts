@@ -807,6 +807,66 @@
     </message>
 </context>
 <context>
+    <name>dialog::ChoiceDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictDesk</name>
+    <message>
+        <source>What is installed in the printer is set by whoever administers it.</source>
+        <translation>O que está instalado na impressora é definido por quem a administra.</translation>
+    </message>
+    <message>
+        <source>No change of a few other settings makes it possible.</source>
+        <translation>Alterar algumas outras definições não o torna possível.</translation>
+    </message>
+    <message>
+        <source>Keep It This Way</source>
+        <translation>Manter assim</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictSheet</name>
+    <message>
+        <source>Keep What I Had</source>
+        <translation>Manter como estava</translation>
+    </message>
+    <message>
+        <source>Make This Change</source>
+        <translation>Fazer esta alteração</translation>
+    </message>
+    <message>
+        <source>What should change?</source>
+        <translation>O que deve mudar?</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FeaturesPanel</name>
+    <message>
+        <source>Printer Features</source>
+        <translation>Recursos da impressora</translation>
+    </message>
+    <message>
+        <source>No feature matches.</source>
+        <translation>Nenhum recurso corresponde.</translation>
+    </message>
+    <message>
+        <source>Find a feature</source>
+        <translation>Procurar um recurso</translation>
+    </message>
+    <message>
+        <source>Whoever administers the printer sets these.</source>
+        <translation>São definidas por quem administra a impressora.</translation>
+    </message>
+    <message>
+        <source>Changed from the default “%1”</source>
+        <translation>Alterado em relação ao padrão “%1”</translation>
+    </message>
+</context>
+<context>
     <name>dialog::GeneralView</name>
     <message>
         <source>Collate</source>
@@ -982,6 +1042,128 @@
     </message>
 </context>
 <context>
+    <name>dialog::PresetBar</name>
+    <message>
+        <source>Presets</source>
+        <translation>Predefinições</translation>
+    </message>
+    <message>
+        <source>(changed)</source>
+        <translation>(alterada)</translation>
+    </message>
+    <message>
+        <source>The settings are others than those of the preset.</source>
+        <translation>As definições são diferentes das da predefinição.</translation>
+    </message>
+    <message>
+        <source>Manage</source>
+        <translation>Gerenciar</translation>
+    </message>
+    <message>
+        <source>Manage presets</source>
+        <translation>Gerenciar predefinições</translation>
+    </message>
+    <message>
+        <source>Save, change and compare presets</source>
+        <translation>Salvar, alterar e comparar predefinições</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Salvar como…</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Atualizar</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Renomear…</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>Compare with Settings</source>
+        <translation>Comparar com as definições</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Nome da predefinição</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Differences from the preset</source>
+        <translation>Diferenças em relação à predefinição</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Definição</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Agora</translation>
+    </message>
+    <message>
+        <source>In the Preset</source>
+        <translation>Na predefinição</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>My Presets</source>
+        <translation>Minhas predefinições</translation>
+    </message>
+    <message>
+        <source>Presets of the Printer</source>
+        <translation>Predefinições da impressora</translation>
+    </message>
+    <message>
+        <source>Default Settings</source>
+        <translation>Definições padrão</translation>
+    </message>
+    <message>
+        <source>Last Used Settings</source>
+        <translation>Últimas definições usadas</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PresetDesk</name>
+    <message>
+        <source>Default Settings</source>
+        <translation>Definições padrão</translation>
+    </message>
+    <message>
+        <source>Last Used Settings</source>
+        <translation>Últimas definições usadas</translation>
+    </message>
+    <message>
+        <source>Preset “%1”</source>
+        <translation>Predefinição “%1”</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has the present settings now.</source>
+        <translation>A predefinição “%1” agora tem as definições atuais.</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has been deleted.</source>
+        <translation>A predefinição “%1” foi excluída.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+</context>
+<context>
     <name>dialog::PreviewPane</name>
     <message>
         <source>Preview</source>
@@ -1067,10 +1249,6 @@
 </context>
 <context>
     <name>dialog::PrintDialog</name>
-    <message>
-        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation>Escolha um grupo de definições no menu suspenso, altere o que precisar e pressione Imprimir. Uma escolha que a impressora não pode combinar com outra é recusada, e um aviso diz qual delas impede.</translation>
-    </message>
     <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. Where the printer cannot combine a choice with another one, the window says which one is in the way, and what could change instead.</source>
         <translation>Escolha um grupo de definições no menu suspenso, altere o que precisar e pressione Imprimir. Quando a impressora não pode combinar uma escolha com outra, a janela diz qual delas impede e o que poderia mudar em seu lugar.</translation>
@@ -1294,204 +1472,6 @@
     <message>
         <source>Copy as Text</source>
         <translation>Copiar como texto</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ChoiceDelegate</name>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictDesk</name>
-    <message>
-        <source>What is installed in the printer is set by whoever administers it.</source>
-        <translation>O que está instalado na impressora é definido por quem a administra.</translation>
-    </message>
-    <message>
-        <source>No change of a few other settings makes it possible.</source>
-        <translation>Alterar algumas outras definições não o torna possível.</translation>
-    </message>
-    <message>
-        <source>Keep It This Way</source>
-        <translation>Manter assim</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictSheet</name>
-    <message>
-        <source>Keep What I Had</source>
-        <translation>Manter como estava</translation>
-    </message>
-    <message>
-        <source>Make This Change</source>
-        <translation>Fazer esta alteração</translation>
-    </message>
-    <message>
-        <source>What should change?</source>
-        <translation>O que deve mudar?</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FeaturesPanel</name>
-    <message>
-        <source>Printer Features</source>
-        <translation>Recursos da impressora</translation>
-    </message>
-    <message>
-        <source>No feature matches.</source>
-        <translation>Nenhum recurso corresponde.</translation>
-    </message>
-    <message>
-        <source>Find a feature</source>
-        <translation>Procurar um recurso</translation>
-    </message>
-    <message>
-        <source>Installed Options</source>
-        <translation>Opções instaladas</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Geral</translation>
-    </message>
-    <message>
-        <source>Job Control</source>
-        <translation>Controle de trabalhos</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>Mais opções</translation>
-    </message>
-    <message>
-        <source>Whoever administers the printer sets these.</source>
-        <translation>São definidas por quem administra a impressora.</translation>
-    </message>
-    <message>
-        <source>Changed from the default “%1”</source>
-        <translation>Alterado em relação ao padrão “%1”</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PresetBar</name>
-    <message>
-        <source>Presets</source>
-        <translation>Predefinições</translation>
-    </message>
-    <message>
-        <source>(changed)</source>
-        <translation>(alterada)</translation>
-    </message>
-    <message>
-        <source>The settings are others than those of the preset.</source>
-        <translation>As definições são diferentes das da predefinição.</translation>
-    </message>
-    <message>
-        <source>Manage</source>
-        <translation>Gerenciar</translation>
-    </message>
-    <message>
-        <source>Manage presets</source>
-        <translation>Gerenciar predefinições</translation>
-    </message>
-    <message>
-        <source>Save, change and compare presets</source>
-        <translation>Salvar, alterar e comparar predefinições</translation>
-    </message>
-    <message>
-        <source>Save As…</source>
-        <translation>Salvar como…</translation>
-    </message>
-    <message>
-        <source>Update</source>
-        <translation>Atualizar</translation>
-    </message>
-    <message>
-        <source>Rename…</source>
-        <translation>Renomear…</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Excluir</translation>
-    </message>
-    <message>
-        <source>Compare with Settings</source>
-        <translation>Comparar com as definições</translation>
-    </message>
-    <message>
-        <source>Name of the preset</source>
-        <translation>Nome da predefinição</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
-        <source>Differences from the preset</source>
-        <translation>Diferenças em relação à predefinição</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Definição</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>Agora</translation>
-    </message>
-    <message>
-        <source>In the Preset</source>
-        <translation>Na predefinição</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Fechar</translation>
-    </message>
-    <message>
-        <source>My Presets</source>
-        <translation>Minhas predefinições</translation>
-    </message>
-    <message>
-        <source>Presets of the Printer</source>
-        <translation>Predefinições da impressora</translation>
-    </message>
-    <message>
-        <source>Default Settings</source>
-        <translation>Definições padrão</translation>
-    </message>
-    <message>
-        <source>Last Used Settings</source>
-        <translation>Últimas definições usadas</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PresetDesk</name>
-    <message>
-        <source>Default Settings</source>
-        <translation>Definições padrão</translation>
-    </message>
-    <message>
-        <source>Last Used Settings</source>
-        <translation>Últimas definições usadas</translation>
-    </message>
-    <message>
-        <source>Preset “%1”</source>
-        <translation>Predefinição “%1”</translation>
-    </message>
-    <message>
-        <source>The preset “%1” has the present settings now.</source>
-        <translation>A predefinição “%1” agora tem as definições atuais.</translation>
-    </message>
-    <message>
-        <source>The preset “%1” has been deleted.</source>
-        <translation>A predefinição “%1” foi excluída.</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Desfazer</translation>
     </message>
 </context>
 </TS>

@@ -803,6 +803,66 @@
     </message>
 </context>
 <context>
+    <name>dialog::ChoiceDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictDesk</name>
+    <message>
+        <source>What is installed in the printer is set by whoever administers it.</source>
+        <translation>打印机中安装的部件由打印机管理员设置。</translation>
+    </message>
+    <message>
+        <source>No change of a few other settings makes it possible.</source>
+        <translation>更改少数其他设置也无法实现。</translation>
+    </message>
+    <message>
+        <source>Keep It This Way</source>
+        <translation>保持现状</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ConflictSheet</name>
+    <message>
+        <source>Keep What I Had</source>
+        <translation>保留原来的设置</translation>
+    </message>
+    <message>
+        <source>Make This Change</source>
+        <translation>进行此更改</translation>
+    </message>
+    <message>
+        <source>What should change?</source>
+        <translation>要更改什么？</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FeaturesPanel</name>
+    <message>
+        <source>Printer Features</source>
+        <translation>打印机功能</translation>
+    </message>
+    <message>
+        <source>No feature matches.</source>
+        <translation>没有匹配的功能。</translation>
+    </message>
+    <message>
+        <source>Find a feature</source>
+        <translation>查找功能</translation>
+    </message>
+    <message>
+        <source>Whoever administers the printer sets these.</source>
+        <translation>由打印机管理员设置。</translation>
+    </message>
+    <message>
+        <source>Changed from the default “%1”</source>
+        <translation>已更改，默认值为“%1”</translation>
+    </message>
+</context>
+<context>
     <name>dialog::GeneralView</name>
     <message>
         <source>Collate</source>
@@ -978,6 +1038,128 @@
     </message>
 </context>
 <context>
+    <name>dialog::PresetBar</name>
+    <message>
+        <source>Presets</source>
+        <translation>预设</translation>
+    </message>
+    <message>
+        <source>(changed)</source>
+        <translation>（已更改）</translation>
+    </message>
+    <message>
+        <source>The settings are others than those of the preset.</source>
+        <translation>当前设置与预设不同。</translation>
+    </message>
+    <message>
+        <source>Manage</source>
+        <translation>管理</translation>
+    </message>
+    <message>
+        <source>Manage presets</source>
+        <translation>管理预设</translation>
+    </message>
+    <message>
+        <source>Save, change and compare presets</source>
+        <translation>保存、更改和比较预设</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>另存为…</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>重命名…</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Compare with Settings</source>
+        <translation>与当前设置比较</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>预设名称</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Differences from the preset</source>
+        <translation>与预设的差异</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>当前</translation>
+    </message>
+    <message>
+        <source>In the Preset</source>
+        <translation>预设中</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>My Presets</source>
+        <translation>我的预设</translation>
+    </message>
+    <message>
+        <source>Presets of the Printer</source>
+        <translation>打印机的预设</translation>
+    </message>
+    <message>
+        <source>Default Settings</source>
+        <translation>默认设置</translation>
+    </message>
+    <message>
+        <source>Last Used Settings</source>
+        <translation>上次使用的设置</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PresetDesk</name>
+    <message>
+        <source>Default Settings</source>
+        <translation>默认设置</translation>
+    </message>
+    <message>
+        <source>Last Used Settings</source>
+        <translation>上次使用的设置</translation>
+    </message>
+    <message>
+        <source>Preset “%1”</source>
+        <translation>预设“%1”</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has the present settings now.</source>
+        <translation>预设“%1”现已采用当前设置。</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has been deleted.</source>
+        <translation>已删除预设“%1”。</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+</context>
+<context>
     <name>dialog::PreviewPane</name>
     <message>
         <source>Preview</source>
@@ -1063,10 +1245,6 @@
 </context>
 <context>
     <name>dialog::PrintDialog</name>
-    <message>
-        <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. A choice that the printer cannot combine with another one is refused, and a notice says which one is in the way.</source>
-        <translation>从弹出菜单中选择一组设置，更改所需内容，然后按“打印”。打印机无法与其他选择组合的选择会被拒绝，并有通知说明是哪一项造成冲突。</translation>
-    </message>
     <message>
         <source>Choose a group of settings from the pop-up menu, change what you need, and press Print. Where the printer cannot combine a choice with another one, the window says which one is in the way, and what could change instead.</source>
         <translation>从弹出菜单中选择一组设置，更改所需内容，然后按“打印”。如果打印机无法将某个选择与另一个组合，窗口会说明是哪一项造成冲突，以及可以改动什么。</translation>
@@ -1289,204 +1467,6 @@
     <message>
         <source>Copy as Text</source>
         <translation>复制为文本</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ChoiceDelegate</name>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1（%2）</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictDesk</name>
-    <message>
-        <source>What is installed in the printer is set by whoever administers it.</source>
-        <translation>打印机中安装的部件由打印机管理员设置。</translation>
-    </message>
-    <message>
-        <source>No change of a few other settings makes it possible.</source>
-        <translation>更改少数其他设置也无法实现。</translation>
-    </message>
-    <message>
-        <source>Keep It This Way</source>
-        <translation>保持现状</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::ConflictSheet</name>
-    <message>
-        <source>Keep What I Had</source>
-        <translation>保留原来的设置</translation>
-    </message>
-    <message>
-        <source>Make This Change</source>
-        <translation>进行此更改</translation>
-    </message>
-    <message>
-        <source>What should change?</source>
-        <translation>要更改什么？</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FeaturesPanel</name>
-    <message>
-        <source>Printer Features</source>
-        <translation>打印机功能</translation>
-    </message>
-    <message>
-        <source>No feature matches.</source>
-        <translation>没有匹配的功能。</translation>
-    </message>
-    <message>
-        <source>Find a feature</source>
-        <translation>查找功能</translation>
-    </message>
-    <message>
-        <source>Installed Options</source>
-        <translation>已安装的选件</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>常规</translation>
-    </message>
-    <message>
-        <source>Job Control</source>
-        <translation>作业控制</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>更多选项</translation>
-    </message>
-    <message>
-        <source>Whoever administers the printer sets these.</source>
-        <translation>由打印机管理员设置。</translation>
-    </message>
-    <message>
-        <source>Changed from the default “%1”</source>
-        <translation>已更改，默认值为“%1”</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PresetBar</name>
-    <message>
-        <source>Presets</source>
-        <translation>预设</translation>
-    </message>
-    <message>
-        <source>(changed)</source>
-        <translation>（已更改）</translation>
-    </message>
-    <message>
-        <source>The settings are others than those of the preset.</source>
-        <translation>当前设置与预设不同。</translation>
-    </message>
-    <message>
-        <source>Manage</source>
-        <translation>管理</translation>
-    </message>
-    <message>
-        <source>Manage presets</source>
-        <translation>管理预设</translation>
-    </message>
-    <message>
-        <source>Save, change and compare presets</source>
-        <translation>保存、更改和比较预设</translation>
-    </message>
-    <message>
-        <source>Save As…</source>
-        <translation>另存为…</translation>
-    </message>
-    <message>
-        <source>Update</source>
-        <translation>更新</translation>
-    </message>
-    <message>
-        <source>Rename…</source>
-        <translation>重命名…</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>删除</translation>
-    </message>
-    <message>
-        <source>Compare with Settings</source>
-        <translation>与当前设置比较</translation>
-    </message>
-    <message>
-        <source>Name of the preset</source>
-        <translation>预设名称</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>确定</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
-        <source>Differences from the preset</source>
-        <translation>与预设的差异</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>设置</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>当前</translation>
-    </message>
-    <message>
-        <source>In the Preset</source>
-        <translation>预设中</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>关闭</translation>
-    </message>
-    <message>
-        <source>My Presets</source>
-        <translation>我的预设</translation>
-    </message>
-    <message>
-        <source>Presets of the Printer</source>
-        <translation>打印机的预设</translation>
-    </message>
-    <message>
-        <source>Default Settings</source>
-        <translation>默认设置</translation>
-    </message>
-    <message>
-        <source>Last Used Settings</source>
-        <translation>上次使用的设置</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PresetDesk</name>
-    <message>
-        <source>Default Settings</source>
-        <translation>默认设置</translation>
-    </message>
-    <message>
-        <source>Last Used Settings</source>
-        <translation>上次使用的设置</translation>
-    </message>
-    <message>
-        <source>Preset “%1”</source>
-        <translation>预设“%1”</translation>
-    </message>
-    <message>
-        <source>The preset “%1” has the present settings now.</source>
-        <translation>预设“%1”现已采用当前设置。</translation>
-    </message>
-    <message>
-        <source>The preset “%1” has been deleted.</source>
-        <translation>已删除预设“%1”。</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>撤销</translation>
     </message>
 </context>
 </TS>
