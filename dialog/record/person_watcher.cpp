@@ -13,6 +13,7 @@
 #include <QKeySequence>
 #include <QLineEdit>
 #include <QMenu>
+#include <QShortcut>
 #include <QSpinBox>
 
 namespace dialog::record {
@@ -78,6 +79,8 @@ bool PersonWatcher::eventFilter(QObject *watched, QEvent *event)
         windowGets(event);
     else if (watched->isWidgetType())
         widgetGets(static_cast<QWidget *>(watched), event);
+    else if (event->type() == QEvent::Shortcut)
+        shortcutGets(qobject_cast<QShortcut *>(watched), static_cast<QShortcutEvent *>(event));
     return false;
 }
 
@@ -190,6 +193,15 @@ void PersonWatcher::keyPressed(QWidget *target)
     isKeyOpen_ = true;
     Q_EMIT perhapsActed({StepKind::Key, {name}, 0});
     QMetaObject::invokeMethod(this, &PersonWatcher::settleKey, Qt::QueuedConnection);
+}
+
+/// A key that is a shortcut comes to no widget as a key.
+void PersonWatcher::shortcutGets(const QShortcut *shortcut, const QShortcutEvent *event)
+{
+    const auto *owner = shortcut ? qobject_cast<const QWidget *>(shortcut->parent()) : nullptr;
+    const QString name = event->key().toString(QKeySequence::PortableText);
+    if (owner && !name.isEmpty())
+        tell(owner, Step{StepKind::Key, {name}, 0});
 }
 
 /// Pressed outside, or with Escape, nothing is picked.

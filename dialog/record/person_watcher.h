@@ -10,6 +10,9 @@
 
 #include <functional>
 
+class QShortcut;
+class QShortcutEvent;
+
 namespace dialog::record {
 
 /// Watches a person's input in the whole application and tells it as steps, each before what it
@@ -59,6 +62,7 @@ private:
     void watch(QWidget *control);
     void aimAt(QWidget *target);
     void keyPressed(QWidget *target);
+    void shortcutGets(const QShortcut *shortcut, const QShortcutEvent *event);
     void listHides(const QComboBox *popUp);
     void modalWindowCloses(const QWidget *window);
     void buttonReleased();

@@ -19,5 +19,6 @@ TEST(ConflictOfSettings, IsPrintedWhereAPersonGoesOnWithIt)
     EXPECT_EQ(printing.expectArrivals(),
               std::vector<OptionPairs>(1, {{q("ColorOutput"), q("Black")},
                                            {q("MediaType"), q("IronOn")},
+                                           {q("Mirror"), q("Off")},
                                            {q("PrintQuality"), q("Draft")}}));
 }
