@@ -23,7 +23,7 @@ class PreviewPane;
 
 /// The dialog's window. At the left the preview; at the right printer, presets, document, the
 /// general section, the chooser of panels, the front panel's view and notices; below Help, Save,
-/// Reset, Cancel and Print. It knows what stands in its places as titles and widgets only.
+/// Reset, Cancel and Print. It knows panels as titles and widgets only.
 class PrintWindow : public QDialog
 {
     Q_OBJECT
