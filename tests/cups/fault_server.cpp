@@ -107,6 +107,7 @@ void FaultServer::misbehave(const Fault &fault)
     const std::lock_guard lock(mutex_);
     fault_ = fault;
     hasHappened_ = false;
+    isAwaited_ = !fault.afterRequest.isEmpty();
     requestBytes_ = 0;
     answerBytes_ = 0;
 }
@@ -129,11 +130,18 @@ QByteArray FaultServer::demanded()
     return demanded_;
 }
 
+void FaultServer::watchRequests(const QByteArray &requests)
+{
+    const std::lock_guard lock(mutex_);
+    if (isAwaited_ && requests.contains(fault_.afterRequest))
+        isAwaited_ = false;
+}
+
 /// Whether the fault's byte is among those that have just come.
 bool FaultServer::takesPlace(FaultKind kind, std::int64_t bytes)
 {
     const std::lock_guard lock(mutex_);
-    if (hasHappened_ || fault_.kind != kind || bytes < fault_.atByte)
+    if (hasHappened_ || isAwaited_ || fault_.kind != kind || bytes < fault_.atByte)
         return false;
     hasHappened_ = true;
     if (whenMisbehaving_)
@@ -223,6 +231,7 @@ bool FaultServer::passRequests(Link &link)
     }
     if (const QByteArray wanted = demanded(); !wanted.isEmpty())
         requests.replace(wanted, QByteArray());
+    watchRequests(requests);
     const std::int64_t before = requestBytes_;
     requestBytes_ += requests.size();
     const bool isCut = takesPlace(FaultKind::CutRequests, requestBytes_);

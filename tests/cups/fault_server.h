@@ -31,7 +31,8 @@ struct Fault
 {
     FaultKind kind = FaultKind::None;
     std::int64_t atByte = 0;
-    int status = 500; ///< of HttpError and IppError
+    int status = 500;            ///< of HttpError and IppError
+    QByteArray afterRequest = {}; ///< no sooner than a request had these bytes; empty: at once
 };
 void PrintTo(const Fault &fault, std::ostream *out);
 
@@ -83,6 +84,7 @@ private:
     /// Whether the link's requests go through; false also while nobody knows yet.
     [[nodiscard]] bool letIn(Link &link, const QByteArray &requests);
     [[nodiscard]] QByteArray demanded();
+    void watchRequests(const QByteArray &requests);
     [[nodiscard]] bool takesPlace(FaultKind kind, std::int64_t bytes);
 
     int listener_ = -1;
@@ -94,6 +96,7 @@ private:
     QByteArray demanded_; ///< a line of HTTP; empty without demand
     std::function<void()> whenMisbehaving_;
     std::atomic<bool> hasHappened_ = false;
+    std::atomic<bool> isAwaited_ = false; ///< no request had the fault's bytes yet
     std::atomic<bool> isOver_ = false;
     std::atomic<int> refusals_ = 0;
     std::atomic<std::int64_t> requestBytes_ = 0;
