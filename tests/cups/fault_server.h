@@ -31,7 +31,7 @@ struct Fault
 {
     FaultKind kind = FaultKind::None;
     std::int64_t atByte = 0;
-    int status = 500;            ///< of HttpError and IppError
+    int status = 500;             ///< of HttpError and IppError
     QByteArray afterRequest = {}; ///< no sooner than a request had these bytes; empty: at once
 };
 void PrintTo(const Fault &fault, std::ostream *out);
