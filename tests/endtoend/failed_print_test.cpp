@@ -126,7 +126,7 @@ class FailedPrintByFault : public PrintingDialog, public testing::WithParamInter
 
 // A connection that is closed at once is not among them: libcups connects again, and nothing fails.
 // clang-format off
-constexpr FaultRow kFaults[] = {
+const FaultRow kFaults[] = {
     {"CutAnswers",   {FaultKind::CutAnswers, 1}},
     {"CutRequests",  {FaultKind::CutRequests, 1}},
     {"CutDocument",  {FaultKind::CutRequests, 2000}},
