@@ -2,6 +2,7 @@
 
 #include "dialog/panels/choice_list.h"
 #include "platform/controls/pop_up_button.h"
+#include "platform/controls/spoken_label.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -71,6 +72,7 @@ public:
         popUp_->setObjectName(objectNameOf());
         popUp_->setAccessibleName(option.text);
         add(popUp_);
+        addSpokenLabel(popUp_, literal(option.text));
         connect(popUp_, &QComboBox::activated, this, [this](int row) {
             Q_EMIT picked({this->option().keyword, popUp_->itemData(row).toString()}, Switch::On);
         });

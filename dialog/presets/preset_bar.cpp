@@ -125,6 +125,7 @@ QWidget *PresetBar::makeNameRow()
     nameError_ = plainLabel("presetNameError");
     nameError_->setWordWrap(true);
     auto *naming = new QWidget;
+    naming->setAccessibleName(tr("Name of the preset")); // whose Cancel is not the window's
     auto *rows = new QVBoxLayout(naming);
     rows->setContentsMargins({});
     auto *row = new QHBoxLayout;

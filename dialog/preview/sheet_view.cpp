@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QScrollBar>
+#include <QStyleOptionFocusRect>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -168,6 +169,7 @@ void SheetView::paintEvent(QPaintEvent *)
     QPainter painter(viewport());
     painter.fillRect(viewport()->rect(), mixed(palette().color(QPalette::Window),
                                                palette().color(QPalette::WindowText), 0.1));
+    drawFocus(painter);
     const QRectF sheet = sheetRect();
     if (sheet.isEmpty())
         return;
@@ -180,6 +182,31 @@ void SheetView::paintEvent(QPaintEvent *)
     painter.setPen(mixed(Qt::white, Qt::black, 0.5));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(sheet.adjusted(-1, -1, 0, 0));
+}
+
+/// Around the whole, where no sheet is.
+void SheetView::drawFocus(QPainter &painter) const
+{
+    if (!hasFocus())
+        return;
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.rect = viewport()->rect();
+    option.backgroundColor = palette().color(QPalette::Window);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
+
+/// The frame that shows the focus lies in the viewport.
+void SheetView::focusInEvent(QFocusEvent *event)
+{
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
+void SheetView::focusOutEvent(QFocusEvent *event)
+{
+    QAbstractScrollArea::focusOutEvent(event);
+    viewport()->update();
 }
 
 /// Paper is white in dark themes too.

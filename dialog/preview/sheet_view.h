@@ -46,6 +46,8 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
@@ -55,6 +57,7 @@ private:
     [[nodiscard]] double naturalScale() const;
     [[nodiscard]] QRectF sheetRect() const; ///< in the viewport
     void placeScrollBars();
+    void drawFocus(QPainter &painter) const;
     void drawSheet(QPainter &painter, const QRectF &sheet) const;
     void drawMargins(QPainter &painter, const QRectF &sheet) const;
     void drawSpinner(QPainter &painter, const QRectF &sheet) const;

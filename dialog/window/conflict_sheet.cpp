@@ -3,7 +3,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QButtonGroup>
-#include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -87,11 +86,16 @@ ConflictSheet::ConflictSheet(QWidget *parent)
 /// Each is the default button while it has the focus, so that Return does what it says.
 QWidget *ConflictSheet::makeButtons()
 {
-    auto *buttons = new QDialogButtonBox(this);
-    keep_ = buttons->addButton(tr("Keep What I Had"), QDialogButtonBox::RejectRole);
-    apply_ = buttons->addButton(tr("Make This Change"), QDialogButtonBox::AcceptRole);
+    auto *buttons = new QWidget(this);
+    keep_ = new QPushButton(tr("Keep What I Had"), buttons);
+    apply_ = new QPushButton(tr("Make This Change"), buttons);
     keep_->setObjectName(QStringLiteral("keepChoice"));
     apply_->setObjectName(QStringLiteral("applyResolution"));
+    auto *row = new QHBoxLayout(buttons);
+    row->setContentsMargins({});
+    row->addStretch(1);
+    row->addWidget(keep_);
+    row->addWidget(apply_);
     keep_->setAutoDefault(true);
     apply_->setAutoDefault(true);
     connect(keep_, &QPushButton::clicked, this, &ConflictSheet::keep);
@@ -132,8 +136,20 @@ void ConflictSheet::fillWays(const QStringList &ways)
     }
     column_->insertWidget(column_->indexOf(advice_) + 1, ways_);
     ways_->setVisible(!ways.isEmpty());
-    QWidget::setTabOrder(ways_, keep_);
-    QWidget::setTabOrder(keep_, apply_);
+    orderFocus();
+}
+
+/// New buttons stand at the end of the window, from where Qt leads Tab to nothing before them; so
+/// they are brought here first.
+void ConflictSheet::orderFocus()
+{
+    QWidget *before = apply_;
+    for (QAbstractButton *radio : radios_->buttons()) {
+        setTabOrder(before, radio);
+        before = radio;
+    }
+    setTabOrder(before, keep_);
+    setTabOrder(keep_, apply_);
 }
 
 /// What is being typed goes on.

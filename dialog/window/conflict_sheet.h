@@ -54,6 +54,7 @@ protected:
 private:
     [[nodiscard]] QWidget *makeButtons();
     void fillWays(const QStringList &ways);
+    void orderFocus();
     void takeFocus();
     void close();
     void apply();

@@ -17,6 +17,8 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     /// A repeated key goes on to the window.
     void keyPressEvent(QKeyEvent *event) override;
+    /// Of the default button, some styles do not show the focus.
+    void paintEvent(QPaintEvent *event) override;
 };
 
 } // namespace dialog

@@ -318,8 +318,8 @@ void PrintWindow::allowPrinting()
 
 bool PrintWindow::focusNextPrevChild(bool next)
 {
-    orderTabs(*this, {preview_, heading_->parentWidget(), general_, chooser_, panelPlace_, notices_,
-                      buttons_});
+    orderTabs(*this, {preview_, heading_->parentWidget(), general_, chooser_, panelPlace_,
+                      conflictSheet_, notices_, question_, buttons_});
     buttons_->setFocusProxy(nullptr); // else the box leads Tab back to its first button for ever
     return QDialog::focusNextPrevChild(next);
 }

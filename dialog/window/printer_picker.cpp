@@ -14,7 +14,7 @@
 
 namespace dialog {
 PrinterPicker::PrinterPicker(QWidget *parent)
-    : QWidget(parent), filter_(new QLineEdit(this)), popUp_(new PopUpButton(this)),
+    : QWidget(parent), popUp_(new PopUpButton(this)), filter_(new QLineEdit(this)),
       state_(new QLabel(this))
 {
     filter_->setObjectName(QStringLiteral("printerFilter"));

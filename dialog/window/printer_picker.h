@@ -45,8 +45,8 @@ private:
     void pick(int index);
     void pickFirstMatch();
 
-    QLineEdit *filter_;
     PopUpButton *popUp_;
+    QLineEdit *filter_;
     QLabel *state_;
     std::vector<Queue> queues_;
     QString selected_;

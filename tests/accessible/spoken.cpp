@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QImage>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -236,6 +237,20 @@ Findings againstReadingOrder(QWidget &window)
     return found;
 }
 
+Findings unmarked(QWidget &window)
+{
+    const auto look = [](QWidget *control) { return control->grab().toImage(); };
+    Findings found;
+    for (QWidget *stop : walkByTab(window)) {
+        stop->setFocus(Qt::TabFocusReason);
+        const QImage focused = look(stop);
+        stop->clearFocus();
+        if (look(stop) == focused)
+            found.push_back({called(stop), q("looks the same with the focus")});
+    }
+    return found;
+}
+
 Findings nameless(const QWidget &window)
 {
     Findings found;
@@ -298,8 +313,8 @@ Findings silent(const QWidget &window)
 Findings findings(QWidget &window)
 {
     Findings all = unreachable(window);
-    for (const Findings &some : {againstReadingOrder(window), nameless(window), misplayed(window),
-                                 confusable(window), silent(window)})
+    for (const Findings &some : {againstReadingOrder(window), unmarked(window), nameless(window),
+                                 misplayed(window), confusable(window), silent(window)})
         all.insert(all.end(), some.begin(), some.end());
     return all;
 }

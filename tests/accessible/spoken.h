@@ -27,6 +27,9 @@ using layout::Findings;
 /// Each step of Tab leads down, or to the right.
 [[nodiscard]] Findings againstReadingOrder(QWidget &window);
 
+/// Whoever comes by Tab sees where: each stop looks different while it has the focus.
+[[nodiscard]] Findings unmarked(QWidget &window);
+
 /// Every focusable node of the tree has a name, without the marks of mnemonics.
 [[nodiscard]] Findings nameless(const QWidget &window);
 /// Every focusable node has the role that its kind of control has for a person.

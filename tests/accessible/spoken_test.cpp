@@ -79,6 +79,23 @@ TEST_F(Spoken, FindsATabThatJumpsUp)
                 ElementsAre(Finding{q("control2"), q("follows control3")}));
 }
 
+/// Paints itself, and forgets the focus.
+class Blank : public QPushButton
+{
+    using QPushButton::QPushButton;
+    void paintEvent(QPaintEvent *) override {}
+};
+
+TEST_F(Spoken, FindsAFocusThatDoesNotShow)
+{
+    auto *blank = new Blank(q("Blank"), &window_);
+    blank->setObjectName(q("blank"));
+    window_.layout()->addWidget(blank);
+    blank->show();
+    EXPECT_THAT(accessible::unmarked(window_),
+                ElementsAre(Finding{q("blank"), q("looks the same with the focus")}));
+}
+
 TEST_F(Spoken, FindsWhatHasNoName)
 {
     box_->setText({});

@@ -10,20 +10,24 @@
 #include <gtest/gtest.h>
 
 namespace test {
-namespace {
 
-QString ppdIn(const char *language)
+QString samplePpd(const Look &look)
 {
-    const QString path = q(KORVANE_SOURCE_DIR "/driver/ppd/Korvane-S300-%1.ppd").arg(q(language));
+    const QString path =
+        q(KORVANE_SOURCE_DIR "/driver/ppd/Korvane-S300-%1.ppd").arg(q(look.language));
     return QFile::exists(path) ? path : q(KORVANE_SOURCE_DIR "/driver/ppd/Korvane-S300.ppd");
 }
 
-} // namespace
-
 std::unique_ptr<dialog::PrintDialog> openSample(const Look &look, const QString &document)
 {
+    return openPrinter(samplePpd(look), look, document);
+}
+
+std::unique_ptr<dialog::PrintDialog> openPrinter(const QString &ppd, const Look &look,
+                                                 const QString &document)
+{
     dialog::PrintCase printCase;
-    printCase.ppd = ppdIn(look.language);
+    printCase.ppd = ppd;
     printCase.root = q(KORVANE_ROOT_DIR);
     printCase.language = q(look.language);
     printCase.document = document;

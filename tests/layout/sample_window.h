@@ -12,6 +12,13 @@ namespace test {
 [[nodiscard]] std::unique_ptr<dialog::PrintDialog> openSample(const Look &look,
                                                               const QString &document = {});
 
+/// The same of any PPD.
+[[nodiscard]] std::unique_ptr<dialog::PrintDialog> openPrinter(const QString &ppd, const Look &look,
+                                                               const QString &document = {});
+
+/// The sample ink printer's PPD, in the look's language where there is one.
+[[nodiscard]] QString samplePpd(const Look &look);
+
 /// Pop-ups whose items are new take their width by a timer of 20 ms.
 void settle();
 
