@@ -16,13 +16,19 @@ namespace {
 constexpr int kFewestCharacters = 8;
 constexpr int kMostCharacters = 30;
 
-QLabel *noteLabel(QWidget *parent)
+/// Below a control, made when there is something to say first.
+void showNote(QLabel *&label, QWidget *control, const QString &text)
 {
-    auto *label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->hide();
-    return label;
+    if (!label && text.isNull())
+        return;
+    if (!label) {
+        label = new QLabel(control);
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        control->layout()->addWidget(label);
+    }
+    label->setText(text);
+    label->setVisible(!text.isNull());
 }
 
 void setDimmed(QWidget *widget, bool isDimmed)
@@ -31,12 +37,6 @@ void setDimmed(QWidget *widget, bool isDimmed)
     if (isDimmed)
         palette.setColor(QPalette::Active, QPalette::WindowText, dimmedText(widget->palette()));
     widget->setPalette(isDimmed ? palette : QPalette());
-}
-
-/// Ampersands of the PPD are shown.
-QString literal(QString text)
-{
-    return text.replace(u'&', QStringLiteral("&&"));
 }
 
 int longestText(const PrinterOption &option)
@@ -56,11 +56,28 @@ const OptionChoice *choiceOf(const PrinterOption &option, QLatin1String keyword)
     return found == option.choices.end() ? nullptr : &*found;
 }
 
+/// Makes its list, and what paints it, when it is opened first.
+class ChoicePopUp : public PopUpButton
+{
+public:
+    using PopUpButton::PopUpButton;
+
+    void showPopup() override
+    {
+        if (!delegate_)
+            setItemDelegate(delegate_ = new ChoiceDelegate(this));
+        PopUpButton::showPopup();
+    }
+
+private:
+    ChoiceDelegate *delegate_ = nullptr;
+};
+
 class PopUpFeature : public FeatureControl
 {
 public:
     PopUpFeature(const PrinterOption &option, const Reason &reason)
-        : FeatureControl(option, reason), popUp_(new PopUpButton(this)),
+        : FeatureControl(option, reason), popUp_(new ChoicePopUp(this)),
           list_(new ChoiceList(option, popUp_))
     {
         // Its size does not ask for the width of every text.
@@ -68,11 +85,10 @@ public:
         popUp_->setMinimumContentsLength(
             std::clamp(longestText(option), kFewestCharacters, kMostCharacters));
         popUp_->setModel(list_);
-        popUp_->setItemDelegate(new ChoiceDelegate(popUp_));
         popUp_->setObjectName(objectNameOf());
         popUp_->setAccessibleName(option.text);
         add(popUp_);
-        addSpokenLabel(popUp_, literal(option.text));
+        addSpokenLabel(popUp_, literalText(option.text));
         connect(popUp_, &QComboBox::activated, this, [this](int row) {
             Q_EMIT picked({this->option().keyword, popUp_->itemData(row).toString()}, Switch::On);
         });
@@ -89,6 +105,7 @@ protected:
         list_->setReasons(reasons);
         popUp_->setCurrentIndex(state.marked.isEmpty() ? -1 : list_->rowOf(state.marked.first()));
         popUp_->setToolTip(popUp_->currentText());
+        popUp_->setAccessibleDescription({});
     }
 
 private:
@@ -101,13 +118,12 @@ class RuledBox : public QWidget
 {
 public:
     RuledBox(const QString &title, QWidget *parent)
-        : QWidget(parent), box_(new QCheckBox(literal(title), this)), note_(noteLabel(this))
+        : QWidget(parent), box_(new QCheckBox(literalText(title), this))
     {
         auto *column = new QVBoxLayout(this);
         column->setContentsMargins({});
         column->setSpacing(0);
         column->addWidget(box_);
-        column->addWidget(note_);
     }
 
     [[nodiscard]] QCheckBox *box() const { return box_; }
@@ -118,13 +134,12 @@ public:
         box_->setToolTip(reason);
         box_->setAccessibleDescription(reason);
         setDimmed(box_, !reason.isNull());
-        note_->setText(reason);
-        note_->setVisible(!reason.isNull());
+        showNote(note_, this, reason);
     }
 
 private:
     QCheckBox *box_;
-    QLabel *note_;
+    QLabel *note_ = nullptr;
 };
 
 class BooleanFeature : public FeatureControl
@@ -204,6 +219,11 @@ bool isSwitch(const PrinterOption &option)
 
 } // namespace
 
+QString literalText(QString text)
+{
+    return text.replace(u'&', QStringLiteral("&&"));
+}
+
 std::unique_ptr<FeatureControl> FeatureControl::make(const PrinterOption &option,
                                                      const Reason &reason)
 {
@@ -215,35 +235,34 @@ std::unique_ptr<FeatureControl> FeatureControl::make(const PrinterOption &option
 }
 
 FeatureControl::FeatureControl(const PrinterOption &option, const Reason &reason)
-    : option_(option), reason_(reason), conflict_(noteLabel(this))
+    : option_(option), reason_(reason)
 {
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins({});
-    column->addWidget(conflict_);
+    (new QVBoxLayout(this))->setContentsMargins({});
 }
 
-/// Above the note about a conflict.
 void FeatureControl::add(QWidget *control)
 {
-    auto *column = static_cast<QVBoxLayout *>(layout());
-    column->insertWidget(column->count() - 1, control);
+    layout()->addWidget(control);
 }
 
-void FeatureControl::showState(const OptionState &state)
+void FeatureControl::showState(const OptionState &state, const QString &remark)
 {
     update(state);
-    showConflict(state);
+    const QString conflict = conflictOf(state);
+    showNote(conflict_, this, conflict);
+    QStringList words{remark, buddy()->accessibleDescription(), conflict};
+    words.removeAll(QString());
+    buddy()->setAccessibleDescription(words.join(u'\n'));
 }
 
-void FeatureControl::showConflict(const OptionState &state)
+QString FeatureControl::conflictOf(const OptionState &state) const
 {
     QString text;
     for (const QString &choice : state.marked) {
         if (text.isNull())
             text = reasonOf(state, choice);
     }
-    conflict_->setText(text);
-    conflict_->setVisible(!text.isNull());
+    return text;
 }
 
 QString FeatureControl::reasonOf(const OptionState &state, const QString &choice) const

@@ -11,6 +11,9 @@ class QLabel;
 
 namespace dialog {
 
+/// For a control that would take an ampersand for the mark of a mnemonic.
+[[nodiscard]] QString literalText(QString text);
+
 /// The control of one option in the panel of printer features: a pop-up, a check box, or a list of
 /// check boxes. Shows what is marked and what cannot be had, and tells what a person picks.
 class FeatureControl : public QWidget
@@ -25,8 +28,8 @@ public:
     [[nodiscard]] static std::unique_ptr<FeatureControl> make(const PrinterOption &option,
                                                               const Reason &reason);
 
-    /// Tells nobody.
-    void showState(const OptionState &state);
+    /// Tells nobody. Readers say @p remark of the control, and what stands below it.
+    void showState(const OptionState &state, const QString &remark = {});
     [[nodiscard]] const PrinterOption &option() const { return option_; }
     /// Whether the control bears the option's text itself and wants no label before it.
     [[nodiscard]] virtual bool bearsTitle() const { return false; }
@@ -48,11 +51,11 @@ protected:
     void add(QWidget *control);
 
 private:
-    void showConflict(const OptionState &state);
+    [[nodiscard]] QString conflictOf(const OptionState &state) const;
 
     const PrinterOption &option_;
     Reason reason_;
-    QLabel *conflict_; ///< where what is marked cannot stand
+    QLabel *conflict_ = nullptr; ///< where what is marked cannot stand
 };
 
 } // namespace dialog

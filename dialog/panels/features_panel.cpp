@@ -62,6 +62,7 @@ FeaturesPanel::FeaturesPanel(PpdDocument &printer, DialogHost &host, const QStri
     : printer_(printer), host_(host), groups_(unclaimedGroups(printer.groups(), claimed))
 {
     setObjectName(QStringLiteral("featuresPanel"));
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     putInstallableLast(groups_);
 }
 
@@ -147,8 +148,9 @@ void FeaturesPanel::addRow(const PrinterOption &option, GroupKind kind, QGridLay
     grid.addWidget(row.marker, line, MarkerColumn, Qt::AlignTop);
     grid.addWidget(control, line, ControlColumn);
     if (!control->bearsTitle()) {
-        row.label = plainLabel(option.text);
+        row.label = plainLabel(literalText(option.text));
         row.label->setBuddy(control->buddy());
+        row.label->setMinimumHeight(control->buddy()->sizeHint().height()); // text beside text
         grid.addWidget(row.label, line, LabelColumn, Qt::AlignTop);
     }
     control->setEnabled(kind == GroupKind::Usual);
@@ -169,22 +171,25 @@ void FeaturesPanel::refresh()
     const MarkTable marks(printer_.marks());
     for (const Row &row : rows_) {
         const OptionState state = stateOf(row.control->option(), marks, printer_.rules());
-        row.control->showState(state);
-        showMarker(row, state);
+        const QString remark = changeRemark(state, row.control->option());
+        row.control->showState(state, remark);
+        showMarker(row, remark);
     }
 }
 
-void FeaturesPanel::showMarker(const Row &row, const OptionState &state) const
+QString FeaturesPanel::changeRemark(const OptionState &state, const PrinterOption &option) const
 {
-    const PrinterOption &option = row.control->option();
-    QString note;
-    if (!state.isDefault)
-        note = tr("Changed from the default “%1”")
-                   .arg(choicesText(printer_, {option.keyword, option.defaults.join(u',')}));
-    row.marker->setText(state.isDefault ? QString() : QStringLiteral("•"));
-    row.marker->setToolTip(note);
-    row.marker->setAccessibleName(note);
-    row.control->setAccessibleDescription(note);
+    if (state.isDefault)
+        return {};
+    return tr("Changed from the default “%1”")
+        .arg(choicesText(printer_, {option.keyword, option.defaults.join(u',')}));
+}
+
+void FeaturesPanel::showMarker(const Row &row, const QString &remark)
+{
+    row.marker->setText(remark.isNull() ? QString() : QStringLiteral("•"));
+    row.marker->setToolTip(remark);
+    row.marker->setAccessibleName(remark);
 }
 
 void FeaturesPanel::filter(const QString &text)

@@ -53,7 +53,8 @@ private:
     [[nodiscard]] QWidget *makeContents();
     void addSection(const OptionGroup &group, QGridLayout &grid);
     void addRow(const PrinterOption &option, GroupKind kind, QGridLayout &grid);
-    void showMarker(const Row &row, const OptionState &state) const;
+    [[nodiscard]] QString changeRemark(const OptionState &state, const PrinterOption &option) const;
+    static void showMarker(const Row &row, const QString &remark);
     void choose(const Choice &choice, Switch to);
     void filter(const QString &text);
 

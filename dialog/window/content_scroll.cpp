@@ -17,7 +17,6 @@ ContentScroll::ContentScroll(QWidget *contents, QWidget *parent) : QScrollArea(p
 {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
     setWidget(contents);
     viewport()->setAutoFillBackground(false);

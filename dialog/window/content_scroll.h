@@ -5,7 +5,8 @@
 namespace dialog {
 
 /// A scroll area that wants to be as large as its contents and scrolls only where there is no room
-/// for that. Its contents are never narrower than they must be.
+/// for that. Its contents are never narrower than they must be; a window that is, with large fonts
+/// on a small screen, scrolls them sideways.
 class ContentScroll : public QScrollArea
 {
     Q_OBJECT

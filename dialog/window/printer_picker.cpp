@@ -91,6 +91,7 @@ void PrinterPicker::showState()
     if (queue)
         words = {stateText(*queue), queue->location};
     words.removeAll(QString());
+    popUp_->setToolTip(popUp_->currentText()); // may be longer than the pop-up
     state_->setText(words.join(QStringLiteral(" · ")));
     state_->setVisible(!words.isEmpty());
 }

@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include <gmock/gmock.h>
@@ -105,6 +106,20 @@ TEST(LayoutCheck, FindsAControlThatLeavesTheView)
     view.print.move(view.width() - 1, view.print.y());
     EXPECT_EQ(blamed(layout::outside(view)), QStringList({q("print")}));
     EXPECT_FALSE(layout::findings(view).empty());
+}
+
+TEST(LayoutCheck, FindsContentsThatNobodyCanScrollTo)
+{
+    View view;
+    auto *area = new QScrollArea;
+    View::name(area, "area");
+    area->setWidget(new QPushButton(q("A long title of a button in a small place")));
+    area->setFixedWidth(40);
+    view.form.addRow(area);
+    view.shown();
+    EXPECT_THAT(layout::hiddenSideways(view), IsEmpty()) << "it scrolls";
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    EXPECT_EQ(blamed(layout::hiddenSideways(view)), QStringList({q("area")}));
 }
 
 TEST(LayoutCheck, FindsControlsThatShareAPixel)

@@ -102,7 +102,7 @@ dialog::QueueListing queueListing()
         listing.queues.push_back(
             {q("ink%1").arg(i), q("Ink Printer %1").arg(i), q("Floor %1").arg(i)});
     listing.queues.front().state = dialog::QueueState::Paused;
-    listing.queues.front().reason = q("The paper is used up.");
+    listing.queues.front().reason = q("No paper.");
     return listing;
 }
 
@@ -116,6 +116,13 @@ const char *nameOf(Part part)
 void PrintTo(Part part, std::ostream *out)
 {
     *out << nameOf(part);
+}
+
+std::string caseName(const testing::TestParamInfo<PartInLook> &info)
+{
+    const auto &[part, look] = info.param;
+    return std::string(nameOf(part)) + "_" + look.language +
+           (look.fontScale > 1 ? "LargeFont" : "") + (look.shade == Shade::Dark ? "Dark" : "");
 }
 
 Scene::Scene(Part part, const Look &look)

@@ -4,8 +4,11 @@
 #include "dialog/queue_dialog.h"
 #include "tests/layout/desktop.h"
 
+#include <gtest/gtest.h>
+
 #include <memory>
 #include <ostream>
+#include <tuple>
 
 namespace test {
 
@@ -16,6 +19,10 @@ inline constexpr Part kParts[] = {Part::Features,          Part::Conflict, Part:
                                   Part::Printers};
 [[nodiscard]] const char *nameOf(Part part);
 void PrintTo(Part part, std::ostream *out);
+
+using PartInLook = std::tuple<Part, Look>;
+/// For the names of test cases: "Review_deLargeFont".
+[[nodiscard]] std::string caseName(const testing::TestParamInfo<PartInLook> &info);
 
 /// The print window with one of its passing parts open, in the look's language. Features shows a
 /// printer with a finisher, and choices that cannot be had; the others the sample ink printer.

@@ -1,5 +1,6 @@
 #include "dialog/window/print_window.h"
 #include "tests/layout/sample_window.h"
+#include "tests/layout/scene.h"
 #include "tests/support/layout_check.h"
 #include "tests/support/print_to.h"
 
@@ -12,6 +13,15 @@ using testing::IsEmpty;
 namespace {
 
 constexpr QSize kSmallestScreen(1024, 768);
+
+void expectNothingCutOff(const QWidget &window)
+{
+    EXPECT_THAT(layout::clipped(window), IsEmpty());
+    EXPECT_THAT(layout::outside(window), IsEmpty());
+    EXPECT_THAT(layout::hiddenSideways(window), IsEmpty());
+    EXPECT_THAT(layout::overlapping(window), IsEmpty());
+    EXPECT_THAT(layout::nameless(window), IsEmpty());
+}
 
 class WindowLayout : public testing::TestWithParam<Look>
 {
@@ -31,10 +41,7 @@ TEST_P(WindowLayout, CutsNoTextWhicheverPanelIsInFront)
         keepPicture(&window, QStringLiteral("window-%1-%2-%3")
                                  .arg(q(GetParam().language), QString::number(GetParam().fontScale),
                                       opened->panels().kind(i)));
-        EXPECT_THAT(layout::clipped(window), IsEmpty());
-        EXPECT_THAT(layout::outside(window), IsEmpty());
-        EXPECT_THAT(layout::overlapping(window), IsEmpty());
-        EXPECT_THAT(layout::nameless(window), IsEmpty());
+        expectNothingCutOff(window);
     }
 }
 
@@ -44,6 +51,32 @@ std::vector<Look> lightLooks()
     std::erase_if(looks, [](const Look &look) { return look.shade == Shade::Dark; });
     return looks;
 }
+
+class PartLayout : public testing::TestWithParam<PartInLook>
+{
+};
+
+TEST_P(PartLayout, CutsNoTextOnASmallScreen)
+{
+    const auto &[part, look] = GetParam();
+    const Desktop desktop(look);
+    const Scene scene(part, look);
+    QWidget &window = scene.window();
+    EXPECT_LE(window.minimumSizeHint().width(), kSmallestScreen.width());
+    EXPECT_LE(window.minimumSizeHint().height(), kSmallestScreen.height());
+    window.resize(kSmallestScreen);
+    settle();
+    keepPicture(&window,
+                QStringLiteral("part-%1-%2-%3-%4")
+                    .arg(q(nameOf(part)), q(look.language), QString::number(look.fontScale),
+                         look.shade == Shade::Dark ? q("dark") : q("light")));
+    expectNothingCutOff(window);
+}
+
+INSTANTIATE_TEST_SUITE_P(Parts, PartLayout,
+                         testing::Combine(testing::ValuesIn(kParts),
+                                          testing::ValuesIn(lightLooks())),
+                         caseName);
 
 INSTANTIATE_TEST_SUITE_P(Looks, WindowLayout, testing::ValuesIn(lightLooks()),
                          [](const auto &look) {

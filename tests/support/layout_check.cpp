@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QSpinBox>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
@@ -240,6 +241,20 @@ Findings outside(const QWidget &root)
             found.push_back(
                 {nameOf(control),
                  QStringLiteral("%1 leaves the view %2").arg(shown(rect), shown(root.size()))});
+    }
+    return found;
+}
+
+Findings hiddenSideways(const QWidget &root)
+{
+    Findings found;
+    for (const QScrollArea *area : root.findChildren<QScrollArea *>()) {
+        const bool isFixed = area->horizontalScrollBarPolicy() == Qt::ScrollBarAlwaysOff;
+        const int room = area->viewport()->width();
+        if (area->isVisible() && isFixed && area->widget() && area->widget()->width() > room)
+            found.push_back({nameOf(area), QStringLiteral("shows %1 of its contents' width of %2")
+                                               .arg(room)
+                                               .arg(area->widget()->width())});
     }
     return found;
 }

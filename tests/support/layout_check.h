@@ -26,6 +26,8 @@ void PrintTo(const Finding &finding, std::ostream *out);
 
 /// Lies wholly inside the view.
 [[nodiscard]] Findings outside(const QWidget &root);
+/// No scroll area that never scrolls sideways hides a part of its contents there.
+[[nodiscard]] Findings hiddenSideways(const QWidget &root);
 /// No two controls share a pixel.
 [[nodiscard]] Findings overlapping(const QWidget &root);
 /// Every text is complete. Of a pop-up, the selected item; where its longest one is longer than the
