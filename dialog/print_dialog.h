@@ -90,6 +90,9 @@ Q_SIGNALS:
     void aboutToShowPanels();
     void jobMade(const dialog::JobRecord &job);
     void jobFailed(const QString &notice);
+    /// A PDF file or a ticket is there, or why it is not.
+    void fileSaved(const QString &file);
+    void saveFailed(const QString &notice);
     void noticeShown(const QString &notice);
     void helpOpened(const platform::HelpRequest &request);
     void left();

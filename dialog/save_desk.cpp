@@ -48,7 +48,7 @@ SaveDesk::SaveDesk(JobDesk &desk, PrintWindow &window, QObject *parent)
     connect(&pdf_, &PdfSaving::progressed, this, &SaveDesk::showProgress);
     connect(&pdf_, &PdfSaving::saved, this, &SaveDesk::tellSaved);
     connect(&pdf_, &PdfSaving::failed, this,
-            [this](const QString &reason) { fail(file_, reason); });
+            [this](PdfFault fault, const QString &reason) { fail(file_, fault, reason); });
     connect(&pdf_, &PdfSaving::cancelled, &window_.notices(),
             [this] { window_.notices().dismiss(kSaveKey); });
 }
@@ -76,7 +76,7 @@ void SaveDesk::savePdf(const QString &file)
         return;
     file_ = file;
     if (desk_.document().isNull()) {
-        fail(file, tr("There is no document. Start the dialog with one."));
+        fail(file, PdfFault::Document, tr("There is no document. Start the dialog with one."));
         return;
     }
     pdf_.start({desk_.document(), file, documentName(desk_.document()), window_.preview().look()});
@@ -101,7 +101,7 @@ void SaveDesk::saveTicket(const QString &file)
     if (isWritten)
         tellSaved(file);
     else
-        fail(file, target.errorString());
+        fail(file, PdfFault::File, target.errorString());
 }
 
 void SaveDesk::tellSaved(const QString &file)
@@ -110,11 +110,13 @@ void SaveDesk::tellSaved(const QString &file)
     Q_EMIT saved(file);
 }
 
-void SaveDesk::fail(const QString &file, const QString &reason)
+void SaveDesk::fail(const QString &file, PdfFault fault, const QString &reason)
 {
-    const QString words = tr("%1 could not be saved: %2. Choose another place, or make room and "
-                             "allow writing there.")
-                              .arg(file, reason);
+    const QString words = fault == PdfFault::Document
+                              ? tr("%1 could not be saved. %2").arg(file, reason)
+                              : tr("%1 could not be saved: %2. Choose another place, or make room "
+                                   "and allow writing there.")
+                                    .arg(file, reason);
     Q_EMIT noticed({kSaveKey, Severity::Critical, words, {}});
     Q_EMIT failed(words);
 }

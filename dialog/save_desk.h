@@ -24,6 +24,8 @@ public:
     // Without asking for a file.
     void savePdf(const QString &file);
     void saveTicket(const QString &file);
+    /// Whether a PDF file is being written; another one is not begun then.
+    [[nodiscard]] bool isSaving() const { return pdf_.isSaving(); }
 
 Q_SIGNALS:
     void noticed(const dialog::Notice &notice);
@@ -35,7 +37,7 @@ private:
     void ask(const QString &suffix, void (SaveDesk::*save)(const QString &file));
     void showProgress(int sides, int allSides);
     void tellSaved(const QString &file);
-    void fail(const QString &file, const QString &reason);
+    void fail(const QString &file, PdfFault fault, const QString &reason);
 
     JobDesk &desk_;
     PrintWindow &window_;

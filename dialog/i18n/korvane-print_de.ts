@@ -1215,6 +1215,11 @@
         <source>Nothing would be printed: no page is among those chosen.</source>
         <translation>Es würde nichts gedruckt: Keine Seite gehört zu den gewählten.</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>What the sheet shows, and a sentence about what it does not.</extracomment>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PreviewWords</name>
@@ -1422,6 +1427,10 @@
     <message>
         <source>%1 could not be saved: %2. Choose another place, or make room and allow writing there.</source>
         <translation>%1 konnte nicht gesichert werden: %2. Wählen Sie einen anderen Ort, oder schaffen Sie dort Platz und erlauben Sie das Schreiben.</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved. %2</source>
+        <translation>%1 konnte nicht gesichert werden. %2</translation>
     </message>
 </context>
 <context>

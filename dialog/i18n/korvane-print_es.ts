@@ -1215,6 +1215,11 @@
         <source>Nothing would be printed: no page is among those chosen.</source>
         <translation>No se imprimiría nada: ninguna página está entre las elegidas.</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>What the sheet shows, and a sentence about what it does not.</extracomment>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PreviewWords</name>
@@ -1422,6 +1427,10 @@
     <message>
         <source>%1 could not be saved: %2. Choose another place, or make room and allow writing there.</source>
         <translation>No se ha podido guardar %1: %2. Elija otro lugar, o libere espacio y permita la escritura allí.</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved. %2</source>
+        <translation>No se ha podido guardar %1. %2</translation>
     </message>
 </context>
 <context>

@@ -1215,6 +1215,11 @@
         <source>Nothing would be printed: no page is among those chosen.</source>
         <translation>Non verrebbe stampato nulla: nessuna pagina è tra quelle scelte.</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>What the sheet shows, and a sentence about what it does not.</extracomment>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PreviewWords</name>
@@ -1422,6 +1427,10 @@
     <message>
         <source>%1 could not be saved: %2. Choose another place, or make room and allow writing there.</source>
         <translation>Non è stato possibile salvare %1: %2. Scegli un altro posto, oppure libera spazio e consenti la scrittura.</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved. %2</source>
+        <translation>Non è stato possibile salvare %1. %2</translation>
     </message>
 </context>
 <context>

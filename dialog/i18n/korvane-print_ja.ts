@@ -1211,6 +1211,11 @@
         <source>Nothing would be printed: no page is among those chosen.</source>
         <translation>選択したページに該当するものがないため、何もプリントされません。</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>What the sheet shows, and a sentence about what it does not.</extracomment>
+        <translation>%1。%2</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PreviewWords</name>
@@ -1417,6 +1422,10 @@
     <message>
         <source>%1 could not be saved: %2. Choose another place, or make room and allow writing there.</source>
         <translation>%1 を保存できませんでした: %2。別の場所を選ぶか、空き容量と書き込み権限を確認してください。</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved. %2</source>
+        <translation>%1 を保存できませんでした。%2</translation>
     </message>
 </context>
 <context>

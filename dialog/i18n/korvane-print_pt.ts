@@ -1215,6 +1215,11 @@
         <source>Nothing would be printed: no page is among those chosen.</source>
         <translation>Nada seria impresso: nenhuma página está entre as escolhidas.</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>What the sheet shows, and a sentence about what it does not.</extracomment>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PreviewWords</name>
@@ -1422,6 +1427,10 @@
     <message>
         <source>%1 could not be saved: %2. Choose another place, or make room and allow writing there.</source>
         <translation>Não foi possível salvar %1: %2. Escolha outro lugar, ou libere espaço e permita a gravação ali.</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved. %2</source>
+        <translation>Não foi possível salvar %1. %2</translation>
     </message>
 </context>
 <context>

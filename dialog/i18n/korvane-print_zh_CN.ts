@@ -1211,6 +1211,11 @@
         <source>Nothing would be printed: no page is among those chosen.</source>
         <translation>不会打印任何内容：没有页面在所选范围内。</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>What the sheet shows, and a sentence about what it does not.</extracomment>
+        <translation>%1。%2</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PreviewWords</name>
@@ -1417,6 +1422,10 @@
     <message>
         <source>%1 could not be saved: %2. Choose another place, or make room and allow writing there.</source>
         <translation>无法保存 %1：%2。请选择其他位置，或在该处腾出空间并允许写入。</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved. %2</source>
+        <translation>无法保存 %1。%2</translation>
     </message>
 </context>
 <context>

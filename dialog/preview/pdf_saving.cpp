@@ -40,6 +40,7 @@ struct PdfSaving::Work
     PdfOrder order;
     std::atomic<bool> isCancelled = false;
     bool isWritten = false;
+    PdfFault fault = PdfFault::File;
     QString reason = {}; ///< why it is not written, unless it has been given up
     std::mutex mutex;
     std::condition_variable ending;
@@ -47,6 +48,11 @@ struct PdfSaving::Work
     PdfSaving *owner = nullptr; ///< null once nobody listens
 
     void run();
+    void failForDocument(const QString &problem)
+    {
+        fault = PdfFault::Document;
+        reason = problem;
+    }
     void write(PageSource &source, QSaveFile &file);
     [[nodiscard]] int putSide(PageSource &source, int number, QPainter &painter) const;
 
@@ -65,7 +71,7 @@ void PdfSaving::Work::run()
 {
     const OpenedSource opened = openPageSource(order.document);
     if (!opened.source) {
-        reason = PreviewWords::problem(opened.problem);
+        failForDocument(PreviewWords::problem(opened.problem));
         return;
     }
     QSaveFile file(order.file);
@@ -98,7 +104,7 @@ void PdfSaving::Work::write(PageSource &source, QSaveFile &file)
         painter.scale(kResolution / kPointsPerInch, kResolution / kPointsPerInch);
         const int damaged = putSide(source, sides[i], painter);
         if (damaged >= 0)
-            reason = PreviewWords::damagedPages({damaged});
+            failForDocument(PreviewWords::damagedPages({damaged}));
         const int done = static_cast<int>(i) + 1;
         const int all = static_cast<int>(sides.size());
         post([done, all](PdfSaving &saving) { Q_EMIT saving.progressed(done, all); });
@@ -158,7 +164,7 @@ void PdfSaving::finish(const Work &work)
     else if (work.isCancelled)
         Q_EMIT cancelled();
     else
-        Q_EMIT failed(work.reason);
+        Q_EMIT failed(work.fault, work.reason);
 }
 
 } // namespace dialog

@@ -9,6 +9,12 @@
 
 namespace dialog {
 
+/// Why there is no file.
+enum class PdfFault {
+    Document, ///< told in sentences for a person
+    File,     ///< told in the system's words
+};
+
 struct PdfOrder
 {
     QString document; ///< path of what is to be laid out
@@ -41,7 +47,7 @@ Q_SIGNALS:
     /// Once per start(); the file is there.
     void saved(const QString &file);
     // Instead, once per start(): there is no file, or the former one.
-    void failed(const QString &reason);
+    void failed(dialog::PdfFault fault, const QString &reason);
     void cancelled();
 
 private:

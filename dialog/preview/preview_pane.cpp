@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QSpinBox>
 #include <QStyle>
@@ -45,6 +46,18 @@ QLabel *wordLabel(const char *name)
     label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     return label;
 }
+
+/// Return is done with the number, and presses no button of the window.
+class SheetField : public QSpinBox
+{
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        QSpinBox::keyPressEvent(event);
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+            event->accept();
+    }
+};
 
 void setWords(QWidget *control, const QString &name)
 {
@@ -101,9 +114,8 @@ QWidget *PreviewPane::makeTurning()
     line->setContentsMargins({});
     previous_ = makeButton("previewPrevious");
     previous_->setArrowType(Qt::LeftArrow);
-    sheet_ = new QSpinBox;
+    sheet_ = new SheetField;
     sheet_->setObjectName(QStringLiteral("previewSheet"));
-    sheet_->setKeyboardTracking(false);
     sheet_->setAlignment(Qt::AlignCenter);
     next_ = makeButton("previewNext");
     next_->setArrowType(Qt::RightArrow);
@@ -308,7 +320,9 @@ void PreviewPane::updateWords()
     caption_->setText(PreviewWords::caption(look_, pages, index_));
     const QString description =
         PreviewWords::description(look_, pages, index_, std::max(1, sideCount()));
-    view_->setAccessibleDescription(message.isEmpty() ? description : description + u' ' + message);
+    //: What the sheet shows, and a sentence about what it does not.
+    view_->setAccessibleDescription(message.isEmpty() ? description
+                                                      : tr("%1. %2").arg(description, message));
 }
 
 } // namespace dialog

@@ -24,6 +24,11 @@ MaybeStep stepOn(const QWidget *control, StepKind kind, const QStringList &more 
     return replay::Step{kind, QStringList{control->objectName()} + more, 0};
 }
 
+QString wordOf(int direction)
+{
+    return direction > 0 ? QStringLiteral("up") : QStringLiteral("down");
+}
+
 MaybeStep stepForRow(const RadioMatrix *matrix, const QAbstractButton *button)
 {
     for (int row = 0; row < matrix->rows(); ++row) {
@@ -63,6 +68,16 @@ MaybeStep stepForEntry(const QAction *entry)
     return replay::Step{StepKind::Click, {entry->objectName()}, 0};
 }
 
+MaybeStep stepForClick(const QWidget *control)
+{
+    return stepOn(control, StepKind::Click);
+}
+
+MaybeStep stepForWheel(const QWidget *control, int direction)
+{
+    return stepOn(control, StepKind::Wheel, {wordOf(direction)});
+}
+
 MaybeStep stepForText(const QLineEdit *field)
 {
     return stepOn(field, StepKind::Type, {field->text()});
@@ -75,8 +90,7 @@ MaybeStep stepForNumber(const QSpinBox *field)
 
 MaybeStep stepForStepper(const Stepper *stepper, int direction)
 {
-    return stepOn(stepper, StepKind::StepBy,
-                  {direction > 0 ? QStringLiteral("up") : QStringLiteral("down")});
+    return stepOn(stepper, StepKind::StepBy, {wordOf(direction)});
 }
 
 } // namespace dialog::record

@@ -26,6 +26,10 @@ using MaybeStep = std::optional<replay::Step>;
 [[nodiscard]] MaybeStep stepForButton(const QAbstractButton *button);
 /// Of a menu that is open.
 [[nodiscard]] MaybeStep stepForEntry(const QAction *entry);
+/// On what is no button, for the focus.
+[[nodiscard]] MaybeStep stepForClick(const QWidget *control);
+/// One notch; up is positive.
+[[nodiscard]] MaybeStep stepForWheel(const QWidget *control, int direction);
 [[nodiscard]] MaybeStep stepForText(const QLineEdit *field);
 /// Whatever way the number came.
 [[nodiscard]] MaybeStep stepForNumber(const QSpinBox *field);

@@ -1,5 +1,6 @@
 #include "dialog/record/person_watcher.h"
 
+#include "dialog/preview/sheet_view.h"
 #include "dialog/window/sign_in_prompt.h"
 #include "platform/controls/modal_session.h"
 #include "platform/controls/stepper.h"
@@ -116,7 +117,7 @@ void PersonWatcher::widgetGets(QWidget *widget, QEvent *event)
         break;
     case QEvent::MouseButtonPress:
         if (!input_.target)
-            aimAt(widget);
+            mousePressed(widget);
         break;
     case QEvent::Wheel: // comes to one widget after the other, until one takes it
         input_ = {QEvent::Wheel};
@@ -167,6 +168,8 @@ void PersonWatcher::watch(QWidget *control)
     else if (auto *number = qobject_cast<QSpinBox *>(control))
         connect(number, &QSpinBox::valueChanged, this, &PersonWatcher::numberChanged,
                 Qt::UniqueConnection);
+    else if (auto *sheet = qobject_cast<SheetView *>(control))
+        connect(sheet, &SheetView::turned, this, &PersonWatcher::sheetTurned, Qt::UniqueConnection);
     else if (auto *field = qobject_cast<QLineEdit *>(control);
              field && !qobject_cast<QSpinBox *>(field->parent()))
         connect(field, &QLineEdit::textEdited, this, &PersonWatcher::textEdited,
@@ -193,6 +196,22 @@ void PersonWatcher::keyPressed(QWidget *target)
     isKeyOpen_ = true;
     Q_EMIT perhapsActed({StepKind::Key, {name}, 0});
     QMetaObject::invokeMethod(this, &PersonWatcher::settleKey, Qt::QueuedConnection);
+}
+
+/// A preview takes keys once it has been pressed.
+void PersonWatcher::mousePressed(QWidget *target)
+{
+    aimAt(target);
+    if (const auto *sheet = qobject_cast<const SheetView *>(target->parentWidget()))
+        tell(sheet, stepForClick(sheet));
+}
+
+/// Keys tell themselves.
+void PersonWatcher::sheetTurned(int sides)
+{
+    const auto *sheet = qobject_cast<const SheetView *>(sender());
+    for (int side = 0; input_.type == QEvent::Wheel && side < qAbs(sides); ++side)
+        tell(sheet, stepForWheel(sheet, -sides));
 }
 
 /// A key that is a shortcut comes to no widget as a key.

@@ -62,6 +62,8 @@ private:
     void watch(QWidget *control);
     void aimAt(QWidget *target);
     void keyPressed(QWidget *target);
+    void mousePressed(QWidget *target);
+    void sheetTurned(int sides);
     void shortcutGets(const QShortcut *shortcut, const QShortcutEvent *event);
     void listHides(const QComboBox *popUp);
     void modalWindowCloses(const QWidget *window);

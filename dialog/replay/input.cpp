@@ -228,15 +228,21 @@ QString paste(QLineEdit *field, const QString &text)
     return {};
 }
 
+/// To the part under the pointer, and from there outwards until one takes it.
 void wheel(QWidget *control, Turn turn)
 {
     activate(control->window());
-    const QPointF local = control->rect().center();
-    const QPointF global = control->mapToGlobal(local);
+    const QPoint centre = control->rect().center();
+    const QPointF global = control->mapToGlobal(QPointF(centre));
     const int notch = turn == Turn::Up ? kWheelNotch : -kWheelNotch;
-    QWheelEvent event(local, global, {}, {0, notch}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(control, &event);
+    QWidget *part = control->childAt(centre);
+    for (QWidget *target = part ? part : control;; target = target->parentWidget()) {
+        QWheelEvent event(target->mapFromGlobal(global), global, {}, {0, notch}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(target, &event);
+        if (event.isAccepted() || target == control)
+            return;
+    }
 }
 
 void key(QWidget *window, QKeyCombination key)

@@ -32,12 +32,15 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <chrono>
 
 namespace dialog::replay {
 namespace {
 
 // A window that was closed while its loop goes on for longer than this has not ended its session.
 constexpr int kMostTurnsWaited = 1000;
+// A machine that is slow draws in the end; a damaged document may never be drawn.
+constexpr std::chrono::seconds kPreviewPatience(40);
 
 /// Leaving counts: the dialog tells it, whoever leaves.
 bool isInput(StepKind kind)
@@ -232,9 +235,14 @@ void Player::watchDialog()
             [this](const platform::HelpRequest &request) { report_.help(request.bookName); });
     connect(dialog_.get(), &PrintDialog::jobMade, this, [this](const JobRecord &job) {
         report_.job(job);
-        jobEnded({});
+        stepEnded({});
     });
-    connect(dialog_.get(), &PrintDialog::jobFailed, this, &Player::jobEnded);
+    connect(dialog_.get(), &PrintDialog::jobFailed, this, &Player::stepEnded);
+    connect(dialog_.get(), &PrintDialog::fileSaved, this, [this](const QString &file) {
+        report_.saved(file);
+        stepEnded({});
+    });
+    connect(dialog_.get(), &PrintDialog::saveFailed, this, &Player::stepEnded);
     connect(dialog_.get(), &PrintDialog::noticeShown, this, &Player::noticeShown);
     connect(dialog_.get(), &PrintDialog::left, this, [this] { hasLeft_ = true; });
 }
@@ -274,7 +282,9 @@ void Player::perform(const Step &step)
         dialog_->host().deliverChanges();
     if (dialog_ && !isInput(step.kind))
         Q_EMIT commanded(step);
-    const QString error = hasLeft_ ? QStringLiteral("the dialog has been left before") : run(step);
+    QString error = hasLeft_ ? QStringLiteral("the dialog has been left before") : awaitPreview();
+    if (error.isNull())
+        error = run(step);
     if (!error.isNull())
         fail(step, error);
 }
@@ -322,6 +332,7 @@ QString Player::run(const Step &step)
     case StepKind::Root:
     case StepKind::SystemVersion:
     case StepKind::Language:
+    case StepKind::Document:
         return setCase(step);
     case StepKind::Mark:
         return mark({words[0], words[1]});
@@ -354,6 +365,10 @@ QString Player::run(const Step &step)
     case StepKind::Save:
         static_cast<void>(dialog_->commit());
         return {};
+    case StepKind::SavePdf:
+        return saveFile(words[0], &SaveDesk::savePdf);
+    case StepKind::SaveTicket:
+        return saveFile(words[0], &SaveDesk::saveTicket);
     case StepKind::Print:
         return print(words);
     case StepKind::Cancel:
@@ -380,8 +395,11 @@ QString Player::setCase(const Step &step)
     case StepKind::SystemVersion:
         case_.systemVersion = systemVersionOf(word);
         break;
-    default:
+    case StepKind::Language:
         case_.language = word;
+        break;
+    default:
+        case_.document = pathBesideScenario(word);
         break;
     }
     return {};
@@ -452,25 +470,26 @@ QString Player::takePicture(const QString &name)
 {
     if (options_.pictures.isNull())
         return {};
-    awaitPreview();
     const QString path = options_.pictures + u'/' + name + QStringLiteral(".png");
     const bool saved = QDir().mkpath(options_.pictures) && frontWindow()->grab().save(path);
     return saved ? QString() : QStringLiteral("the picture cannot be written to ") + path;
 }
 
-/// A picture shows the sheet as it is by then, not as it was before.
-void Player::awaitPreview()
+/// A step meets the sheet and its controls as the steps before left them, however long drawing
+/// takes.
+QString Player::awaitPreview()
 {
-    constexpr int kPatienceMilliseconds = 5'000;
-    const PreviewPane &preview = dialog_->window()->preview();
-    if (preview.isCurrent())
-        return;
+    const PreviewPane *preview =
+        dialog_ && dialog_->window() ? &dialog_->window()->preview() : nullptr;
+    if (!preview || preview->document().isNull() || preview->isCurrent())
+        return {};
     QEventLoop drawing;
-    connect(&preview, &PreviewPane::becameCurrent, &drawing, &QEventLoop::quit);
-    QTimer::singleShot(kPatienceMilliseconds, &drawing, &QEventLoop::quit);
+    connect(preview, &PreviewPane::becameCurrent, &drawing, &QEventLoop::quit);
+    QTimer::singleShot(kPreviewPatience, &drawing, &QEventLoop::quit);
     turn_.stop();
     drawing.exec();
     turn_.start();
+    return preview->isCurrent() ? QString() : QStringLiteral("the preview does not come");
 }
 
 QString Player::expect(const QString &pointer, const QString &value)
@@ -487,16 +506,33 @@ QString Player::print(const QStringList &arguments)
 {
     if (!arguments.isEmpty())
         dialog_->setDocument(pathBesideScenario(arguments.first()));
-    awaitsJob_ = &scenario_.steps[next_ - 1];
+    awaited_ = &scenario_.steps[next_ - 1];
     dialog_->print(Review::Skip);
-    if (awaitsJob_)
+    if (awaited_)
         turn_.stop();
     return {};
 }
 
-void Player::jobEnded(const QString &error)
+/// What a person would be asked for is the file's name, in the folder for such files.
+QString Player::saveFile(const QString &name, void (SaveDesk::*save)(const QString &))
 {
-    const Step *step = std::exchange(awaitsJob_, nullptr);
+    if (options_.saves.isNull())
+        return QStringLiteral("nothing can be saved without a folder; name one with --saves DIR");
+    if (dialog_->saving()->isSaving())
+        return QStringLiteral("another file is being saved");
+    if (!QDir().mkpath(options_.saves))
+        return options_.saves + QStringLiteral(": there can be no such folder");
+    awaited_ = &scenario_.steps[next_ - 1];
+    (dialog_->saving()->*save)(options_.saves + u'/' + name);
+    if (awaited_)
+        turn_.stop();
+    return {};
+}
+
+/// Null: it is done.
+void Player::stepEnded(const QString &error)
+{
+    const Step *step = std::exchange(awaited_, nullptr);
     if (step && !error.isNull())
         fail(*step, error);
     else if (step && !isFinished_)

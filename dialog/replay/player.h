@@ -21,6 +21,7 @@ namespace dialog::replay {
 struct PlayerOptions
 {
     QString pictures; ///< folder; null takes none
+    QString saves;    ///< folder for the files that the scenario saves; null lets none be saved
     Naming naming = Naming::Actual;
 };
 
@@ -62,7 +63,7 @@ private:
     void takePrinter(PrintDialog::Opened opened);
     void watchProcess();
     void watchDialog();
-    void jobEnded(const QString &error);
+    void stepEnded(const QString &error);
 
     // Steps: null when done, else what is wrong.
     [[nodiscard]] QString run(const Step &step);
@@ -73,9 +74,10 @@ private:
     [[nodiscard]] QString pressKey(const QString &name);
     [[nodiscard]] QString close(const QString &window);
     [[nodiscard]] QString takePicture(const QString &name);
-    void awaitPreview();
+    [[nodiscard]] QString awaitPreview();
     [[nodiscard]] QString expect(const QString &pointer, const QString &value);
     [[nodiscard]] QString print(const QStringList &arguments);
+    [[nodiscard]] QString saveFile(const QString &name, void (SaveDesk::*save)(const QString &));
     [[nodiscard]] QJsonObject quietSnapshot();
 
     [[nodiscard]] QWidget *frontWindow() const;
@@ -90,8 +92,8 @@ private:
     std::unique_ptr<PrintDialog> dialog_;
     QTimer turn_;
     std::size_t next_ = 0;
-    const Step *awaitsJob_ = nullptr; ///< the step that goes on when its job is sent
-    bool isQuiet_ = false;            ///< looking at a panel is not part of what happened
+    const Step *awaited_ = nullptr; ///< the step that goes on when its job or file is there
+    bool isQuiet_ = false;          ///< looking at a panel is not part of what happened
     bool hasLeft_ = false;
     bool isFinished_ = false;
     std::vector<QPointer<QDialog>> modalWindows_;

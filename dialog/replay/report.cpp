@@ -12,7 +12,8 @@ namespace dialog::replay {
 namespace {
 
 constexpr std::array<const char *, static_cast<std::size_t>(EventKind::Count)> kEventNames{
-    "offer", "console", "window", "window-closed", "notification", "resize", "help", "job"};
+    "offer",  "console", "window", "window-closed", "notification",
+    "resize", "help",    "job",    "saved"};
 
 QString nameOf(EventKind event)
 {
@@ -83,6 +84,11 @@ void Report::job(const JobRecord &job)
         {{QStringLiteral("id"), isStable ? stableId : job.id},
          {QStringLiteral("options"), optionsJson(job.options)},
          {QStringLiteral("ticket"), textJson(isStable ? stableTicket : job.ticketPath)}});
+}
+
+void Report::saved(const QString &file)
+{
+    add(EventKind::Saved, {{QStringLiteral("file"), QFileInfo(file).fileName()}});
 }
 
 void Report::snapshot(const QString &name, const QJsonObject &snapshot)

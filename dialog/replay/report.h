@@ -24,6 +24,7 @@ enum class EventKind {
     Resize,
     Help,
     Job,
+    Saved,
     Count
 };
 [[nodiscard]] QStringList eventNames();
@@ -43,6 +44,8 @@ public:
     void resize();
     void help(const QString &book);
     void job(const JobRecord &job);
+    /// Told by its name alone.
+    void saved(const QString &file);
     void snapshot(const QString &name, const QJsonObject &snapshot);
 
     [[nodiscard]] QByteArray json() const;

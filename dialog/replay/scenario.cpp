@@ -36,6 +36,7 @@ constexpr std::array<Form, static_cast<std::size_t>(StepKind::Count)> kForms{{
     {StepKind::Root,          "root",           1, 1, Check::None,     "root DIR"},
     {StepKind::SystemVersion, "system-version", 1, 1, Check::Version,  "system-version 0x1060"},
     {StepKind::Language,      "language",       1, 1, Check::None,     "language fr-CA"},
+    {StepKind::Document,      "document",       1, 1, Check::None,     "document FILE"},
     {StepKind::Mark,          "mark",           2, 2, Check::None,     "mark OPTION CHOICE"},
     {StepKind::Job,           "job",            2, 2, Check::None,     "job KEY VALUE"},
     {StepKind::Paper,         "paper",          1, 1, Check::None,     "paper NAME"},
@@ -57,6 +58,8 @@ constexpr std::array<Form, static_cast<std::size_t>(StepKind::Count)> kForms{{
     {StepKind::Picture,       "picture",        1, 1, Check::FileName, "picture NAME"},
     {StepKind::Expect,        "expect",         2, 2, Check::Pointer,  "expect PATH VALUE"},
     {StepKind::Save,          "save",           0, 0, Check::None,     "save"},
+    {StepKind::SavePdf,       "save-pdf",       1, 1, Check::FileName, "save-pdf NAME"},
+    {StepKind::SaveTicket,    "save-ticket",    1, 1, Check::FileName, "save-ticket NAME"},
     {StepKind::Print,         "print",          0, 1, Check::None,     "print [FILE]"},
     {StepKind::Cancel,        "cancel",         0, 0, Check::None,     "cancel"},
 }};
@@ -109,6 +112,13 @@ QString checkKeyName(const QString &word)
     return known ? QString() : QStringLiteral("no key ") + word;
 }
 
+/// Of one that stands in the folder given for it.
+bool isFileName(const QString &word)
+{
+    return !word.isEmpty() && !word.contains(u'/') && word != QLatin1String(".") &&
+           word != QLatin1String("..");
+}
+
 /// Null when the argument is as it must be.
 QString checkArgument(Check check, const QStringList &arguments)
 {
@@ -126,9 +136,7 @@ QString checkArgument(Check check, const QStringList &arguments)
     case Check::KeyName:
         return checkKeyName(word);
     case Check::FileName:
-        return word.isEmpty() || word.contains(u'/')
-                   ? QStringLiteral("a picture's name is a file name")
-                   : QString();
+        return isFileName(word) ? QString() : word + QStringLiteral(" is no name of a file");
     case Check::Pointer: {
         const QString &path = arguments.first();
         return path.isEmpty() || path.startsWith(u'/')
@@ -207,7 +215,7 @@ QStringList stepWords()
 
 bool standsBeforePrinter(StepKind kind)
 {
-    return kind <= StepKind::Language;
+    return kind <= StepKind::Document;
 }
 
 bool needsPanels(StepKind kind)

@@ -11,9 +11,10 @@ namespace dialog::replay {
 
 // clang-format off
 enum class StepKind {
-    Printer, Queue, Root, SystemVersion, Language, Mark, Job, Paper, Refuse, // no panels needed
+    Printer, Queue, Root, SystemVersion, Language, Document, Mark, Job, Paper, Refuse, // no panels needed
     Show, Choose, Tick, Untick, Click, Row, StepBy, Type, Paste, Wheel, Key, Close,
-    Other, Report, Picture, Expect, Save, Print, Cancel,
+    Other, Report, Picture, Expect, Save, SavePdf, SaveTicket, Print,
+    Cancel,
     Count
 };
 // clang-format on
@@ -42,7 +43,7 @@ struct ScenarioError
 /// Every step's word, in the order of StepKind.
 [[nodiscard]] QStringList stepWords();
 
-/// Printer, queue and platform values stand before everything else.
+/// Printer, queue, platform values and document stand before everything else.
 [[nodiscard]] bool standsBeforePrinter(StepKind kind);
 /// True for the steps before which the panels are created, restored and shown.
 [[nodiscard]] bool needsPanels(StepKind kind);

@@ -1,7 +1,9 @@
 #include "dialog/replay/snapshot.h"
 
 #include "dialog/jobs/ticket.h"
+#include "dialog/preview/sheet_view.h"
 #include "dialog/print_dialog.h"
+#include "dialog/window/notice_area.h"
 #include "dialog/window/print_window.h"
 #include "platform/controls/controls.h"
 #include "platform/controls/pop_up_button.h"
@@ -29,12 +31,16 @@ bool isOutlet(const QWidget *widget)
     return widget->objectName().startsWith(kOutletPrefix);
 }
 
+/// Each with its text and keyword, and one that cannot be had with the reason.
 QJsonArray itemsOf(const QComboBox *popUp)
 {
     QJsonArray items;
     for (int i = 0; i < popUp->count(); ++i) {
-        const QVariant keyword = popUp->itemData(i);
-        items.append(QJsonArray{popUp->itemText(i), textJson(keyword.toString())});
+        QJsonArray item{popUp->itemText(i), textJson(popUp->itemData(i).toString())};
+        const QVariant reason = popUp->itemData(i, Qt::AccessibleDescriptionRole);
+        if (reason.isValid() && !popUp->itemText(i).isEmpty()) // separators have one of their own
+            item.append(reason.toString());
+        items.append(item);
     }
     return items;
 }
@@ -63,8 +69,16 @@ QJsonArray rowsOf(const QTreeWidget *list)
     return rows;
 }
 
+/// The zoom in percent of the paper's size; null when the whole sheet is shown.
+QJsonValue zoomJson(std::optional<double> zoom)
+{
+    return zoom ? QJsonValue(qRound(*zoom * 100)) : QJsonValue(QJsonValue::Null);
+}
+
 QJsonObject contentOf(const QWidget *control)
 {
+    if (const auto *sheet = qobject_cast<const SheetView *>(control))
+        return {{QStringLiteral("zoom"), zoomJson(sheet->zoom())}};
     if (const auto *list = qobject_cast<const QTreeWidget *>(control))
         return {{QStringLiteral("rows"), rowsOf(list)}};
     if (const auto *stepper = qobject_cast<const Stepper *>(control))
@@ -175,12 +189,14 @@ QJsonValue childOf(const QJsonValue &parent, const QString &token)
 
 QJsonObject takeSnapshot(PrintDialog &dialog)
 {
-    return {
-        {QStringLiteral("front"), frontTitle(dialog)},
-        {QStringLiteral("printSettings"), settingsJson(dialog.host().settings().all())},
-        {QStringLiteral("marked"), marksJson(dialog.printer().marks())},
-        {QStringLiteral("dialog"), QJsonObject{{QStringLiteral("controls"), ownControls(dialog)}}},
-        {QStringLiteral("panels"), panelsJson(dialog)}};
+    return {{QStringLiteral("front"), frontTitle(dialog)},
+            {QStringLiteral("printSettings"), settingsJson(dialog.host().settings().all())},
+            {QStringLiteral("marked"), marksJson(dialog.printer().marks())},
+            {QStringLiteral("dialog"),
+             QJsonObject{{QStringLiteral("controls"), ownControls(dialog)},
+                         {QStringLiteral("notices"),
+                          QJsonArray::fromStringList(dialog.window()->notices().texts())}}},
+            {QStringLiteral("panels"), panelsJson(dialog)}};
 }
 
 bool isNamed(const QWidget *control)
@@ -195,6 +211,8 @@ QJsonObject controlState(const QWidget *control, const QWidget *view)
     if (!state.isEmpty()) {
         state.insert(QStringLiteral("visible"), control->isVisibleTo(view));
         state.insert(QStringLiteral("enabled"), control->isEnabled());
+        if (!control->accessibleDescription().isEmpty())
+            state.insert(QStringLiteral("description"), control->accessibleDescription());
     }
     return state;
 }

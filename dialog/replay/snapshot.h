@@ -13,8 +13,8 @@ class PrintDialog;
 namespace dialog::replay {
 
 /// What the dialog and its panels look like now: front panel, job settings, marks, the dialog's own
-/// controls as far as they show, and of each plug-in's panel what it supports, its summary, its
-/// model, its controls and its frames.
+/// controls as far as they show and its notices, and of each plug-in's panel what it supports, its
+/// summary, its model, its controls and its frames.
 [[nodiscard]] QJsonObject takeSnapshot(PrintDialog &dialog);
 
 /// Whether a scenario can name it: what Qt calls the parts of its controls is no name.

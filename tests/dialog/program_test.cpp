@@ -396,6 +396,17 @@ TEST_F(Program, PicturesShowTheWindowInFront)
               test::fileBytes(pictures + q("/modal.png")));
 }
 
+TEST_F(Program, FilesAreSavedWhereAFolderForThemIsGiven)
+{
+    const QString saves = driver.path(q("saves"));
+    const ProgramRun refused = replay("save-ticket job.json\n", {});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_TRUE(refused.errors.contains(
+        "nothing can be saved without a folder; name one with --saves DIR"));
+    ASSERT_EQ(replay("save-ticket job.json\n", {q("--saves"), saves}).status, 0);
+    EXPECT_TRUE(test::fileBytes(saves + q("/job.json")).startsWith('{'));
+}
+
 // Modal windows.
 
 TEST_F(Program, StepsRunInsideANoticeWithinANotice)

@@ -33,12 +33,14 @@ TEST(Scenario, KeepsStepsWithTheirLines)
 
 TEST(Scenario, TakesEveryStepOfTheFormat)
 {
-    EXPECT_NULL(errorOf("printer a.ppd\nqueue Q\nroot /r\nsystem-version 0x1049\nlanguage fr-CA\n"
-                        "mark A B\njob k v\npaper A4\nrefuse A\nrefuse A 2\nshow P\nchoose c i\n"
-                        "tick c\nuntick c\nclick c\nrow c 0\nstep c up\nstep c down\ntype c t\n"
-                        "paste c t\nwheel c up\nwheel c down\nkey Ctrl+Return\nclose w\nother A B\n"
-                        "report n\npicture n\nexpect /front x\nexpect '' x\nsave\nprint\n"
-                        "print f.pdf\ncancel\n"));
+    EXPECT_NULL(errorOf(
+        "printer a.ppd\nqueue Q\nroot /r\nsystem-version 0x1049\nlanguage fr-CA\ndocument d.pdf\n"
+        "mark A B\njob k v\npaper A4\nrefuse A\nrefuse A 2\nshow P\nchoose c i\n"
+        "tick c\nuntick c\nclick c\nrow c 0\nstep c up\nstep c down\ntype c t\n"
+        "paste c t\nwheel c up\nwheel c down\nkey Ctrl+Return\nclose w\nother A B\n"
+        "report n\npicture n\nexpect /front x\nexpect '' x\nsave\nsave-pdf p\nsave-ticket t\n"
+        "print\n"
+        "print f.pdf\ncancel\n"));
 }
 
 struct BadLine
@@ -74,7 +76,7 @@ INSTANTIATE_TEST_SUITE_P(Lines, ScenarioErrors, testing::Values(
     BadLine{"wheel c left", "case.txt:1: no direction left"},
     BadLine{"key NoSuchKey", "case.txt:1: no key NoSuchKey"},
     BadLine{"expect front x", "case.txt:1: front is no JSON Pointer; it begins with \"/\""},
-    BadLine{"picture a/b", "case.txt:1: a picture's name is a file name"},
+    BadLine{"picture a/b", "case.txt:1: a/b is no name of a file"},
     BadLine{"system-version ten", "case.txt:1: ten is no system version"},
     BadLine{"mark A B\nprinter a.ppd", "case.txt:2: printer must stand before any other step"},
     BadLine{"save\nroot /r", "case.txt:2: root must stand before any other step"},

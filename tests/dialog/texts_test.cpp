@@ -135,6 +135,8 @@ TEST(Texts, CountInTheFormsOfTheLanguage)
     EXPECT_TEXT(copies("fr", 0), "0 exemplaire");
     EXPECT_TEXT(copies("fr", 2), "2 exemplaires");
     EXPECT_TEXT(copies("ja", 2), "2 部");
+    EXPECT_TEXT(copies("sv", 1), "1 copy");
+    EXPECT_TEXT(copies("C", 2), "2 copies");
 }
 
 } // namespace

@@ -17,7 +17,7 @@ constexpr char kPrinters[][40] = {"/driver/ppd/Korvane-S300.ppd", "/driver/ppd/K
 bool leadsOutside(const replay::Step &step)
 {
     return step.kind == StepKind::Printer || step.kind == StepKind::Queue ||
-           step.kind == StepKind::Root ||
+           step.kind == StepKind::Root || step.kind == StepKind::Document ||
            (step.kind == StepKind::Print && !step.arguments.isEmpty());
 }
 

@@ -7,12 +7,15 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDialog>
 #include <QLabel>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTest>
 #include <QToolButton>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include <gmock/gmock.h>
@@ -148,6 +151,28 @@ TEST_F(Pane, ATypedNumberShowsThatSheet)
     QTest::keyClick(sheet, Qt::Key_Return);
     settle();
     EXPECT_EQ(shownPage(), 10);
+}
+
+TEST_F(Pane, ReturnBehindANumberPressesNoButtonOfTheWindow)
+{
+    QDialog window;
+    auto *column = new QVBoxLayout(&window);
+    auto *print = new QPushButton;
+    print->setDefault(true);
+    int presses = 0;
+    QObject::connect(print, &QPushButton::clicked, [&presses] { ++presses; });
+    auto *inside = new PreviewPane;
+    column->addWidget(inside);
+    column->addWidget(print);
+    inside->setDocument(documents.pdf(3));
+    window.show();
+    auto *sheet = inside->findChild<QSpinBox *>(QStringLiteral("previewSheet"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return sheet->isEnabled(); }, 30'000));
+    QTest::keyClick(sheet, Qt::Key_Return);
+    QTest::keyClick(sheet, Qt::Key_Enter);
+    EXPECT_EQ(presses, 0);
+    QTest::keyClick(&window, Qt::Key_Return);
+    EXPECT_EQ(presses, 1);
 }
 
 TEST_F(Pane, ManyQuickTurnsEndAtTheLastOne)

@@ -46,8 +46,9 @@ protected:
         look.paper = {test::kA4Points, {}};
         QObject::connect(&saving, &PdfSaving::saved, [this] { end = End::Saved; });
         QObject::connect(&saving, &PdfSaving::cancelled, [this] { end = End::Cancelled; });
-        QObject::connect(&saving, &PdfSaving::failed, [this](const QString &why) {
+        QObject::connect(&saving, &PdfSaving::failed, [this](PdfFault whose, const QString &why) {
             end = End::Failed;
+            fault = whose;
             reason = why;
         });
     }
@@ -136,6 +137,7 @@ protected:
     SheetLook look;
     PdfSaving saving;
     End end = End::None;
+    PdfFault fault = PdfFault::File;
     QString reason;
 };
 
@@ -305,9 +307,11 @@ TEST_F(PdfFile, OfADocumentThatIsMissingOrDamagedIsNotWritten)
 {
     writeFormerFile();
     EXPECT_EQ(save(documents.path(q("nowhere.pdf"))), End::Failed);
+    EXPECT_EQ(fault, PdfFault::Document);
     EXPECT_SAME(reason, PreviewWords::problem(DocumentProblem::Unreadable));
     expectFormerFileOnly();
     EXPECT_EQ(save(documents.file("%PDF-1.4\nnothing else")), End::Failed);
+    EXPECT_EQ(fault, PdfFault::Document);
     EXPECT_SAME(reason, PreviewWords::problem(DocumentProblem::Damaged));
     expectFormerFileOnly();
 }
@@ -322,6 +326,7 @@ TEST_F(PdfFile, WithAPageThatCannotBeReadIsNotWritten)
     for (const bool isGrayscale : {false, true}) {
         look.isGrayscale = isGrayscale;
         EXPECT_EQ(save(document), End::Failed);
+        EXPECT_EQ(fault, PdfFault::Document);
         EXPECT_SAME(reason, PreviewWords::damagedPages({1}));
         expectFormerFileOnly();
     }
@@ -331,6 +336,7 @@ TEST_F(PdfFile, InAFolderThatIsNotThereIsNotWritten)
 {
     saving.start({documents.pdf(1), folder.filePath(q("nowhere/saved.pdf")), {}, look});
     EXPECT_EQ(finish(), End::Failed);
+    EXPECT_EQ(fault, PdfFault::File);
     EXPECT_FALSE(reason.isEmpty());
     EXPECT_THAT(filesThere(), IsEmpty());
 }
@@ -347,6 +353,7 @@ TEST_F(PdfFile, ForWhichThereIsNoRoomIsNotWritten)
     const End ended = save(document);
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
     EXPECT_EQ(ended, End::Failed);
+    EXPECT_EQ(fault, PdfFault::File);
     EXPECT_FALSE(reason.isEmpty());
     expectFormerFileOnly();
 }

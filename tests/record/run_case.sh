@@ -11,16 +11,21 @@ recorded=${3:-}
 source "$(dirname "$0")/../scenarios/surroundings.sh"
 surround "$build" "$(dirname "$scenario")"
 
+# A recording leaves out the name of what was printed.
+document=$(sed -n 's/^document //p' "$scenario")
+document=${document:+$(dirname "$scenario")/$document}
+
 # play SCENARIO NAME [OPTION...]: for a person who has kept nothing so far, whatever an earlier one saved.
 play() {
     local scenario=$1 name=$2
     shift 2
-    rm -rf "$scratch/.config"
+    come_home
     replay "$scenario" --report "$scratch/$name.json" "$@" 2>"$scratch/$name.err" || {
         cat "$scratch/$name.err"
         [[ $name == original ]] || cat "$scenario"
         return 1
     }
+    of_any_run <"$scratch/$name.json" >"$scratch/$name"
 }
 
 # Where printer and driver lie is no part of a recording that stands in the project.
@@ -29,19 +34,19 @@ portable() {
 }
 
 play "$scenario" original --record "$scratch/first.scenario"
-play "$scratch/first.scenario" replayed --record "$scratch/second.scenario"
+play "$scratch/first.scenario" replayed ${document:+"$document"} --record "$scratch/second.scenario"
 outcome=0
 diff -u --label "original report" --label "report of the recording" \
-    "$scratch/original.json" "$scratch/replayed.json" || outcome=1
+    "$scratch/original" "$scratch/replayed" || outcome=1
 diff -u --label "recording" --label "recording of the recording" \
     "$scratch/first.scenario" "$scratch/second.scenario" || outcome=1
 if [[ -n $recorded && -n ${UPDATE_EXPECTED:-} ]]; then
     portable "$scratch/first.scenario" >"$recorded"
 elif [[ -n $recorded ]]; then
     portable "$scratch/first.scenario" | diff -u --label "expected recording" "$recorded" - || outcome=1
-    play "$recorded" kept
+    play "$recorded" kept ${document:+"$document"}
     diff -u --label "original report" --label "report of the kept recording" \
-        "$scratch/original.json" "$scratch/kept.json" || outcome=1
+        "$scratch/original" "$scratch/kept" || outcome=1
 fi
 ((outcome == 0)) || cat "$scratch/first.scenario"
 exit "$outcome"

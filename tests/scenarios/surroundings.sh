@@ -2,9 +2,10 @@
 # Sourced by the scripts that play scenarios: the same surroundings on every machine and for every user.
 
 # surround BUILD CASE: sets scratch, a folder that goes with the script, and root, the driver's files; those of the
-# case's own printer, where it has other cartridges in.
+# case's own printer, where it has other cartridges in. What a person of the case has kept lies in the home folder.
 surround() {
     build=$1
+    files=$(cd "$2" && pwd)
     scratch=$(mktemp -d)
     trap 'rm -rf "$scratch"' EXIT
     mkdir "$scratch/run" "$scratch/tmp"
@@ -15,6 +16,21 @@ surround() {
         root=$scratch/root
         cp "$2/preferences.plist" "$root/Library/Printers/Korvane/Preferences/com.korvane.prefs.2009.plist"
     fi
+    kept=$files/configuration
+    come_home
+}
+
+# come_home: what the person keeps is what the case has, whatever was kept since.
+come_home() {
+    rm -rf "$scratch/.config"
+    [[ -e $kept ]] || return 0
+    cp -r "$kept" "$scratch/.config"
+    chmod -R go= "$scratch/.config"
+}
+
+# of_any_run: copies a text without what is another at each run, its folders and the time of a file set aside.
+of_any_run() {
+    sed -E "s#$scratch#SCRATCH#g; s#$files/##g; s#$build#BUILD#g; s#damaged-[0-9]{8}-[0-9]{6}#damaged-TIME#g"
 }
 
 # replay SCENARIO OPTION...
@@ -23,5 +39,5 @@ replay() {
         XDG_RUNTIME_DIR="$scratch/run" XDG_DATA_HOME="$scratch/data" QT_QPA_PLATFORM=offscreen \
         CUPS_SERVER=127.0.0.1:1 \
         ${ASAN_OPTIONS:+ASAN_OPTIONS="$ASAN_OPTIONS"} \
-        "$build/bin/korvane-print" replay "$@" --root "$root" --stable
+        "$build/bin/korvane-print" replay "$@" --root "$root" --stable --saves "$scratch/saves"
 }
