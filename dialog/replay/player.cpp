@@ -484,10 +484,14 @@ QString Player::awaitPreview()
     if (!preview || preview->document().isNull() || preview->isCurrent())
         return {};
     QEventLoop drawing;
+    QTimer patience;
     connect(preview, &PreviewPane::becameCurrent, &drawing, &QEventLoop::quit);
-    QTimer::singleShot(kPreviewPatience, &drawing, &QEventLoop::quit);
+    connect(&patience, &QTimer::timeout, &drawing, &QEventLoop::quit);
+    patience.setSingleShot(true);
+    patience.start(kPreviewPatience);
     turn_.stop();
-    drawing.exec();
+    while (patience.isActive() && !preview->isCurrent())
+        drawing.exec(); // what is shown may change the room for it
     turn_.start();
     return preview->isCurrent() ? QString() : QStringLiteral("the preview does not come");
 }
