@@ -20,8 +20,8 @@ struct CommandLine
     PrintCase printCase;
     batch::Request request; ///< of Print
     QString scenario;
-    QString report; ///< null: none; "-": standard output
-    QString record; ///< null: none
+    QString report;      ///< null: none; "-": standard output
+    QString record;      ///< null: none
     bool isDark = false; ///< of a replay: in the colours of a dark desktop
     replay::PlayerOptions player;
     QString helpText;

@@ -183,7 +183,8 @@ void JobDesk::printToFolder(const Ticket &made)
                 "print again.")
                  .arg(folder, written.error));
     else
-        Q_EMIT jobMade({ticket.id, jobOptions(ticket.settings), written.ticketPath});
+        Q_EMIT jobMade(
+            {ticket.id, jobOptions(ticket.settings), written.ticketPath, {}, ticket.settings});
 }
 
 void JobDesk::printToQueue(const Ticket &ticket)
@@ -242,7 +243,8 @@ void JobDesk::finishQueueJob(Ticket ticket, const QueueJobResult &result)
              told.isEmpty() ? Severity::Information : Severity::Warning,
              QStringList(QStringList{tr("Sent as job %1.").arg(number)} + told).join(u'\n'),
              {}});
-        Q_EMIT jobMade({number, jobOptions(ticket.settings), written.ticketPath, told});
+        Q_EMIT jobMade(
+            {number, jobOptions(ticket.settings), written.ticketPath, told, ticket.settings});
     }
     Q_EMIT idle();
 }

@@ -21,7 +21,8 @@ struct JobRecord
     QString id; ///< the job folder's name, or the number at the print server
     JobOptions options;
     QString ticketPath;
-    QStringList remarks = {}; ///< what a person should know of it, shown in the window
+    QStringList remarks = {};  ///< what a person should know of it, shown in the window
+    JobSettings settings = {}; ///< what the options were made of
 };
 
 /// Whether a person is asked before a job prints with conflicts or other choices than made.

@@ -4,9 +4,12 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 namespace dialog {
+
+class Memory;
 
 /// What the dialog is opened with. Null means "not given".
 struct PrintCase
@@ -21,6 +24,7 @@ struct PrintCase
     bool showsConsole = false;
     ServerLimits serverLimits = {};
     ServerTimes serverTimes = {};
+    std::shared_ptr<Memory> memory = {}; ///< null: nothing is remembered
 };
 
 } // namespace dialog

@@ -1,6 +1,7 @@
 #include "dialog/print_dialog.h"
 
 #include "dialog/jobs/document.h"
+#include "dialog/memory/memory_messages.h"
 #include "dialog/panels/features_panel.h"
 #include "dialog/panels/layout_panel.h"
 #include "dialog/panels/summary_panel.h"
@@ -38,20 +39,40 @@ void setPlatformValues(const PrintCase &printCase)
     }
 }
 
-QObject *openQueueLater(QObject *parent, const PrintCase &printCase,
-                        std::function<void(PrintDialog::Opened)> opened)
+using Opened = PrintDialog::Opened;
+
+/// Hands a dialog on as soon as it has begun with what is remembered. The scope goes then.
+void beginLater(QObject *scope, Opened opened, const std::function<void(Opened)> &done)
+{
+    auto *dialog = std::get_if<std::unique_ptr<PrintDialog>>(&opened);
+    const auto memory = dialog ? (*dialog)->printCase().memory : nullptr;
+    if (!memory) {
+        scope->deleteLater();
+        done(std::move(opened));
+        return;
+    }
+    const auto held = std::make_shared<std::unique_ptr<PrintDialog>>(std::move(*dialog));
+    memory->recall(scope, (*held)->remembered(), [=](const Recollection &recollection) {
+        scope->deleteLater();
+        (*held)->begin(recollection, {});
+        done(std::move(*held));
+    });
+}
+
+void openQueueLater(QObject *scope, const PrintCase &printCase, std::function<void(Opened)> done)
 {
     const auto open = [queue = printCase.queue, times = printCase.serverTimes] {
         return openQueuePrinter(queue, times);
     };
-    const auto take = [printCase, opened](std::optional<QueuePrinter> answer) {
+    const auto take = [scope, printCase, done](std::optional<QueuePrinter> answer) {
         QueuePrinter printer = answer ? std::move(*answer) : silentPrinter();
-        if (printer.printer)
-            opened(PrintDialog::withPrinter(printCase, std::move(printer.printer)));
-        else
-            opened(printerProblem(printer, printCase.queue));
+        beginLater(scope,
+                   printer.printer
+                       ? Opened(PrintDialog::withPrinter(printCase, std::move(printer.printer)))
+                       : Opened(printerProblem(printer, printCase.queue)),
+                   done);
     };
-    return runErrand<QueuePrinter>(parent, printCase.serverTimes.printer, open, take);
+    runErrand<QueuePrinter>(scope, printCase.serverTimes.printer, open, take);
 }
 
 const QString kUndoKey = QStringLiteral("undo");
@@ -95,15 +116,13 @@ PrintDialog::Opened PrintDialog::open(const PrintCase &printCase)
 QObject *PrintDialog::openLater(QObject *parent, const PrintCase &printCase,
                                 std::function<void(Opened)> opened)
 {
+    auto *scope = new QObject(parent);
     const bool isQueue = printCase.ppd.isNull() && !printCase.queue.isNull();
     if (isQueue && prepare(printCase).isNull())
-        return openQueueLater(parent, printCase, std::move(opened));
-    auto *soon = new QObject(parent);
-    QTimer::singleShot(0, soon, [=] {
-        soon->deleteLater();
-        opened(open(printCase));
-    });
-    return soon;
+        openQueueLater(scope, printCase, std::move(opened));
+    else
+        QTimer::singleShot(0, scope, [=] { beginLater(scope, open(printCase), opened); });
+    return scope;
 }
 
 PrintDialog::PrintDialog(const PrintCase &printCase, std::unique_ptr<PpdDocument> printer)
@@ -116,6 +135,8 @@ PrintDialog::PrintDialog(const PrintCase &printCase, std::unique_ptr<PpdDocument
     formerHelpOpener_ = platform::setHelpOpener(
         [this](const platform::HelpRequest &request) { showBook(request); });
     connectParts();
+    start_ = planStart({.marks = printer_->marks()}, *printer_);
+    presets_.start(start_);
 }
 
 PrintDialog::~PrintDialog()
@@ -138,6 +159,8 @@ void PrintDialog::connectParts()
     connect(&conflicts_, &ConflictDesk::asked, this, &PrintDialog::noticeShown);
     connect(&host_, &DialogHost::stateChanged, this, &PrintDialog::takeChange);
     connect(&panels_, &PanelStack::noticed, this, &PrintDialog::notify);
+    connect(&presets_, &PresetDesk::noticed, this, &PrintDialog::notify);
+    connect(&desk_, &JobDesk::jobMade, this, &PrintDialog::rememberJob);
     connect(&desk_, &JobDesk::noticed, this, &PrintDialog::notify);
     connect(&desk_, &JobDesk::jobMade, this, &PrintDialog::jobMade);
     connect(&desk_, &JobDesk::jobFailed, this, &PrintDialog::jobFailed);
@@ -147,11 +170,48 @@ void PrintDialog::connectParts()
     });
 }
 
+RememberedPrinter PrintDialog::remembered() const
+{
+    return rememberedPrinter(case_.queue, *printer_);
+}
+
+void PrintDialog::begin(const Recollection &recollection, const Carried &carried)
+{
+    startWindow_ = recollection.window;
+    for (const QString &text : MemoryMessages::of(recollection))
+        notify({QStringLiteral("memory:") + text, Severity::Warning, text, {}});
+    start_ = planStart({printer_->marks(), recollection.settings, carried}, *printer_);
+    presets_.start(start_);
+    if (start_.state != host_.state())
+        host_.setState(start_.state);
+}
+
+void PrintDialog::rememberJob(const JobRecord &job)
+{
+    if (!case_.memory)
+        return;
+    const JobSettings &settings = job.settings;
+    const PresetContent content =
+        contentOf({settings.marks, settings.printSettings, settings.paperName}, *printer_);
+    presets_.setLastUsed(content);
+    case_.memory->keepSettings(remembered(), content);
+    rememberWindow();
+}
+
+void PrintDialog::rememberWindow()
+{
+    const int front = panels_.frontIndex();
+    if (case_.memory && window_)
+        case_.memory->keepWindow(
+            {window_->personsSize(), front < 0 ? QString() : panels_.kind(front)});
+}
+
 void PrintDialog::showPanels()
 {
     if (window_)
         return;
     ownWindow_ = std::make_unique<PrintWindow>(printer_->nickName(), documentName(case_.document));
+    ownWindow_->setPersonsSize(startWindow_.size);
     showPanelsIn(*ownWindow_);
 }
 
@@ -166,6 +226,7 @@ void PrintDialog::showPanelsIn(PrintWindow &window)
     buildPresets();
     buildGeneral();
     buildPanels();
+    presets_.takePanels();
     showPreview();
     saving_ = std::make_unique<SaveDesk>(desk_, *window_);
     connect(saving_.get(), &SaveDesk::noticed, this, &PrintDialog::notify);
@@ -192,7 +253,7 @@ void PrintDialog::connectWindow()
     connect(&host_, &DialogHost::panelResized, window_, &PrintWindow::fitContents);
     connect(&conflicts_, &ConflictDesk::dismissed, &window_->notices(), &NoticeArea::dismissGroup);
     conflicts_.setSheet(&window_->conflictSheet());
-    connect(window_, &PrintWindow::resetRequested, this, &PrintDialog::resetToDefaults);
+    connect(window_, &PrintWindow::resetRequested, &presets_, &PresetDesk::reset);
     connect(window_, &PrintWindow::undoRequested, &history_, &UndoHistory::undo);
     connect(window_, &PrintWindow::redoRequested, &history_, &UndoHistory::redo);
     // There is something newer to undo, or nothing any more.
@@ -204,7 +265,6 @@ void PrintDialog::connectWindow()
 
 void PrintDialog::buildPresets()
 {
-    connect(&presets_, &PresetDesk::noticed, this, &PrintDialog::notify);
     connect(&presets_, &PresetDesk::dismissed, &window_->notices(), &NoticeArea::dismiss);
     PresetBar *bar = presets_.makeBar();
     connect(bar, &PresetBar::heightChanged, window_, &PrintWindow::fitContents);
@@ -237,7 +297,8 @@ void PrintDialog::buildPanels()
         following.push_back(features.release());
     following.push_back(makeSummary());
     panels_.showIn(*window_, {layout}, following);
-    panels_.bringForward(panels_.firstIndex());
+    const int remembered = panels_.indexOf(startWindow_.panel);
+    panels_.bringForward(remembered < 0 ? panels_.firstIndex() : remembered);
 }
 
 SummaryPanel *PrintDialog::makeSummary()
@@ -336,14 +397,6 @@ void PrintDialog::showBook(const platform::HelpRequest &request)
     helpWindow_->showPage(request.bookName, page, request.anchor);
 }
 
-/// The printer's, and nothing said beside them.
-void PrintDialog::resetToDefaults()
-{
-    changeWithUndo(tr("Reset to Defaults"), [this] {
-        host_.setState({printer_->defaults(), {}, {}, {}});
-    });
-}
-
 void PrintDialog::offerUndo(const QString &title)
 {
     notify({kUndoKey,
@@ -376,6 +429,7 @@ void PrintDialog::setDocument(const QString &path)
 void PrintDialog::leave()
 {
     platform::stopAllModalSessions();
+    rememberWindow();
     window_->hide();
     if (helpWindow_)
         helpWindow_->hide();

@@ -4,6 +4,8 @@
 #include "dialog/host/dialog_host.h"
 #include "dialog/host/undo_history.h"
 #include "dialog/job_desk.h"
+#include "dialog/memory/memory.h"
+#include "dialog/memory/start_plan.h"
 #include "dialog/panel_stack.h"
 #include "dialog/presets/preset_desk.h"
 #include "dialog/print_case.h"
@@ -52,6 +54,14 @@ public:
     [[nodiscard]] static std::unique_ptr<PrintDialog>
     withPrinter(const PrintCase &printCase, std::unique_ptr<PpdDocument> printer);
     ~PrintDialog() override;
+
+    /// Before showPanels(): what is remembered for this printer, and what comes along from the
+    /// printers before, stands in it. Without it, the printer starts with its defaults.
+    void begin(const Recollection &recollection, const Carried &carried);
+    [[nodiscard]] const StartPlan &start() const { return start_; }
+    [[nodiscard]] RememberedPrinter remembered() const;
+    /// Once the panels are shown. Does nothing without a memory.
+    void rememberWindow();
 
     /// Loads the plug-ins that the PPD names, restores their panels from what is marked, and shows
     /// the window with the first one in front. Does nothing the second time.
@@ -109,7 +119,7 @@ private:
     void showHelp();
     void showOwnHelp();
     void showBook(const platform::HelpRequest &request);
-    void resetToDefaults();
+    void rememberJob(const JobRecord &job);
     void offerUndo(const QString &title);
     void notify(const Notice &notice);
     void takeChange();
@@ -135,6 +145,8 @@ private:
     GeneralView *general_ = nullptr;   ///< the window's
     std::vector<Notice> early_;        ///< shown as soon as there is a window
     HelpWindow *helpWindow_ = nullptr; ///< belongs to the window
+    StartPlan start_;
+    WindowMemory startWindow_;
     bool leavesAfterJob_ = false;
     platform::HelpOpener formerHelpOpener_;
 };

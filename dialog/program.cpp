@@ -5,6 +5,7 @@
 #include "dialog/check/check_command.h"
 #include "dialog/command_line.h"
 #include "dialog/log/log_command.h"
+#include "dialog/printers/user_files.h"
 #include "dialog/queue_dialog.h"
 #include "dialog/queue_list_command.h"
 #include "dialog/record/recorder.h"
@@ -18,6 +19,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <unistd.h>
@@ -100,11 +102,14 @@ int runOneDialog(const PrintCase &printCase, std::unique_ptr<record::Recording> 
     return QCoreApplication::exec();
 }
 
+/// What a person sees at first must be the same for whoever plays a recording.
 int runDialog(const CommandLine &line, std::unique_ptr<record::Recording> recording)
 {
-    return line.printCase.ppd.isNull() && !recording
-               ? runQueueDialog(line.printCase)
-               : runOneDialog(line.printCase, std::move(recording));
+    PrintCase printCase = line.printCase;
+    if (recording)
+        return runOneDialog(printCase, std::move(recording));
+    printCase.memory = std::make_shared<Memory>();
+    return printCase.ppd.isNull() ? runQueueDialog(printCase) : runOneDialog(printCase, {});
 }
 
 bool writeReport(const QString &path, const QByteArray &json)
@@ -122,6 +127,21 @@ bool writeReport(const QString &path, const QByteArray &json)
     QSaveFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit();
 }
+
+/// A scenario plays alike for everybody: neither are the presets of whoever plays it its own, nor
+/// are those that it makes kept.
+class EmptyUser
+{
+public:
+    EmptyUser()
+    {
+        setUserFolder(folder_.isValid() ? folder_.path()
+                                        : QStringLiteral("/dev/null")); // no folder
+    }
+
+private:
+    QTemporaryDir folder_;
+};
 
 /// The recorder begins with the dialog, and goes before it.
 void recordReplay(const replay::Player &player, std::unique_ptr<record::Recording> &recording,
@@ -141,6 +161,7 @@ int runReplay(const CommandLine &line, std::unique_ptr<record::Recording> record
         return refuse(error->message);
     if (line.isDark)
         QApplication::setPalette(darkPalette());
+    const EmptyUser user;
     replay::Player player(line.printCase, std::move(std::get<replay::Scenario>(parsed)),
                           line.player);
     QObject::connect(&player, &replay::Player::noticeShown, qApp, complain);

@@ -1,17 +1,13 @@
 #include "dialog/queue_dialog.h"
 
-#include "dialog/host/offer.h"
 #include "dialog/jobs/document.h"
 #include "dialog/printers/errand.h"
-#include "dialog/settings/setting_words.h"
 #include "dialog/window/print_window.h"
 #include "dialog/window/printer_picker.h"
 #include "dialog/window/printer_words.h"
 #include "platform/controls/modal_session.h"
 
 #include <QTimer>
-
-#include <algorithm>
 
 namespace dialog {
 namespace {
@@ -43,6 +39,9 @@ QueueDialog::QueueDialog(const PrintCase &printCase, QueueSources sources)
     connect(picker_, &PrinterPicker::picked, this, &QueueDialog::switchTo, Qt::QueuedConnection);
     connect(&watch_, &QueueWatch::answered, this, &QueueDialog::takeListing);
     connect(window_.get(), &PrintWindow::left, this, &QueueDialog::leave);
+    if (case_.memory)
+        case_.memory->recallWindow(
+            this, [this](const WindowMemory &window) { window_->setPersonsSize(window.size); });
     isRemembered_ = case_.queue.isNull();
     const QString wanted = isRemembered_ ? lastUsedQueue() : case_.queue;
     window_->setWaiting(tr("Connecting to %1…").arg(serverName()));
@@ -166,7 +165,7 @@ void QueueDialog::switchTo(const QString &queue)
         return;
     }
     isRemembered_ = false;
-    rememberChoices();
+    takeAlong();
     connectTo(queue);
 }
 
@@ -192,78 +191,70 @@ void QueueDialog::takePrinter(std::optional<QueuePrinter> answer)
     if (printer.outcome == QueuePrinter::Outcome::BrokenPpd)
         automaticTries_ = 0; // whether somebody has repaired it, only a person knows
     if (printer.printer)
-        show(std::move(printer.printer));
+        recall(std::move(printer.printer));
     else if (printer.outcome == QueuePrinter::Outcome::NoQueue)
         missQueue();
     else
         failPrinter(printerProblem(printer, queue_));
 }
 
-void QueueDialog::show(std::unique_ptr<PpdDocument> printer)
+/// Before it is shown, so that it is shown once.
+void QueueDialog::recall(std::unique_ptr<PpdDocument> printer)
+{
+    if (!case_.memory) {
+        show(std::move(printer), {});
+        return;
+    }
+    const RememberedPrinter remembered = rememberedPrinter(queue_, *printer);
+    arrived_ = std::move(printer);
+    connecting_ = case_.memory->recall(this, remembered, [this](const Recollection &recollection) {
+        connecting_.clear();
+        show(std::move(arrived_), recollection);
+    });
+}
+
+void QueueDialog::show(std::unique_ptr<PpdDocument> printer, const Recollection &recollection)
 {
     PrintCase printCase = case_;
     printCase.queue = queue_;
     dialog_ = PrintDialog::withPrinter(printCase, std::move(printer));
-    saved_ = dialog_->printer().marks();
-    QStringList leftBehind = carryChoices();
-    carrySettings(leftBehind);
+    dialog_->begin(recollection, carried_);
     connect(dialog_.get(), &PrintDialog::jobMade, this, [this](const JobRecord &job) {
         rememberLastUsedQueue(queue_);
         Q_EMIT jobMade(job);
     });
     connect(dialog_.get(), &PrintDialog::left, this, &QueueDialog::left);
+    takeSize(recollection.window.size);
     window_->setWaiting({});
     dialog_->offerSignIn();
     dialog_->showPanelsIn(*window_);
-    if (!leftBehind.isEmpty()) {
-        leftBehind.prepend(tr("This printer does not have what you chose for the one before:"));
-        window_->notices().show({kLeftBehindKey, Severity::Warning, leftBehind.join(u'\n'), {}});
-    }
+    tellLeftBehind(dialog_->start());
     Q_EMIT ready(queue_);
 }
 
-/// What the user has saved for a queue is that queue's, and no choice for another one.
-void QueueDialog::rememberChoices()
+/// Of the dialog before this one; what a person has done since counts.
+void QueueDialog::takeSize(QSize size)
+{
+    if (!window_->personsSize().isValid())
+        window_->setPersonsSize(size);
+}
+
+/// Before another printer comes.
+void QueueDialog::takeAlong()
 {
     if (!dialog_)
         return;
-    PrintSettingsMap settings = dialog_->host().settings().all();
-    settings.merge(settings_); // what has been left behind, for the way back
-    settings_ = std::move(settings);
-    const PpdDocument &printer = dialog_->printer();
-    for (const auto &[option, keyword] : dialog_->host().ledger().chosen()) {
-        const Choice choice{option, keyword};
-        if (std::find(saved_.begin(), saved_.end(), choice) == saved_.end())
-            chosen_[option] = {keyword, printer.optionText(option), printer.choiceText(choice)};
-    }
+    dialog_->rememberWindow();
+    carried_ = carriedFrom(carried_, dialog_->start(), dialog_->host().state(), dialog_->printer());
 }
 
-/// Answers, a line each, what this printer does not have or cannot combine.
-QStringList QueueDialog::carryChoices()
+void QueueDialog::tellLeftBehind(const StartPlan &start)
 {
-    QStringList leftBehind;
-    for (const auto &[option, words] : chosen_) {
-        const Choice choice{option, words.choice};
-        if (judgeOffer(dialog_->printer(), choice).verdict == OfferVerdict::Accepted)
-            dialog_->host().changeFromElsewhere(choice);
-        else
-            leftBehind.append(tr("%1: %2").arg(words.optionText, words.choiceText));
-    }
-    return leftBehind;
-}
-
-/// Mirror may come from a choice that is left behind, and is left with it.
-void QueueDialog::carrySettings(QStringList &leftBehind)
-{
-    const bool carriesMirror = leftBehind.isEmpty();
-    for (const auto &[key, value] : std::exchange(settings_, {})) {
-        if (key != QLatin1String("mirror") || carriesMirror) {
-            dialog_->host().setSetting(key, value);
-            continue;
-        }
-        settings_[key] = value;
-        leftBehind.append(tr("%1: %2").arg(settingTitle(key), settingValue(key, value.toString())));
-    }
+    QStringList lines = start.leftBehindLines();
+    if (lines.isEmpty())
+        return;
+    lines.prepend(tr("This printer does not have what you chose for the one before:"));
+    window_->notices().show({kLeftBehindKey, Severity::Warning, lines.join(u'\n'), {}});
 }
 
 /// With a printer there its dialog leaves.
@@ -271,6 +262,8 @@ void QueueDialog::leave()
 {
     if (dialog_)
         return;
+    if (case_.memory)
+        case_.memory->keepWindow({window_->personsSize(), {}});
     window_->hide();
     Q_EMIT left();
 }

@@ -28,14 +28,6 @@ struct QueueSources
     std::chrono::milliseconds emptyWindowDelay{};
 };
 
-/// A choice of a person's, with the words of the printer for which it was made.
-struct ChosenWords
-{
-    QString choice;
-    QString optionText;
-    QString choiceText;
-};
-
 /// The print server of the environment.
 [[nodiscard]] QueueSources serverSources(const ServerTimes &times = {});
 
@@ -78,10 +70,11 @@ private:
     void switchTo(const QString &queue);
     void connectTo(const QString &queue, int automaticTries = kAutomaticTries);
     void takePrinter(std::optional<QueuePrinter> answer);
-    void show(std::unique_ptr<PpdDocument> printer);
-    void rememberChoices();
-    [[nodiscard]] QStringList carryChoices();
-    void carrySettings(QStringList &leftBehind);
+    void recall(std::unique_ptr<PpdDocument> printer);
+    void show(std::unique_ptr<PpdDocument> printer, const Recollection &recollection);
+    void takeSize(QSize size);
+    void takeAlong();
+    void tellLeftBehind(const StartPlan &start);
     void leave();
     /// Once, until retract().
     void tell(const QString &key, const QString &words, std::vector<NoticeAction> actions);
@@ -102,9 +95,8 @@ private:
     QueueWatch watch_;
     QPointer<QObject> connecting_;
     std::map<QString, QString> told_;
-    std::map<QString, ChosenWords> chosen_;
-    PrintSettingsMap settings_; ///< of the job, that wait for a printer
-    Choices saved_;             ///< marked when the printer came
+    std::unique_ptr<PpdDocument> arrived_; ///< waits for what is remembered for it
+    Carried carried_;                      ///< from the printers before
 };
 
 } // namespace dialog

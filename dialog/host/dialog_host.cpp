@@ -201,12 +201,8 @@ OfferOutcome DialogHost::choose(const Choice &choice)
 
 void DialogHost::dropStandIns(const QString &option)
 {
-    const OptionChoices counterparts = standardCounterparts(printer_);
-    const std::map<QString, QVariant> settings = settings_.all();
-    for (const auto &[key, value] : settings) {
-        if (meaningOf(key, value.toString(), counterparts).standsFor.contains(option))
-            settings_.remove(key);
-    }
+    settings_.setAll(
+        settingsWithoutStandIns(settings_.all(), option, standardCounterparts(printer_)));
     if (option == kPageSize)
         paperName_ = QString();
 }

@@ -254,6 +254,37 @@
     </message>
 </context>
 <context>
+    <name>MemoryMessages</name>
+    <message>
+        <source>Your home folder does not answer, so that your last settings could not be read. The printer&apos;s default settings are shown.</source>
+        <translation>Ihr Home-Ordner antwortet nicht, sodass Ihre letzten Einstellungen nicht gelesen werden konnten. Gezeigt werden die Standardeinstellungen des Druckers.</translation>
+    </message>
+    <message>
+        <source>The file with the size of this window was damaged. It is kept as “%1”. Correct the file and give it back its old name, or delete it.</source>
+        <translation>Die Datei mit der Größe dieses Fensters war beschädigt. Sie ist als „%1“ aufbewahrt. Berichtigen Sie die Datei und geben Sie ihr den alten Namen zurück, oder löschen Sie sie.</translation>
+    </message>
+    <message>
+        <source>The file with your last settings for this printer was damaged, so that the printer&apos;s default settings are shown. It is kept as “%1”. Correct the file and give it back its old name, or delete it.</source>
+        <translation>Die Datei mit Ihren letzten Einstellungen für diesen Drucker war beschädigt, sodass die Standardeinstellungen des Druckers gezeigt werden. Sie ist als „%1“ aufbewahrt. Berichtigen Sie die Datei und geben Sie ihr den alten Namen zurück, oder löschen Sie sie.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers could not be read, because “%1” may not be read or written. Allow it, and open the dialog again.</source>
+        <translation>Was sich dieser Dialog merkt, konnte nicht gelesen werden, weil „%1“ nicht gelesen oder geschrieben werden darf. Erlauben Sie es, und öffnen Sie den Dialog erneut.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers was not read, because “%1” is a link, belongs to somebody else, or others may write to it. Replace it by a folder that only you may write to.</source>
+        <translation>Was sich dieser Dialog merkt, wurde nicht gelesen, weil „%1“ ein Verweis ist, jemand anderem gehört oder andere dorthin schreiben dürfen. Ersetzen Sie es durch einen Ordner, in den nur Sie schreiben dürfen.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers in “%1” is of a newer version of this program. Update the program, or move the file away to begin anew.</source>
+        <translation>Was sich dieser Dialog in „%1“ merkt, stammt von einer neueren Version dieses Programms. Aktualisieren Sie das Programm, oder verschieben Sie die Datei, um neu zu beginnen.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers could not be read from “%1”: %2.</source>
+        <translation>Was sich dieser Dialog merkt, konnte nicht aus „%1“ gelesen werden: %2.</translation>
+    </message>
+</context>
+<context>
     <name>PathRefusal</name>
     <message>
         <source>it lies outside /Library/Printers</source>
@@ -1139,10 +1170,6 @@
 <context>
     <name>dialog::PresetDesk</name>
     <message>
-        <source>Default Settings</source>
-        <translation>Standardeinstellungen</translation>
-    </message>
-    <message>
         <source>Last Used Settings</source>
         <translation>Zuletzt benutzte Einstellungen</translation>
     </message>
@@ -1161,6 +1188,10 @@
     <message>
         <source>Undo</source>
         <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>Auf Standard zurücksetzen</translation>
     </message>
 </context>
 <context>
@@ -1259,10 +1290,6 @@
         <translation>Wählen Sie im Einblendmenü eine Gruppe von Einstellungen, ändern Sie, was nötig ist, und drücken Sie „Drucken“. Wo der Drucker eine Wahl nicht mit einer anderen verbinden kann, nennt das Fenster die, die im Weg steht, und was sich stattdessen ändern ließe.</translation>
     </message>
     <message>
-        <source>Reset to Defaults</source>
-        <translation>Auf Standard zurücksetzen</translation>
-    </message>
-    <message>
         <source>Changed: %1</source>
         <translation>Geändert: %1</translation>
     </message>
@@ -1342,10 +1369,6 @@
     <message>
         <source>This printer does not have what you chose for the one before:</source>
         <translation>Dieser Drucker hat nicht, was Sie für den vorigen gewählt haben:</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Try Again</source>

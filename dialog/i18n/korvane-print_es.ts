@@ -254,6 +254,37 @@
     </message>
 </context>
 <context>
+    <name>MemoryMessages</name>
+    <message>
+        <source>Your home folder does not answer, so that your last settings could not be read. The printer&apos;s default settings are shown.</source>
+        <translation>Su carpeta personal no responde, por lo que no se pudieron leer sus últimos ajustes. Se muestran los ajustes predeterminados de la impresora.</translation>
+    </message>
+    <message>
+        <source>The file with the size of this window was damaged. It is kept as “%1”. Correct the file and give it back its old name, or delete it.</source>
+        <translation>El archivo con el tamaño de esta ventana estaba dañado. Se conserva como «%1». Corrija el archivo y devuélvale su nombre, o elimínelo.</translation>
+    </message>
+    <message>
+        <source>The file with your last settings for this printer was damaged, so that the printer&apos;s default settings are shown. It is kept as “%1”. Correct the file and give it back its old name, or delete it.</source>
+        <translation>El archivo con sus últimos ajustes para esta impresora estaba dañado, por lo que se muestran los ajustes predeterminados de la impresora. Se conserva como «%1». Corrija el archivo y devuélvale su nombre, o elimínelo.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers could not be read, because “%1” may not be read or written. Allow it, and open the dialog again.</source>
+        <translation>No se pudo leer lo que este diálogo recuerda, porque no se permite leer o escribir «%1». Permítalo y abra el diálogo de nuevo.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers was not read, because “%1” is a link, belongs to somebody else, or others may write to it. Replace it by a folder that only you may write to.</source>
+        <translation>No se leyó lo que este diálogo recuerda, porque «%1» es un enlace, pertenece a otra persona u otros pueden escribir en él. Sustitúyalo por una carpeta en la que solo usted pueda escribir.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers in “%1” is of a newer version of this program. Update the program, or move the file away to begin anew.</source>
+        <translation>Lo que este diálogo recuerda en «%1» es de una versión más reciente de este programa. Actualice el programa o mueva el archivo para empezar de cero.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers could not be read from “%1”: %2.</source>
+        <translation>Lo que este diálogo recuerda no se pudo leer de «%1»: %2.</translation>
+    </message>
+</context>
+<context>
     <name>PathRefusal</name>
     <message>
         <source>it lies outside /Library/Printers</source>
@@ -1139,10 +1170,6 @@
 <context>
     <name>dialog::PresetDesk</name>
     <message>
-        <source>Default Settings</source>
-        <translation>Ajustes predeterminados</translation>
-    </message>
-    <message>
         <source>Last Used Settings</source>
         <translation>Últimos ajustes usados</translation>
     </message>
@@ -1161,6 +1188,10 @@
     <message>
         <source>Undo</source>
         <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>Restablecer valores</translation>
     </message>
 </context>
 <context>
@@ -1259,10 +1290,6 @@
         <translation>Elija un grupo de ajustes en el menú desplegable, cambie lo que necesite y pulse Imprimir. Si la impresora no puede combinar una opción con otra, la ventana indica cuál lo impide y qué podría cambiar en su lugar.</translation>
     </message>
     <message>
-        <source>Reset to Defaults</source>
-        <translation>Restablecer valores</translation>
-    </message>
-    <message>
         <source>Changed: %1</source>
         <translation>Cambiado: %1</translation>
     </message>
@@ -1342,10 +1369,6 @@
     <message>
         <source>This printer does not have what you chose for the one before:</source>
         <translation>Esta impresora no tiene lo que eligió para la anterior:</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Try Again</source>

@@ -254,6 +254,37 @@
     </message>
 </context>
 <context>
+    <name>MemoryMessages</name>
+    <message>
+        <source>Your home folder does not answer, so that your last settings could not be read. The printer&apos;s default settings are shown.</source>
+        <translation>Votre dossier personnel ne répond pas&#x202f;; vos derniers réglages n’ont donc pas pu être lus. Les réglages par défaut de l’imprimante sont affichés.</translation>
+    </message>
+    <message>
+        <source>The file with the size of this window was damaged. It is kept as “%1”. Correct the file and give it back its old name, or delete it.</source>
+        <translation>Le fichier contenant la taille de cette fenêtre était endommagé. Il est conservé sous «&#xa0;%1&#xa0;». Corrigez le fichier et rendez-lui son ancien nom, ou supprimez-le.</translation>
+    </message>
+    <message>
+        <source>The file with your last settings for this printer was damaged, so that the printer&apos;s default settings are shown. It is kept as “%1”. Correct the file and give it back its old name, or delete it.</source>
+        <translation>Le fichier de vos derniers réglages pour cette imprimante était endommagé&#x202f;; les réglages par défaut de l’imprimante sont donc affichés. Il est conservé sous «&#xa0;%1&#xa0;». Corrigez le fichier et rendez-lui son ancien nom, ou supprimez-le.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers could not be read, because “%1” may not be read or written. Allow it, and open the dialog again.</source>
+        <translation>Ce que ce dialogue garde en mémoire n’a pas pu être lu, car «&#xa0;%1&#xa0;» ne peut pas être lu ou écrit. Autorisez-le et rouvrez le dialogue.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers was not read, because “%1” is a link, belongs to somebody else, or others may write to it. Replace it by a folder that only you may write to.</source>
+        <translation>Ce que ce dialogue garde en mémoire n’a pas été lu, car «&#xa0;%1&#xa0;» est un lien, appartient à quelqu’un d’autre, ou d’autres peuvent y écrire. Remplacez-le par un dossier où vous seul pouvez écrire.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers in “%1” is of a newer version of this program. Update the program, or move the file away to begin anew.</source>
+        <translation>Ce que ce dialogue garde en mémoire dans «&#xa0;%1&#xa0;» vient d’une version plus récente de ce programme. Mettez le programme à jour, ou déplacez le fichier pour repartir à neuf.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers could not be read from “%1”: %2.</source>
+        <translation>Ce que ce dialogue garde en mémoire n’a pas pu être lu dans «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
     <name>PathRefusal</name>
     <message>
         <source>it lies outside /Library/Printers</source>
@@ -1139,10 +1170,6 @@
 <context>
     <name>dialog::PresetDesk</name>
     <message>
-        <source>Default Settings</source>
-        <translation>Réglages par défaut</translation>
-    </message>
-    <message>
         <source>Last Used Settings</source>
         <translation>Derniers réglages utilisés</translation>
     </message>
@@ -1161,6 +1188,10 @@
     <message>
         <source>Undo</source>
         <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>Rétablir les réglages par défaut</translation>
     </message>
 </context>
 <context>
@@ -1259,10 +1290,6 @@
         <translation>Choisissez un groupe de réglages dans le menu local, modifiez ce qu’il faut, et appuyez sur Imprimer. Quand l’imprimante ne peut pas combiner un choix avec un autre, la fenêtre dit lequel fait obstacle et ce qui pourrait changer à la place.</translation>
     </message>
     <message>
-        <source>Reset to Defaults</source>
-        <translation>Rétablir les réglages par défaut</translation>
-    </message>
-    <message>
         <source>Changed: %1</source>
         <translation>Modifié&#xa0;: %1</translation>
     </message>
@@ -1342,10 +1369,6 @@
     <message>
         <source>This printer does not have what you chose for the one before:</source>
         <translation>Cette imprimante n’a pas ce que vous aviez choisi pour la précédente&#xa0;:</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Try Again</source>

@@ -254,6 +254,37 @@
     </message>
 </context>
 <context>
+    <name>MemoryMessages</name>
+    <message>
+        <source>Your home folder does not answer, so that your last settings could not be read. The printer&apos;s default settings are shown.</source>
+        <translation>La tua cartella personale non risponde, quindi non è stato possibile leggere le tue ultime impostazioni. Vengono mostrate le impostazioni predefinite della stampante.</translation>
+    </message>
+    <message>
+        <source>The file with the size of this window was damaged. It is kept as “%1”. Correct the file and give it back its old name, or delete it.</source>
+        <translation>Il file con le dimensioni di questa finestra era danneggiato. È conservato come “%1”. Correggi il file e ridagli il vecchio nome, oppure eliminalo.</translation>
+    </message>
+    <message>
+        <source>The file with your last settings for this printer was damaged, so that the printer&apos;s default settings are shown. It is kept as “%1”. Correct the file and give it back its old name, or delete it.</source>
+        <translation>Il file con le tue ultime impostazioni per questa stampante era danneggiato, quindi vengono mostrate le impostazioni predefinite della stampante. È conservato come “%1”. Correggi il file e ridagli il vecchio nome, oppure eliminalo.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers could not be read, because “%1” may not be read or written. Allow it, and open the dialog again.</source>
+        <translation>Non è stato possibile leggere ciò che questa finestra ricorda, perché “%1” non può essere letto o scritto. Consentilo e apri di nuovo la finestra.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers was not read, because “%1” is a link, belongs to somebody else, or others may write to it. Replace it by a folder that only you may write to.</source>
+        <translation>Ciò che questa finestra ricorda non è stato letto, perché “%1” è un collegamento, appartiene a qualcun altro o altri possono scriverci. Sostituiscilo con una cartella in cui solo tu puoi scrivere.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers in “%1” is of a newer version of this program. Update the program, or move the file away to begin anew.</source>
+        <translation>Ciò che questa finestra ricorda in “%1” è di una versione più recente di questo programma. Aggiorna il programma o sposta il file per ricominciare.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers could not be read from “%1”: %2.</source>
+        <translation>Non è stato possibile leggere da “%1” ciò che questa finestra ricorda: %2.</translation>
+    </message>
+</context>
+<context>
     <name>PathRefusal</name>
     <message>
         <source>it lies outside /Library/Printers</source>
@@ -1139,10 +1170,6 @@
 <context>
     <name>dialog::PresetDesk</name>
     <message>
-        <source>Default Settings</source>
-        <translation>Impostazioni predefinite</translation>
-    </message>
-    <message>
         <source>Last Used Settings</source>
         <translation>Ultime impostazioni usate</translation>
     </message>
@@ -1161,6 +1188,10 @@
     <message>
         <source>Undo</source>
         <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>Ripristina predefiniti</translation>
     </message>
 </context>
 <context>
@@ -1259,10 +1290,6 @@
         <translation>Scegli un gruppo di impostazioni dal menu a comparsa, modifica ciò che serve e premi Stampa. Se la stampante non può combinare una scelta con un’altra, la finestra dice quale lo impedisce e che cosa potrebbe cambiare al suo posto.</translation>
     </message>
     <message>
-        <source>Reset to Defaults</source>
-        <translation>Ripristina predefiniti</translation>
-    </message>
-    <message>
         <source>Changed: %1</source>
         <translation>Modificato: %1</translation>
     </message>
@@ -1342,10 +1369,6 @@
     <message>
         <source>This printer does not have what you chose for the one before:</source>
         <translation>Questa stampante non ha ciò che avevi scelto per la precedente:</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Try Again</source>

@@ -254,6 +254,37 @@
     </message>
 </context>
 <context>
+    <name>MemoryMessages</name>
+    <message>
+        <source>Your home folder does not answer, so that your last settings could not be read. The printer&apos;s default settings are shown.</source>
+        <translation>ホームフォルダが応答しないため、前回の設定を読み込めませんでした。プリンタのデフォルト設定を表示しています。</translation>
+    </message>
+    <message>
+        <source>The file with the size of this window was damaged. It is kept as “%1”. Correct the file and give it back its old name, or delete it.</source>
+        <translation>このウインドウのサイズのファイルが壊れていました。「%1」として保管されています。ファイルを修正して元の名前に戻すか、削除してください。</translation>
+    </message>
+    <message>
+        <source>The file with your last settings for this printer was damaged, so that the printer&apos;s default settings are shown. It is kept as “%1”. Correct the file and give it back its old name, or delete it.</source>
+        <translation>このプリンタの前回の設定のファイルが壊れていたため、プリンタのデフォルト設定を表示しています。ファイルは「%1」として保管されています。ファイルを修正して元の名前に戻すか、削除してください。</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers could not be read, because “%1” may not be read or written. Allow it, and open the dialog again.</source>
+        <translation>「%1」の読み書きが許可されていないため、このダイアログが記憶している内容を読み込めませんでした。許可してから、ダイアログをもう一度開いてください。</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers was not read, because “%1” is a link, belongs to somebody else, or others may write to it. Replace it by a folder that only you may write to.</source>
+        <translation>「%1」はリンクか、所有者が異なるか、ほかのユーザが書き込めるため、このダイアログが記憶している内容を読み込みませんでした。自分だけが書き込めるフォルダに置き換えてください。</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers in “%1” is of a newer version of this program. Update the program, or move the file away to begin anew.</source>
+        <translation>「%1」にこのダイアログが記憶している内容は、このプログラムの新しいバージョンのものです。プログラムを更新するか、ファイルを移動して新しく始めてください。</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers could not be read from “%1”: %2.</source>
+        <translation>このダイアログが記憶している内容を「%1」から読み込めませんでした: %2。</translation>
+    </message>
+</context>
+<context>
     <name>PathRefusal</name>
     <message>
         <source>it lies outside /Library/Printers</source>
@@ -1135,10 +1166,6 @@
 <context>
     <name>dialog::PresetDesk</name>
     <message>
-        <source>Default Settings</source>
-        <translation>デフォルト設定</translation>
-    </message>
-    <message>
         <source>Last Used Settings</source>
         <translation>前回使用した設定</translation>
     </message>
@@ -1157,6 +1184,10 @@
     <message>
         <source>Undo</source>
         <translation>取り消す</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>デフォルトに戻す</translation>
     </message>
 </context>
 <context>
@@ -1255,10 +1286,6 @@
         <translation>ポップアップメニューで設定の種類を選び、必要な項目を変更して「プリント」を押してください。組み合わせられない選択があるときは、妨げになっている設定と、代わりに変更できる設定が表示されます。</translation>
     </message>
     <message>
-        <source>Reset to Defaults</source>
-        <translation>デフォルトに戻す</translation>
-    </message>
-    <message>
         <source>Changed: %1</source>
         <translation>変更: %1</translation>
     </message>
@@ -1338,10 +1365,6 @@
     <message>
         <source>This printer does not have what you chose for the one before:</source>
         <translation>前のプリンタで選んだ次の設定は、このプリンタにはありません:</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Try Again</source>

@@ -254,6 +254,37 @@
     </message>
 </context>
 <context>
+    <name>MemoryMessages</name>
+    <message>
+        <source>Your home folder does not answer, so that your last settings could not be read. The printer&apos;s default settings are shown.</source>
+        <translation>Sua pasta pessoal não responde; por isso, suas últimas definições não puderam ser lidas. São mostradas as definições padrão da impressora.</translation>
+    </message>
+    <message>
+        <source>The file with the size of this window was damaged. It is kept as “%1”. Correct the file and give it back its old name, or delete it.</source>
+        <translation>O arquivo com o tamanho desta janela estava danificado. Ele foi guardado como “%1”. Corrija o arquivo e devolva-lhe o nome antigo, ou exclua-o.</translation>
+    </message>
+    <message>
+        <source>The file with your last settings for this printer was damaged, so that the printer&apos;s default settings are shown. It is kept as “%1”. Correct the file and give it back its old name, or delete it.</source>
+        <translation>O arquivo com suas últimas definições para esta impressora estava danificado; por isso, são mostradas as definições padrão da impressora. Ele foi guardado como “%1”. Corrija o arquivo e devolva-lhe o nome antigo, ou exclua-o.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers could not be read, because “%1” may not be read or written. Allow it, and open the dialog again.</source>
+        <translation>O que este diálogo lembra não pôde ser lido, porque a leitura ou gravação de “%1” não é permitida. Permita-a e abra o diálogo novamente.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers was not read, because “%1” is a link, belongs to somebody else, or others may write to it. Replace it by a folder that only you may write to.</source>
+        <translation>O que este diálogo lembra não foi lido, porque “%1” é um link, pertence a outra pessoa ou outros podem gravar nele. Substitua-o por uma pasta em que somente você possa gravar.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers in “%1” is of a newer version of this program. Update the program, or move the file away to begin anew.</source>
+        <translation>O que este diálogo lembra em “%1” é de uma versão mais nova deste programa. Atualize o programa ou mova o arquivo para começar de novo.</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers could not be read from “%1”: %2.</source>
+        <translation>O que este diálogo lembra não pôde ser lido de “%1”: %2.</translation>
+    </message>
+</context>
+<context>
     <name>PathRefusal</name>
     <message>
         <source>it lies outside /Library/Printers</source>
@@ -1139,10 +1170,6 @@
 <context>
     <name>dialog::PresetDesk</name>
     <message>
-        <source>Default Settings</source>
-        <translation>Definições padrão</translation>
-    </message>
-    <message>
         <source>Last Used Settings</source>
         <translation>Últimas definições usadas</translation>
     </message>
@@ -1161,6 +1188,10 @@
     <message>
         <source>Undo</source>
         <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>Restaurar padrões</translation>
     </message>
 </context>
 <context>
@@ -1259,10 +1290,6 @@
         <translation>Escolha um grupo de definições no menu suspenso, altere o que precisar e pressione Imprimir. Quando a impressora não pode combinar uma escolha com outra, a janela diz qual delas impede e o que poderia mudar em seu lugar.</translation>
     </message>
     <message>
-        <source>Reset to Defaults</source>
-        <translation>Restaurar padrões</translation>
-    </message>
-    <message>
         <source>Changed: %1</source>
         <translation>Alterado: %1</translation>
     </message>
@@ -1342,10 +1369,6 @@
     <message>
         <source>This printer does not have what you chose for the one before:</source>
         <translation>Esta impressora não tem o que você escolheu para a anterior:</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Try Again</source>

@@ -254,6 +254,37 @@
     </message>
 </context>
 <context>
+    <name>MemoryMessages</name>
+    <message>
+        <source>Your home folder does not answer, so that your last settings could not be read. The printer&apos;s default settings are shown.</source>
+        <translation>您的主文件夹没有响应，因此无法读取您上次的设置。现在显示打印机的默认设置。</translation>
+    </message>
+    <message>
+        <source>The file with the size of this window was damaged. It is kept as “%1”. Correct the file and give it back its old name, or delete it.</source>
+        <translation>保存此窗口大小的文件已损坏。它已保留为“%1”。请修正该文件并恢复原名，或将其删除。</translation>
+    </message>
+    <message>
+        <source>The file with your last settings for this printer was damaged, so that the printer&apos;s default settings are shown. It is kept as “%1”. Correct the file and give it back its old name, or delete it.</source>
+        <translation>您上次使用此打印机的设置文件已损坏，因此显示打印机的默认设置。它已保留为“%1”。请修正该文件并恢复原名，或将其删除。</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers could not be read, because “%1” may not be read or written. Allow it, and open the dialog again.</source>
+        <translation>无法读取此对话框记住的内容，因为没有读取或写入“%1”的权限。请授予权限，然后重新打开对话框。</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers was not read, because “%1” is a link, belongs to somebody else, or others may write to it. Replace it by a folder that only you may write to.</source>
+        <translation>未读取此对话框记住的内容，因为“%1”是链接、属于其他用户，或其他用户可以写入。请用只有您能写入的文件夹替换它。</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers in “%1” is of a newer version of this program. Update the program, or move the file away to begin anew.</source>
+        <translation>此对话框在“%1”中记住的内容来自本程序的更新版本。请更新程序，或移走该文件以重新开始。</translation>
+    </message>
+    <message>
+        <source>What this dialog remembers could not be read from “%1”: %2.</source>
+        <translation>无法从“%1”读取此对话框记住的内容：%2。</translation>
+    </message>
+</context>
+<context>
     <name>PathRefusal</name>
     <message>
         <source>it lies outside /Library/Printers</source>
@@ -1135,10 +1166,6 @@
 <context>
     <name>dialog::PresetDesk</name>
     <message>
-        <source>Default Settings</source>
-        <translation>默认设置</translation>
-    </message>
-    <message>
         <source>Last Used Settings</source>
         <translation>上次使用的设置</translation>
     </message>
@@ -1157,6 +1184,10 @@
     <message>
         <source>Undo</source>
         <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <translation>恢复默认值</translation>
     </message>
 </context>
 <context>
@@ -1255,10 +1286,6 @@
         <translation>从弹出菜单中选择一组设置，更改所需内容，然后按“打印”。如果打印机无法将某个选择与另一个组合，窗口会说明是哪一项造成冲突，以及可以改动什么。</translation>
     </message>
     <message>
-        <source>Reset to Defaults</source>
-        <translation>恢复默认值</translation>
-    </message>
-    <message>
         <source>Changed: %1</source>
         <translation>已更改：%1</translation>
     </message>
@@ -1338,10 +1365,6 @@
     <message>
         <source>This printer does not have what you chose for the one before:</source>
         <translation>此打印机没有您为前一台打印机选择的以下设置：</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
     </message>
     <message>
         <source>Try Again</source>

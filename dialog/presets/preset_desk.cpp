@@ -32,8 +32,7 @@ const Preset *findPreset(const std::vector<Preset> &presets, const QString &name
 PresetDesk::PresetDesk(const PpdDocument &printer, DialogHost &host, Changer changer,
                        QObject *parent)
     : QObject(parent), printer_(printer), host_(host), changer_(std::move(changer)),
-      store_(modelOf(printer)),
-      defaults_(host.state()), applied_{{}, contentOf(defaults_, printer)}, former_(applied_)
+      store_(modelOf(printer))
 {
     connect(&host_, &DialogHost::stateChanged, this, &PresetDesk::followState);
 }
@@ -48,6 +47,7 @@ PresetBar *PresetDesk::makeBar()
     connect(bar_, &PresetBar::named, this, [this](PresetBar::NameFor purpose, const QString &name) {
         purpose == PresetBar::NameFor::Saving ? save(name) : rename(name);
     });
+    hasStartedSo_ = present() == applied_.content;
     printers_ = printerPresets(printer_);
     readFile();
     fillBar();
@@ -56,10 +56,29 @@ PresetBar *PresetDesk::makeBar()
     return bar_;
 }
 
+void PresetDesk::start(const StartPlan &plan)
+{
+    defaults_ = plan.defaults;
+    lastUsed_ = plan.lastUsed;
+    const PresetKind kind = lastUsed_ ? PresetKind::LastUsed : PresetKind::Defaults;
+    applied_ = former_ = {{kind}, contentOf(plan.base.state, printer_)};
+    if (lastUsed_)
+        tellRemarks(tr("Last Used Settings"), plan.base);
+}
+
+void PresetDesk::takePanels()
+{
+    if (hasStartedSo_)
+        applied_.content = former_.content = present();
+    followState();
+}
+
 void PresetDesk::setLastUsed(const PresetContent &content)
 {
     lastUsed_ = content;
     fillBar();
+    if (applied_.entry.kind == PresetKind::LastUsed)
+        showStored(applied_.entry, content);
 }
 
 void PresetDesk::readFile()
@@ -109,6 +128,8 @@ PresetContent PresetDesk::present() const
 /// Another dialog may have changed the presets since; what it made of this one counts.
 void PresetDesk::apply(const PresetEntry &entry)
 {
+    if (entry.kind == PresetKind::Defaults)
+        return reset();
     if (entry.kind == PresetKind::Own) {
         readFile();
         fillBar();
@@ -119,12 +140,15 @@ void PresetDesk::apply(const PresetEntry &entry)
         bar_->select(applied_.entry);
         return;
     }
-    const QString name = entry.kind == PresetKind::Defaults   ? tr("Default Settings")
-                         : entry.kind == PresetKind::LastUsed ? tr("Last Used Settings")
-                                                              : entry.name;
+    const QString name = entry.kind == PresetKind::LastUsed ? tr("Last Used Settings") : entry.name;
     const PresetPlan plan = planPreset(*content, printer_, host_.state());
     changer_(tr("Preset “%1”").arg(name), [&] { host_.setState(plan.state); });
-    showApplied(entry, contentOf(plan.state, printer_));
+    showApplied(entry);
+    tellRemarks(name, plan);
+}
+
+void PresetDesk::tellRemarks(const QString &name, const PresetPlan &plan)
+{
     const QString remarks = PresetMessages::remarks(name, plan, printer_);
     if (remarks.isNull())
         Q_EMIT dismissed(kRemarksKey);
@@ -132,24 +156,16 @@ void PresetDesk::apply(const PresetEntry &entry)
         Q_EMIT noticed({kRemarksKey, Severity::Warning, remarks, {}});
 }
 
-void PresetDesk::restoreLastUsed()
-{
-    if (!lastUsed_)
-        return;
-    const PresetPlan plan = planPreset(*lastUsed_, printer_, host_.state());
-    host_.setState(plan.state);
-    showApplied({PresetKind::LastUsed}, contentOf(plan.state, printer_));
-}
-
 void PresetDesk::reset()
 {
-    changer_(tr("Default Settings"), [this] { host_.setState(defaults_); });
-    showApplied({}, contentOf(defaults_, printer_));
+    changer_(tr("Reset to Defaults"), [this] { host_.setState(defaults_); });
+    showApplied({});
+    Q_EMIT dismissed(kRemarksKey);
 }
 
-void PresetDesk::showApplied(const PresetEntry &entry, const PresetContent &content)
+void PresetDesk::showApplied(const PresetEntry &entry)
 {
-    former_ = std::exchange(applied_, Applied{entry, content});
+    former_ = std::exchange(applied_, Applied{entry, present()});
     showEntry();
 }
 

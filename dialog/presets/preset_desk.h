@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/memory/start_plan.h"
 #include "dialog/presets/preset_bar.h"
 #include "dialog/presets/preset_store.h"
 #include "dialog/window/notice_area.h"
@@ -23,16 +24,18 @@ public:
     /// Makes a change of what is set, in a way that a person can take back by its title.
     using Changer = std::function<void(const QString &title, const std::function<void()> &change)>;
 
-    /// What is set now are the default settings. Borrows printer and host.
+    /// Borrows printer and host. Begins with start().
     PresetDesk(const PpdDocument &printer, DialogHost &host, Changer changer,
                QObject *parent = nullptr);
 
     /// The control, which the caller gives a parent. It may go before the desk.
     [[nodiscard]] PresetBar *makeBar();
-    /// What the last job with this printer had, to be picked again.
+    /// The printer has started so; what it does not have of the last settings is told.
+    void start(const StartPlan &plan);
+    /// The panels have been restored; what they have made of the start belongs to it.
+    void takePanels();
+    /// A job has been made with this, to be picked again.
     void setLastUsed(const PresetContent &content);
-    /// Sets everything that the last job had; what the printer does not have is told.
-    void restoreLastUsed();
     /// Sets everything back to the default settings, copies and pages too.
     void reset();
 
@@ -44,7 +47,9 @@ private:
     void readFile();
     void fillBar();
     void apply(const PresetEntry &entry);
-    void showApplied(const PresetEntry &entry, const PresetContent &content);
+    void tellRemarks(const QString &name, const PresetPlan &plan);
+    /// The entry with what panels have made of it.
+    void showApplied(const PresetEntry &entry);
     void showStored(const PresetEntry &entry, const PresetContent &content);
     void showEntry();
     void followState();
@@ -74,12 +79,13 @@ private:
     DialogHost &host_;
     Changer changer_;
     PresetStore store_;
-    ChoiceState defaults_;
+    ChoiceState defaults_; ///< the printer's
     std::vector<Preset> printers_;
     std::vector<Preset> own_;
     std::optional<PresetContent> lastUsed_;
     Applied applied_;
-    Applied former_; ///< before the last one, for who takes it back
+    Applied former_;            ///< before the last one, for who takes it back
+    bool hasStartedSo_ = false; ///< with the applied one and nothing on top
     QPointer<PresetBar> bar_;
 };
 

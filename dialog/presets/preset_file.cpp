@@ -122,36 +122,47 @@ std::optional<Preset> readPreset(const QJsonValue &value)
     return Preset{name, *printer, *madeBy, std::move(*content)};
 }
 
-FileHealth healthOf(const QJsonObject &root)
+FileHealth healthOf(const QJsonObject &root, const QString &format, int known)
 {
     const QJsonValue version = root[kVersionKey];
-    if (root[kFormatKey].toString() != kFormat || !version.isDouble() || version.toInt() < 1)
+    if (root[kFormatKey].toString() != format || !version.isDouble() || version.toInt() < 1)
         return FileHealth::Damaged;
-    if (version.toInt() > kPresetFileVersion)
-        return FileHealth::Newer;
-    return root[kPresets].isArray() ? FileHealth::Sound : FileHealth::Damaged;
+    return version.toInt() > known ? FileHealth::Newer : FileHealth::Sound;
 }
 
 } // namespace
+
+QJsonObject fileHead(const QString &format, int version)
+{
+    return {{kFormatKey, format}, {kVersionKey, version}};
+}
+
+ReadObject readObject(const QByteArray &bytes, const QString &format, int version)
+{
+    ReadObject read{.object = QJsonDocument::fromJson(bytes).object()};
+    read.health = healthOf(read.object, format, version);
+    return read;
+}
 
 QByteArray writtenPresets(const QString &printer, const std::vector<Preset> &presets)
 {
     QJsonArray array;
     for (const Preset &preset : presets)
         array.append(presetJson(preset));
-    return QJsonDocument(QJsonObject{{kFormatKey, kFormat},
-                                     {kVersionKey, kPresetFileVersion},
-                                     {kPrinter, printer},
-                                     {kPresets, array}})
-        .toJson();
+    QJsonObject root = fileHead(kFormat, kPresetFileVersion);
+    root.insert(kPrinter, printer);
+    root.insert(kPresets, array);
+    return QJsonDocument(root).toJson();
 }
 
 ReadPresets readPresets(const QByteArray &bytes)
 {
-    const QJsonObject root = bytes.size() <= kLargestPresetFile
-                                 ? QJsonDocument::fromJson(bytes).object()
-                                 : QJsonObject();
-    ReadPresets read{.health = healthOf(root)};
+    const auto [root, health] = bytes.size() <= kLargestPresetFile
+                                    ? readObject(bytes, kFormat, kPresetFileVersion)
+                                    : ReadObject{.health = FileHealth::Damaged};
+    ReadPresets read{.health = health};
+    if (health == FileHealth::Sound && !root[kPresets].isArray())
+        read.health = FileHealth::Damaged;
     if (read.health != FileHealth::Sound)
         return read;
     QStringList names;

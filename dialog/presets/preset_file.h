@@ -27,6 +27,16 @@ struct ReadPresets
     FileHealth health = FileHealth::Sound;
 };
 
+/// How every file begins that the dialog keeps as JSON.
+[[nodiscard]] QJsonObject fileHead(const QString &format, int version);
+/// Of bytes that should begin so; @p version is the last one that is known.
+struct ReadObject
+{
+    QJsonObject object = {};
+    FileHealth health = FileHealth::Sound;
+};
+[[nodiscard]] ReadObject readObject(const QByteArray &bytes, const QString &format, int version);
+
 [[nodiscard]] QByteArray writtenPresets(const QString &printer, const std::vector<Preset> &presets);
 [[nodiscard]] ReadPresets readPresets(const QByteArray &bytes);
 

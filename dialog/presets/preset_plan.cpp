@@ -181,7 +181,7 @@ PresetPlan planPreset(const PresetContent &content, const PpdDocument &printer,
     plan.state.marks = marksWith(choices, printer);
     plan.state.settings = settingsWith(content.settings, present.settings);
     for (const auto &[option, several] : choices)
-        plan.state.chosen[option] = several.first();
+        plan.state.chosen[option] = several.join(u',');
     if (content.paperName.isNull() || hasPaper(content.paperName, printer))
         plan.state.paperName = content.paperName;
     else

@@ -8,7 +8,6 @@
 #include <QLockFile>
 
 #include <algorithm>
-#include <cerrno>
 
 namespace dialog {
 namespace {
@@ -18,30 +17,6 @@ using debuglog::Refusal;
 const QString kFolder = QStringLiteral("presets");
 /// A change takes far less; a person does not notice the wait.
 constexpr int kPatienceMilliseconds = 300;
-
-StoreFault faultOf(int error)
-{
-    switch (error) {
-    case 0:
-        return StoreFault::Untrusted;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-        return StoreFault::NoRoom;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-        return StoreFault::NotAllowed;
-    default:
-        return StoreFault::SystemError;
-    }
-}
-
-StoreResult resultOf(const Refusal &refused)
-{
-    return {faultOf(refused.error), refused.path,
-            refused.error ? qt_error_string(refused.error) : QString()};
-}
 
 StoreResult resultOf(const QLockFile &lock, const QString &path)
 {
@@ -114,19 +89,19 @@ PresetStore::PresetStore(QString model)
 {
 }
 
-/// What is no ordinary file of the user's counts as damaged: it is in the way, and is kept.
 PresetStore::Read PresetStore::read(const PrivateFolder &folder) const
 {
-    if (!folder.hasFile(fileName_))
+    const KeptFile file = readKept(folder, fileName_, kLargestPresetFile);
+    switch (file.state) {
+    case KeptFile::State::Missing:
         return {};
-    if (folder.refusalOf(fileName_))
-        return {.file = {.health = FileHealth::Damaged}};
-    errno = 0;
-    const std::optional<QByteArray> bytes = folder.read(fileName_, kLargestPresetFile);
-    if (bytes)
-        return {.file = readPresets(*bytes)};
-    if (errno == EACCES || errno == EPERM)
+    case KeptFile::State::Read:
+        return {.file = readPresets(file.bytes)};
+    case KeptFile::State::Forbidden:
         return {.result = {StoreFault::NotAllowed, folder.pathOf(fileName_)}};
+    case KeptFile::State::Unusable:
+        break;
+    }
     return {.file = {.health = FileHealth::Damaged}};
 }
 

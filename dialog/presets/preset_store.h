@@ -1,38 +1,10 @@
 #pragma once
 
-#include "dialog/presets/preset.h"
-#include "dialog/printers/user_files.h"
+#include "dialog/presets/store_result.h"
 
 #include <functional>
-#include <optional>
 
 namespace dialog {
-
-/// Why presets could not be read or written.
-enum class StoreFault {
-    None,
-    NameTaken,   ///< another preset has the name
-    Gone,        ///< the preset is no longer there
-    TooMany,     ///< no more presets fit into the file
-    Busy,        ///< another program holds the file
-    NoRoom,      ///< the disk is full
-    NotAllowed,  ///< file or folder may not be read or written
-    Untrusted,   ///< file or folder is a link, is another user's, or others may write it
-    Newer,       ///< written by a newer version of the program, and left alone
-    SystemError, ///< any other, in the system's words
-};
-
-struct StoreResult
-{
-    StoreFault fault = StoreFault::None;
-    QString path = {};     ///< of the file or folder that is to blame
-    QString detail = {};   ///< the system's words, for SystemError
-    QString setAside = {}; ///< where a damaged file lies now; null when none was found
-    /// What an update or a removal replaced; what was added.
-    std::optional<Preset> preset = {};
-
-    [[nodiscard]] bool isOk() const { return fault == StoreFault::None; }
-};
 
 struct PresetListing
 {

@@ -235,6 +235,17 @@ std::optional<Meaning> meaningOfValue(const QString &name, const QString &value,
 
 } // namespace
 
+std::map<QString, QVariant> settingsWithoutStandIns(std::map<QString, QVariant> settings,
+                                                    const QString &option,
+                                                    const OptionChoices &counterparts)
+{
+    std::erase_if(settings, [&](const auto &setting) {
+        const auto &[key, value] = setting;
+        return meaningOf(key, value.toString(), counterparts).standsFor.contains(option);
+    });
+    return settings;
+}
+
 bool isSameOption(const QString &a, const QString &b)
 {
     return a.compare(b, Qt::CaseInsensitive) == 0;

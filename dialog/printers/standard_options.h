@@ -27,6 +27,12 @@ struct Meaning
 [[nodiscard]] Meaning meaningOf(const QString &name, const QString &value,
                                 const OptionChoices &counterparts);
 
+/// Print settings without those that would stand for an option of the printer, which so keeps the
+/// last word.
+[[nodiscard]] std::map<QString, QVariant>
+settingsWithoutStandIns(std::map<QString, QVariant> settings, const QString &option,
+                        const OptionChoices &counterparts);
+
 /// Names that are equal but for case are one option to a print server.
 [[nodiscard]] bool isSameOption(const QString &a, const QString &b);
 

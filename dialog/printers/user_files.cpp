@@ -16,11 +16,24 @@ constexpr qint64 kLongestName = 1024;
 constexpr qsizetype kLongestReadablePart = 40;
 constexpr qsizetype kChecksumDigits = 32;
 
+/// Null for the user's own.
+QString &userFolder()
+{
+    static QString folder;
+    return folder;
+}
+
 /// A relative path in the variable counts as none.
 QString baseFolder(const char *variable, const char *inHome)
 {
     const QString given = QFile::decodeName(qgetenv(variable));
     return QDir::isAbsolutePath(given) ? given : QDir::homePath() + QLatin1String(inHome);
+}
+
+QString settingsFolder(const char *variable, const char *inHome)
+{
+    return userFolder().isNull() ? baseFolder(variable, inHome)
+                                 : userFolder() + QLatin1String(inHome);
 }
 
 PrivateFolder::Opened programFolder(const QString &base)
@@ -61,12 +74,17 @@ std::optional<PrivateFolder> userConfiguration()
 
 PrivateFolder::Opened openUserConfiguration()
 {
-    return programFolder(baseFolder("XDG_CONFIG_HOME", "/.config"));
+    return programFolder(settingsFolder("XDG_CONFIG_HOME", "/.config"));
 }
 
 PrivateFolder::Opened openUserState()
 {
-    return programFolder(baseFolder("XDG_STATE_HOME", "/.local/state"));
+    return programFolder(settingsFolder("XDG_STATE_HOME", "/.local/state"));
+}
+
+void setUserFolder(const QString &folder)
+{
+    userFolder() = folder;
 }
 
 QString fileNameFor(const QString &readable, const QByteArray &identity)

@@ -17,6 +17,9 @@ using debuglog::PrivateFolder;
 /// for what comes and goes with use (XDG_STATE_HOME).
 [[nodiscard]] PrivateFolder::Opened openUserConfiguration();
 [[nodiscard]] PrivateFolder::Opened openUserState();
+/// From now on configuration and state are looked up below this folder, whoever the user is. Caches
+/// stay the user's.
+void setUserFolder(const QString &folder);
 
 /// A file's name that begins as @p readable does, letters, digits and hyphens of ASCII only, and is
 /// another one for any other @p identity.

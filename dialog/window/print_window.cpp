@@ -261,6 +261,12 @@ void PrintWindow::fitContents()
     setUpdatesEnabled(updates);
 }
 
+void PrintWindow::setPersonsSize(QSize size)
+{
+    personsSize_ = size;
+    fitContents();
+}
+
 QSize PrintWindow::neededSize() const
 {
     const QSize hint = sizeHint().expandedTo(minimumSize());

@@ -52,6 +52,10 @@ public:
     /// Makes room for what is shown, in one repaint: the window is as large as a person made it, or
     /// as its contents need, but no larger than the screen.
     void fitContents();
+    /// The size that a person gave it, here or in a dialog before, even where that is larger than
+    /// the screen; invalid for none.
+    [[nodiscard]] QSize personsSize() const { return personsSize_; }
+    void setPersonsSize(QSize size);
     /// While a job is on its way, Print cannot be pressed again.
     void setSending(bool isSending);
     /// Print cannot be pressed for this reason; null: it can.

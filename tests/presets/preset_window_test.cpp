@@ -106,9 +106,15 @@ TEST_F(PresetWindow, applies_a_saved_preset_and_leaves_copies_alone)
     EXPECT_EQ(dialog->host().state().settings[q("mirror")], q("true"));
     EXPECT_EQ(dialog->host().state().settings[q("copies")], q("3"));
     EXPECT_FALSE(isChanged());
+}
+
+TEST_F(PresetWindow, takes_copies_too_with_the_default_settings)
+{
+    set("mirror", "true");
+    set("copies", "3");
     pick(q("Default Settings"));
-    EXPECT_FALSE(dialog->host().state().settings.contains(q("mirror")));
-    EXPECT_EQ(dialog->host().state().settings[q("copies")], q("3"));
+    EXPECT_TRUE(dialog->host().state().settings.empty());
+    EXPECT_FALSE(isChanged());
 }
 
 TEST_F(PresetWindow, lists_what_the_printer_does_not_have)

@@ -17,6 +17,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -35,9 +36,11 @@ constexpr int kPatienceMilliseconds = 20'000;
 class Visit
 {
 public:
-    explicit Visit(QueueSources sources = quick(), const QString &queue = {})
+    explicit Visit(QueueSources sources = quick(), const QString &queue = {},
+                   std::shared_ptr<Memory> memory = {})
     {
         PrintCase printCase;
+        printCase.memory = std::move(memory);
         printCase.root = q(KORVANE_ROOT_DIR);
         printCase.document = q(KORVANE_SAMPLE_DOCUMENT);
         printCase.jobFolder = jobs_.path();
@@ -253,6 +256,127 @@ TEST_F(QueueDialogs, RebuildThePanelsAndCarryChoicesAlong)
     EXPECT_SAME(run.printer().marked(q("MediaType")), q("IronOn")) << "kept for the way back";
     EXPECT_SAME(run.printer().marked(q("PrintQuality")), q("Best"));
     EXPECT_SAME(run.setting("mirror"), q("true"));
+}
+
+namespace {
+
+std::shared_ptr<Memory> patientMemory()
+{
+    constexpr std::chrono::minutes kLong{1};
+    return std::make_shared<Memory>(Memory::Times{.reading = kLong, .writing = kLong});
+}
+
+void printAndWait(const Visit &run)
+{
+    QSignalSpy made(&run.dialog(), &QueueDialog::jobMade);
+    run.dialog().printDialog()->print(Review::Skip);
+    ASSERT_TRUE(run.until([&] { return !made.isEmpty(); }))
+        << run.notices().join(u'\n').toStdString();
+}
+
+} // namespace
+
+TEST_F(QueueDialogs, RememberTheLastSettingsOfEachQueueAndTheWindow)
+{
+    addQueues();
+    {
+        const Visit run(Visit::once(), q("ink"), patientMemory());
+        ASSERT_TRUE(run.untilReady("ink"));
+        run.choose("ibPaperType", "IronOn");
+        printAndWait(run);
+        run.window().windowHandle()->resize(790, 780);
+        ASSERT_TRUE(run.until([&] { return run.window().width() == 790; }));
+        run.button("cancelButton")->click();
+    }
+    {
+        const Visit run(Visit::once(), q("toner"), patientMemory());
+        ASSERT_TRUE(run.untilReady("toner"));
+        EXPECT_TEXT(run.popUp("presetPopUp")->currentText(), "Default Settings");
+        EXPECT_EQ(run.window().size(), QSize(790, 780));
+        run.dialog().printDialog()->host().setSetting(q("number-up"), q("4"));
+        printAndWait(run);
+    }
+    const Visit run(Visit::once(), q("ink"), patientMemory());
+    ASSERT_TRUE(run.untilReady("ink"));
+    EXPECT_TEXT(run.popUp("presetPopUp")->currentText(), "Last Used Settings");
+    EXPECT_SAME(run.printer().marked(q("MediaType")), q("IronOn"));
+    EXPECT_NULL(run.setting("number-up"));
+    ASSERT_TRUE(run.until([&] { return run.dialog().picker().offered().size() == 3; }));
+    run.choose("printerPopUp", "toner");
+    ASSERT_TRUE(run.untilReady("toner"));
+    EXPECT_SAME(run.setting("number-up"), q("4"));
+    EXPECT_SAME(run.setting("mirror"), QString()) << "the ink printer's last job's, not a choice";
+    EXPECT_TRUE(run.notices().isEmpty()) << run.notices().join(u'\n').toStdString();
+}
+
+TEST_F(QueueDialogs, PutWhatAPersonChoosesOnTopOfTheLastSettingsOfTheNextPrinter)
+{
+    addQueues();
+    server.addQueue(q("ink2"), samplePpd("Korvane-S300.ppd"));
+    {
+        const Visit run(Visit::once(), q("ink2"), patientMemory());
+        ASSERT_TRUE(run.untilReady("ink2"));
+        run.choose("ibPrintQuality", "Best");
+        run.dialog().printDialog()->host().setSetting(q("number-up"), q("4"));
+        printAndWait(run);
+    }
+    const Visit run(Visit::once(), q("ink"), patientMemory());
+    ASSERT_TRUE(run.untilReady("ink"));
+    ASSERT_TRUE(run.until([&] { return run.dialog().picker().offered().size() == 4; }));
+    run.choose("ibPaperType", "IronOn");
+    run.dialog().printDialog()->host().setSetting(q("number-up"), q("2"));
+    run.choose("printerPopUp", "ink2");
+    ASSERT_TRUE(run.untilReady("ink2"));
+    EXPECT_SAME(run.printer().marked(q("PrintQuality")), q("Best"));
+    EXPECT_SAME(run.printer().marked(q("MediaType")), q("IronOn"));
+    EXPECT_SAME(run.setting("number-up"), q("2"));
+    EXPECT_TEXT(run.popUp("presetPopUp")->currentText(), "Last Used Settings");
+    EXPECT_TRUE(run.window().findChild<QWidget *>(q("presetChanged"))->isVisible());
+}
+
+TEST_F(QueueDialogs, KeepThePanelInFrontFromPrinterToPrinterAndToTheNextOpening)
+{
+    addQueues();
+    const auto frontOf = [](const Visit &run) {
+        const PanelStack &panels = run.dialog().printDialog()->panels();
+        return panels.kind(panels.frontIndex());
+    };
+    {
+        const Visit run(Visit::once(), q("ink"), patientMemory());
+        ASSERT_TRUE(run.untilReady("ink"));
+        ASSERT_TRUE(run.until([&] { return run.dialog().picker().offered().size() == 3; }));
+        PanelStack &panels = run.dialog().printDialog()->panels();
+        panels.bringForward(panels.indexOf(q("summary")));
+        run.choose("printerPopUp", "toner");
+        ASSERT_TRUE(run.untilReady("toner"));
+        EXPECT_TEXT(frontOf(run), "summary");
+        run.button("cancelButton")->click();
+    }
+    const Visit run(Visit::once(), q("ink"), patientMemory());
+    ASSERT_TRUE(run.untilReady("ink"));
+    EXPECT_TEXT(frontOf(run), "summary");
+}
+
+TEST_F(QueueDialogs, ResetToWhatIsSavedForTheQueue)
+{
+    addQueues();
+    ASSERT_TRUE(QDir().mkpath(user.path("home/.cups")));
+    QFile saved(user.path("home/.cups/lpoptions"));
+    ASSERT_TRUE(saved.open(QIODevice::WriteOnly));
+    saved.write("Dest ink MediaType=IronOn\n");
+    saved.close();
+    const Visit run(Visit::once(), q("ink"));
+    ASSERT_TRUE(run.untilReady("ink"));
+    const auto isChanged = [&] {
+        return run.window().findChild<QWidget *>(q("presetChanged"))->isVisible();
+    };
+    EXPECT_FALSE(isChanged()) << "what the panels make of it belongs to it";
+    run.choose("ibPaperType", "Automatic");
+    EXPECT_TRUE(isChanged());
+    run.button("resetButton")->click();
+    EXPECT_SAME(run.printer().marked(q("MediaType")), q("IronOn"));
+    EXPECT_TEXT(run.popUp("presetPopUp")->currentText(), "Default Settings");
+    EXPECT_FALSE(isChanged());
 }
 
 TEST_F(QueueDialogs, DoNotCarryWhatAUserHasSavedForOneQueue)
