@@ -81,7 +81,6 @@ public:
           list_(new ChoiceList(option, popUp_))
     {
         // Its size does not ask for the width of every text.
-        popUp_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         popUp_->setMinimumContentsLength(
             std::clamp(longestText(option), kFewestCharacters, kMostCharacters));
         popUp_->setModel(list_);

@@ -11,6 +11,7 @@
 #include <QLabel>
 
 #include <algorithm>
+#include <utility>
 
 namespace dialog {
 namespace {
@@ -50,7 +51,6 @@ LayoutPanel::LayoutPanel(const platform::PrintSettings &settings, QWidget *paren
     makeFlip();
     form->addRow(QString(), flip_);
     form->addRow(flipReason_);
-    drawOrders();
     refresh();
 }
 
@@ -121,10 +121,18 @@ void LayoutPanel::refresh()
     flip_->setChecked(isFlipped(settings));
 }
 
+/// The pictures cost more than the rest of the panel, which many never open.
+void LayoutPanel::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (!std::exchange(hasDrawnOrders_, true))
+        drawOrders();
+}
+
 void LayoutPanel::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && !rows_.empty())
+    if (event->type() == QEvent::PaletteChange && hasDrawnOrders_)
         drawOrders();
 }
 

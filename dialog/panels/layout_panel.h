@@ -29,6 +29,7 @@ Q_SIGNALS:
     void settingsChanged(const dialog::SettingChanges &changes);
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
@@ -49,6 +50,7 @@ private:
     std::vector<Row> rows_;
     QCheckBox *flip_;
     QLabel *flipReason_;
+    bool hasDrawnOrders_ = false;
 };
 
 } // namespace dialog

@@ -3,6 +3,8 @@
 #include <QAbstractItemView>
 #include <QScreen>
 #include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QWheelEvent>
 
 namespace {
@@ -10,6 +12,11 @@ namespace {
 /// Bounds of the closed control, in average characters of its font.
 constexpr int shortestHint = 8;
 constexpr int longestHint = 32;
+/// QComboBox's own, the first in letters x, the others in pixels.
+constexpr int emptyHint = 7;
+constexpr int lowestLine = 14;
+constexpr int lineMargins = 2;
+constexpr int iconGap = 4;
 
 QSize atMostCharacters(QSize size, const QFontMetrics &metrics, int characters)
 {
@@ -22,17 +29,76 @@ QSize atMostCharacters(QSize size, const QFontMetrics &metrics, int characters)
 PopUpButton::PopUpButton(QWidget *parent) : QComboBox(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
-    setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    followModel();
+}
+
+void PopUpButton::setModel(QAbstractItemModel *model)
+{
+    if (model == this->model())
+        return;
+    this->model()->disconnect(this); // QComboBox does the same
+    QComboBox::setModel(model);
+    followModel();
+    forgetHint();
+}
+
+void PopUpButton::followModel()
+{
+    connect(model(), &QAbstractItemModel::rowsInserted, this, &PopUpButton::forgetHint);
+    connect(model(), &QAbstractItemModel::rowsRemoved, this, &PopUpButton::forgetHint);
+    connect(model(), &QAbstractItemModel::dataChanged, this, &PopUpButton::forgetHint);
+    connect(model(), &QAbstractItemModel::modelReset, this, &PopUpButton::forgetHint);
 }
 
 QSize PopUpButton::sizeHint() const
 {
-    return atMostCharacters(QComboBox::sizeHint(), fontMetrics(), longestHint);
+    if (!hint_.isValid()) {
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        hint_ = style()->sizeFromContents(QStyle::CT_ComboBox, &option, contentsSize(), this);
+    }
+    return atMostCharacters(hint_, fontMetrics(), longestHint);
 }
 
 QSize PopUpButton::minimumSizeHint() const
 {
-    return atMostCharacters(QComboBox::minimumSizeHint(), fontMetrics(), shortestHint);
+    return atMostCharacters(sizeHint(), fontMetrics(), shortestHint);
+}
+
+/// As QComboBox reckons: the widest item, no lower than a line.
+QSize PopUpButton::contentsSize() const
+{
+    const QFontMetrics metrics = fontMetrics();
+    QSize size(0, qMax(metrics.height(), lowestLine) + lineMargins);
+    if (minimumContentsLength() > 0)
+        size.setWidth(minimumContentsLength() * metrics.horizontalAdvance(u'X'));
+    else if (count() == 0)
+        size.setWidth(emptyHint * metrics.horizontalAdvance(u'x'));
+    else
+        for (int i = 0; i < count(); ++i)
+            size = size.expandedTo(itemSize(i));
+    return size;
+}
+
+QSize PopUpButton::itemSize(int index) const
+{
+    const int width = fontMetrics().boundingRect(itemText(index)).width();
+    if (itemIcon(index).isNull())
+        return {width, 0};
+    return {width + iconSize().width() + iconGap, iconSize().height() + lineMargins};
+}
+
+void PopUpButton::forgetHint()
+{
+    hint_ = {};
+    updateGeometry();
+}
+
+void PopUpButton::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        hint_ = {};
+    QComboBox::changeEvent(event);
 }
 
 void PopUpButton::showPopup()

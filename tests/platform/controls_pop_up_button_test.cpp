@@ -7,9 +7,11 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPixmap>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QStringListModel>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTest>
@@ -178,4 +180,105 @@ TEST_F(PopUpButtons, ShowItemsLiterally)
     literal.resize(200, 30);
     marked.resize(200, 30);
     EXPECT_NE(literal.grab().toImage(), marked.grab().toImage());
+}
+
+namespace {
+
+/// Changes a pop-up button and a combo box alike.
+using Change = void (*)(QComboBox &);
+
+struct SizeCase
+{
+    const char *name;
+    Change change;
+};
+void PrintTo(const SizeCase &sizeCase, std::ostream *out)
+{
+    *out << sizeCase.name;
+}
+
+QIcon smallIcon()
+{
+    QPixmap pixmap(16, 16);
+    pixmap.fill(Qt::red);
+    return pixmap;
+}
+
+// clang-format off
+const SizeCase kSizeCases[] = {
+    {"Empty",         [](QComboBox &box) { box.clear(); }},
+    {"Items",         [](QComboBox &) {}},
+    {"ItemAdded",     [](QComboBox &box) { box.addItem(q("Photo Paper, Glossy")); }},
+    {"ItemRemoved",   [](QComboBox &box) { box.removeItem(1); }},
+    {"ItemRenamed",   [](QComboBox &box) { box.setItemText(0, q("Heavyweight Paper")); }},
+    {"ItemWithIcon",  [](QComboBox &box) { box.setItemIcon(1, smallIcon()); }},
+    {"LargeIcons",    [](QComboBox &box) { box.setIconSize({48, 48});
+                                           box.setItemIcon(1, smallIcon()); }},
+    {"OtherFont",     [](QComboBox &box) { QFont font = box.font();
+                                           font.setPointSize(2 * font.pointSize());
+                                           box.setFont(font); }},
+};
+// clang-format on
+
+class PopUpButtonSizes : public testing::TestWithParam<SizeCase>
+{
+protected:
+    static void fill(QComboBox &box)
+    {
+        box.addItems({q("Plain"), q("Photo"), q("Env")});
+        static_cast<void>(box.sizeHint()); // is known when something changes
+    }
+};
+
+} // namespace
+
+TEST_P(PopUpButtonSizes, AreThoseOfAComboBoxThatFollowsItsItems)
+{
+    QComboBox box;
+    box.setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    PopUpButton popUp;
+    fill(box);
+    fill(popUp);
+    GetParam().change(box);
+    GetParam().change(popUp);
+    EXPECT_EQ(popUp.sizeHint(), box.sizeHint());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, PopUpButtonSizes, testing::ValuesIn(kSizeCases),
+                         [](const auto &sizeCase) { return std::string(sizeCase.param.name); });
+
+TEST(PopUpButtonSize, IsThatManyLettersWithAMinimumContentsLength)
+{
+    PopUpButton popUp;
+    popUp.setMinimumContentsLength(9);
+    const QSize before = popUp.sizeHint();
+    popUp.addItem(QString(60, u'W'));
+    EXPECT_EQ(popUp.sizeHint(), before);
+    EXPECT_GE(before.width(), 9 * popUp.fontMetrics().horizontalAdvance(u'X'));
+}
+
+TEST(PopUpButtonSize, FollowsAnotherModel)
+{
+    QStringListModel shorter({q("A")});
+    QStringListModel longer({q("Photo Paper")});
+    PopUpButton popUp;
+    popUp.setModel(&shorter);
+    const int width = popUp.sizeHint().width();
+    popUp.setModel(&longer);
+    EXPECT_GT(popUp.sizeHint().width(), width);
+    const int longWidth = popUp.sizeHint().width();
+    shorter.setStringList({QString(60, u'W')});
+    EXPECT_EQ(popUp.sizeHint().width(), longWidth);
+    longer.setStringList({q("A")});
+    EXPECT_EQ(popUp.sizeHint().width(), width);
+}
+
+TEST_F(PopUpButtons, MakeTheirListWhenItIsOpened)
+{
+    popUp->addItem(q("Label"));
+    popUp->setCurrentIndex(3);
+    EXPECT_TRUE(popUp->findChildren<QAbstractItemView *>().isEmpty());
+    popUp->showPopup();
+    EXPECT_FALSE(popUp->findChildren<QAbstractItemView *>().isEmpty());
+    popUp->hidePopup();
 }
