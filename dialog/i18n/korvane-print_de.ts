@@ -1282,6 +1282,10 @@
         <source>There is no preview for this kind of document. It can be printed all the same.</source>
         <translation>Für Dokumente dieser Art gibt es keine Vorschau. Gedruckt werden können sie trotzdem.</translation>
     </message>
+    <message>
+        <source>There is no preview of PDF documents: the part of this program that reads them is not installed. Install the program again to see it; the document can be printed as it is.</source>
+        <translation>Für PDF-Dokumente gibt es keine Vorschau: Der Teil dieses Programms, der sie liest, ist nicht installiert. Installieren Sie das Programm neu, um sie zu sehen; gedruckt werden kann das Dokument so, wie es ist.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintDialog</name>

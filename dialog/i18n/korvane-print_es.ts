@@ -1282,6 +1282,10 @@
         <source>There is no preview for this kind of document. It can be printed all the same.</source>
         <translation>No hay vista previa para este tipo de documento. Se puede imprimir de todos modos.</translation>
     </message>
+    <message>
+        <source>There is no preview of PDF documents: the part of this program that reads them is not installed. Install the program again to see it; the document can be printed as it is.</source>
+        <translation>No hay vista previa de documentos PDF: la parte de este programa que los lee no está instalada. Vuelva a instalar el programa para verla; el documento se puede imprimir tal como está.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintDialog</name>

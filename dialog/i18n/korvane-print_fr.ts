@@ -1282,6 +1282,10 @@
         <source>There is no preview for this kind of document. It can be printed all the same.</source>
         <translation>Il n’y a pas d’aperçu pour ce type de document. Il peut être imprimé quand même.</translation>
     </message>
+    <message>
+        <source>There is no preview of PDF documents: the part of this program that reads them is not installed. Install the program again to see it; the document can be printed as it is.</source>
+        <translation>Aucun aperçu des documents PDF : la partie de ce programme qui les lit n’est pas installée. Réinstallez le programme pour le voir ; le document peut être imprimé tel quel.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintDialog</name>

@@ -1282,6 +1282,10 @@
         <source>There is no preview for this kind of document. It can be printed all the same.</source>
         <translation>Non c’è anteprima per questo tipo di documento. Può comunque essere stampato.</translation>
     </message>
+    <message>
+        <source>There is no preview of PDF documents: the part of this program that reads them is not installed. Install the program again to see it; the document can be printed as it is.</source>
+        <translation>Non c’è anteprima dei documenti PDF: la parte di questo programma che li legge non è installata. Installare di nuovo il programma per vederla; il documento può essere stampato così com’è.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintDialog</name>

@@ -1278,6 +1278,10 @@
         <source>There is no preview for this kind of document. It can be printed all the same.</source>
         <translation>この種類の書類はプレビューできませんが、プリントはできます。</translation>
     </message>
+    <message>
+        <source>There is no preview of PDF documents: the part of this program that reads them is not installed. Install the program again to see it; the document can be printed as it is.</source>
+        <translation>PDF 書類のプレビューは表示できません。PDF を読み込む部分がインストールされていません。表示するにはプログラムをインストールし直してください。書類はこのまま印刷できます。</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintDialog</name>

@@ -1282,6 +1282,10 @@
         <source>There is no preview for this kind of document. It can be printed all the same.</source>
         <translation>Não há visualização para este tipo de documento. Mesmo assim ele pode ser impresso.</translation>
     </message>
+    <message>
+        <source>There is no preview of PDF documents: the part of this program that reads them is not installed. Install the program again to see it; the document can be printed as it is.</source>
+        <translation>Não há pré-visualização de documentos PDF: a parte deste programa que os lê não está instalada. Instale o programa novamente para a ver; o documento pode ser impresso tal como está.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintDialog</name>

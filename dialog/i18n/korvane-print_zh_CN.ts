@@ -1278,6 +1278,10 @@
         <source>There is no preview for this kind of document. It can be printed all the same.</source>
         <translation>此类文档没有预览，但仍可打印。</translation>
     </message>
+    <message>
+        <source>There is no preview of PDF documents: the part of this program that reads them is not installed. Install the program again to see it; the document can be printed as it is.</source>
+        <translation>无法预览 PDF 文档：本程序读取 PDF 的部分未安装。请重新安装程序以查看预览；文档可以照常打印。</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintDialog</name>

@@ -7,8 +7,6 @@
 #include <QFileInfo>
 #include <QImageReader>
 
-#include <cmath>
-
 namespace dialog {
 namespace {
 
@@ -16,16 +14,6 @@ namespace {
 constexpr qint64 kMarkWithin = 1024;
 
 } // namespace
-
-int quartersOf(const QTransform &transform)
-{
-    // Where the page's right edge points once it is not flipped.
-    const double right = transform.determinant() < 0 ? -transform.m11() : transform.m11();
-    const double down = transform.m12();
-    if (std::abs(right) > std::abs(down))
-        return right > 0 ? 0 : 2;
-    return down < 0 ? 1 : 3;
-}
 
 OpenedSource openPageSource(const QString &path)
 {

@@ -4,7 +4,6 @@
 #include <QRect>
 #include <QSizeF>
 #include <QString>
-#include <QTransform>
 
 #include <functional>
 #include <memory>
@@ -23,6 +22,7 @@ enum class DocumentProblem {
     NoPages,
     TooLarge,    ///< an image that would take too much memory
     UnknownKind, ///< printable perhaps, but nothing that can be shown
+    NoReader,    ///< a PDF, and what reads PDF is not installed
     Count
 };
 
@@ -60,9 +60,6 @@ struct OpenedSource
     std::unique_ptr<PageSource> source = {}; ///< null with a problem
     DocumentProblem problem = DocumentProblem::None;
 };
-
-/// By how many quarters to the left a transformation turns a page, apart from a flip after that.
-[[nodiscard]] int quartersOf(const QTransform &transform);
 
 /// By what the file contains, whatever its name.
 [[nodiscard]] OpenedSource openPageSource(const QString &path);

@@ -32,6 +32,8 @@ constexpr std::array kProblems{
         QT_TRANSLATE_NOOP("dialog::PreviewWords", "The picture is too large to be shown. Scale it down to see it here; it can be printed as it is.")},
     ProblemWords{DocumentProblem::UnknownKind,
         QT_TRANSLATE_NOOP("dialog::PreviewWords", "There is no preview for this kind of document. It can be printed all the same.")},
+    ProblemWords{DocumentProblem::NoReader,
+        QT_TRANSLATE_NOOP("dialog::PreviewWords", "There is no preview of PDF documents: the part of this program that reads them is not installed. Install the program again to see it; the document can be printed as it is.")},
 };
 // clang-format on
 

@@ -1,5 +1,7 @@
 #include "dialog/preview/side_painter.h"
 
+#include "dialog/preview/quarters.h"
+
 #include <QPainter>
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+#include "dialog/preview/pdf_source.h"
 #include "tests/preview/sample_documents.h"
 
 #include <QImage>
@@ -104,6 +105,15 @@ TEST_F(Source, OtherKindsHaveNoPreview)
 TEST_F(Source, ADamagedPdfIsSaidToBeDamaged)
 {
     EXPECT_EQ(problemOf(documents.file("%PDF-1.7\nnothing more")), DocumentProblem::Damaged);
+}
+
+TEST_F(Source, APdfWithoutWhatReadsItHasNoPreview)
+{
+    const QString pdf = documents.pdf(1);
+    EXPECT_EQ(openPdf(pdf, documents.path(QStringLiteral("absent.so"))).problem,
+              DocumentProblem::NoReader);
+    EXPECT_EQ(openPdf(pdf, documents.file("no library")).problem, DocumentProblem::NoReader);
+    EXPECT_TRUE(openPdf(pdf).source);
 }
 
 TEST_F(Source, ADamagedPictureIsSaidToBeDamaged)

@@ -7,6 +7,7 @@
 #include "tests/support/user.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QLabel>
 
 #include <gmock/gmock.h>
@@ -31,6 +32,8 @@ protected:
                              panel->refresh();
                          });
         panel->show();
+        QCoreApplication::sendPostedEvents(); // the pictures of orders come with the panel
+        panel->adjustSize();
     }
     /// As the dialog does it.
     void set(const SettingChange &change)
