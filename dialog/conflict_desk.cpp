@@ -53,7 +53,11 @@ ConflictDesk::ConflictDesk(PpdDocument &printer, DialogHost &host, UndoHistory &
 {
     connect(&host, &DialogHost::actionBegan, this, &ConflictDesk::beginAction);
     connect(&host, &DialogHost::judged, this, &ConflictDesk::take);
+    connect(&host, &DialogHost::chosen, this, &ConflictDesk::followControl);
+    connect(&host, &DialogHost::stateReplaced, this, &ConflictDesk::beginAction);
     connect(&host, &DialogHost::stateChanged, this, &ConflictDesk::followState);
+    connect(&platform::ModalSessions::shared(), &platform::ModalSessions::closed, this,
+            &ConflictDesk::leaveToPanel);
 }
 
 void ConflictDesk::setSheet(ConflictSheet *sheet)
@@ -66,8 +70,10 @@ void ConflictDesk::setSheet(ConflictSheet *sheet)
 /// What an earlier action was refused is told, and past, once a person tries something else.
 void ConflictDesk::beginAction()
 {
-    wanted_.reset();
-    refused_ = QString();
+    forget();
+    refusals_.clear();
+    used_.clear();
+    told_.clear();
     if (sheet_)
         sheet_->withdraw();
     Q_EMIT dismissed(kOfferGroup);
@@ -78,20 +84,74 @@ void ConflictDesk::take(const OfferOutcome &outcome)
     const Choice &offered = outcome.offered;
     const bool conflicts = outcome.verdict == OfferVerdict::Conflicts;
     offered_.emplace(offered.option, offered.choice);
-    if (conflicts && outcome.by == OfferedBy::Person && sheet_) {
-        wanted_ = offered;
-        QMetaObject::invokeMethod(this, &ConflictDesk::askWhenPossible, Qt::QueuedConnection);
-    } else if (conflicts) {
-        refused_ = offered.option;
-        Q_EMIT noticed({kOfferGroup + offered.option,
-                        Severity::Warning,
-                        forbiddenWords(printer_, offered, outcome.inTheWay),
-                        {}});
+    if (conflicts) {
+        takeRefusal(outcome);
     } else if (outcome.verdict == OfferVerdict::Refused) {
-        refused_ = offered.option;
+        told_.insert(offered.option);
         Q_EMIT noticed(
             {kOfferGroup + offered.option, Severity::Warning, refusedWords(printer_, offered), {}});
     }
+}
+
+/// The first offer of an action passes for the person's own until the control is known.
+void ConflictDesk::takeRefusal(const OfferOutcome &outcome)
+{
+    refusals_.push_back(outcome);
+    if (outcome.by == OfferedBy::Person && sheet_)
+        want(outcome);
+    else
+        tellRefusal(outcome);
+}
+
+void ConflictDesk::want(const OfferOutcome &refusal)
+{
+    wanted_ = refusal.offered;
+    had_ = marksOf(printer_.marks(), wanted_->option);
+    if (told_.erase(wanted_->option) > 0)
+        Q_EMIT dismissed(kOfferGroup + wanted_->option);
+    QMetaObject::invokeMethod(this, &ConflictDesk::askWhenPossible, Qt::QueuedConnection);
+}
+
+void ConflictDesk::tellRefusal(const OfferOutcome &refusal)
+{
+    const Choice &offered = refusal.offered;
+    told_.insert(offered.option);
+    Q_EMIT noticed({kOfferGroup + offered.option,
+                    Severity::Warning,
+                    forbiddenWords(printer_, offered, refusal.inTheWay),
+                    {}});
+}
+
+/// The sheet is about what a person chose, not about what a rule made of it: that is told. One
+/// control may stand for several options.
+void ConflictDesk::followControl(const Choice &choice)
+{
+    used_.push_back(choice);
+    const bool isOwn = wanted_ && std::find(used_.begin(), used_.end(), *wanted_) != used_.end();
+    if (!sheet_ || isOwn)
+        return;
+    const auto refusalOf = [&](const Choice &offered) {
+        return std::find_if(refusals_.begin(), refusals_.end(), [&](const OfferOutcome &refusal) {
+            return refusal.offered == offered;
+        });
+    };
+    if (const std::optional<Choice> rules = std::exchange(wanted_, std::nullopt))
+        tellRefusal(*refusalOf(*rules));
+    if (const auto own = refusalOf(choice); own != refusals_.end())
+        want(*own);
+}
+
+/// A panel that has asked a person itself may hold what was refused, and hand it over later.
+void ConflictDesk::leaveToPanel()
+{
+    for (const OfferOutcome &refusal : refusals_)
+        offered_.erase({refusal.offered.option, refusal.offered.choice});
+}
+
+void ConflictDesk::forget()
+{
+    wanted_.reset();
+    host_.setUnanswered(std::nullopt);
 }
 
 /// Not before a modal window of the action has been closed: what it asks may settle the matter.
@@ -107,14 +167,14 @@ void ConflictDesk::askWhenPossible()
 
 bool ConflictDesk::isWanting() const
 {
-    return wanted_ && sheet_ && !printer_.conflictsWith(*wanted_).empty() &&
-           !printer_.allMarked(wanted_->option).contains(wanted_->choice, Qt::CaseInsensitive);
+    return wanted_ && sheet_ && !printer_.conflictsWith(*wanted_).empty();
 }
 
 void ConflictDesk::ask()
 {
     if (!isWanting()) {
-        wanted_.reset();
+        if (wanted_)
+            beginAction();
         return;
     }
     question_ = resolutionQuestion(printer_, *wanted_);
@@ -126,6 +186,7 @@ void ConflictDesk::ask()
     words.advice = isBuiltIn(question_.groups, inTheWay)
                        ? tr("What is installed in the printer is set by whoever administers it.")
                        : tr("No change of a few other settings makes it possible.");
+    host_.setUnanswered(wanted_);
     sheet_->ask(words);
     showDifferences();
     Q_EMIT asked(words.problem);
@@ -143,25 +204,37 @@ void ConflictDesk::followState()
     showDifferences();
 }
 
+/// Nothing but what the sheet listed: when something else has been set in between, it asks again.
 void ConflictDesk::change(int way)
 {
-    const Resolution &changes = ways_.at(static_cast<std::size_t>(way));
-    wanted_.reset();
-    history_.change(namedChoice(printer_, question_.wanted),
-                    [&] { host_.setState(stateWith(host_.state(), question_, changes)); });
+    const Resolution changes = ways_.at(static_cast<std::size_t>(way));
+    const ResolutionQuestion now = resolutionQuestion(printer_, question_.wanted);
+    const std::vector<Resolution> ways = findResolutions(now);
+    if (std::find(ways.begin(), ways.end(), changes) == ways.end()) {
+        ask();
+        return;
+    }
+    forget();
+    history_.change(namedChoice(printer_, now.wanted),
+                    [&] { host_.setState(stateWith(host_.state(), now, changes)); });
 }
 
-/// A panel may show the refused choice still.
+/// A panel may show the refused choice still, and a job that was about to be made may have marked
+/// it.
 void ConflictDesk::keep()
 {
-    const Choice wanted = *std::exchange(wanted_, std::nullopt);
-    ChoiceState state = host_.state();
-    const auto chosen = state.chosen.find(wanted.option);
-    const QString marked = joinedChoices(state.marks, wanted.option);
-    if (chosen == state.chosen.end() || chosen->second == marked)
+    if (!wanted_)
         return;
-    chosen->second = marked;
-    host_.setState(state);
+    const QString option = wanted_->option;
+    const ChoiceState before = host_.state();
+    ChoiceState state = before;
+    std::erase_if(state.marks, [&](const Choice &mark) { return mark.option == option; });
+    state.marks.insert(state.marks.end(), had_.begin(), had_.end());
+    if (state.chosen.contains(option))
+        state.chosen[option] = joinedChoices(had_, option);
+    forget();
+    if (state.chosen != before.chosen || marksOf(before.marks, option) != had_)
+        host_.setState(state);
 }
 
 /// What a panel holds until it is saved has not been offered, and is no difference so far.
@@ -177,18 +250,26 @@ void ConflictDesk::rememberStanding()
 /// Whether the sheet or a notice is about the option anyway.
 bool ConflictDesk::isToldOf(const QString &option) const
 {
-    return option == refused_ || (wanted_ && option == wanted_->option);
+    return told_.contains(option) || (wanted_ && option == wanted_->option);
+}
+
+/// What the notice says.
+std::vector<Difference> ConflictDesk::standing() const
+{
+    std::vector<Difference> differences = host_.ledger().differences(printer_.marks());
+    std::erase_if(differences, [this](const Difference &difference) {
+        return isToldOf(difference.option) ||
+               !offered_.contains({difference.option, difference.chosen});
+    });
+    return differences;
 }
 
 void ConflictDesk::showDifferences()
 {
     rememberStanding();
     QStringList lines;
-    for (const Difference &difference : host_.ledger().differences(printer_.marks())) {
-        if (!isToldOf(difference.option) &&
-            offered_.contains({difference.option, difference.chosen}))
-            lines.append(standingDifferenceWords(printer_, difference));
-    }
+    for (const Difference &difference : standing())
+        lines.append(standingDifferenceWords(printer_, difference));
     const QString text = lines.join(u'\n');
     if (std::exchange(differences_, text) == text)
         return;
@@ -202,10 +283,11 @@ void ConflictDesk::showDifferences()
                           [this] { acceptDifferences(); }}}});
 }
 
+/// What the notice has not said stays a difference.
 void ConflictDesk::acceptDifferences()
 {
     ChoiceState state = host_.state();
-    for (const Difference &difference : host_.ledger().differences(state.marks)) {
+    for (const Difference &difference : standing()) {
         if (difference.marked.isNull())
             state.chosen.erase(difference.option);
         else

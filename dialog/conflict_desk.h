@@ -43,6 +43,12 @@ Q_SIGNALS:
 private:
     void beginAction();
     void take(const OfferOutcome &outcome);
+    void takeRefusal(const OfferOutcome &outcome);
+    void want(const OfferOutcome &refusal);
+    void tellRefusal(const OfferOutcome &refusal);
+    void followControl(const Choice &choice);
+    void leaveToPanel();
+    void forget();
     void askWhenPossible();
     void ask();
     [[nodiscard]] bool isWanting() const;
@@ -50,6 +56,7 @@ private:
     void change(int way);
     void keep();
     [[nodiscard]] bool isToldOf(const QString &option) const;
+    [[nodiscard]] std::vector<Difference> standing() const;
     void rememberStanding();
     void showDifferences();
     void acceptDifferences();
@@ -58,9 +65,12 @@ private:
     DialogHost &host_;
     UndoHistory &history_;
     QPointer<ConflictSheet> sheet_;
-    std::optional<Choice> wanted_; ///< what the sheet is about, or will be
-    QString refused_;              ///< the option that a notice of this action is about
-    ResolutionQuestion question_;  ///< what the sheet shows the answers to
+    std::optional<Choice> wanted_;       ///< what the sheet is about, or will be
+    Choices had_;                        ///< marks of its option before
+    std::vector<OfferOutcome> refusals_; ///< conflicts of this action, in their order
+    Choices used_;                       ///< of this action's control, once it is known
+    std::set<QString> told_;             ///< options that notices of this action are about
+    ResolutionQuestion question_;        ///< what the sheet shows the answers to
     std::vector<Resolution> ways_;
     std::set<std::pair<QString, QString>> offered_; ///< options with what was offered or marked
     QString differences_;                           ///< what the notice about them says

@@ -110,6 +110,7 @@ void DialogHost::recordPersonsChoice(const Choice &choice)
     openAction();
     ledger_.recordAction(asChosen(choice));
     announceChange();
+    Q_EMIT chosen(choice);
 }
 
 /// An action lasts until the event loop is reached again, a modal window's loop included.
@@ -162,7 +163,22 @@ CommitResult DialogHost::commitPanels()
     for (const auto &panel : panels)
         callPanel(panel.get(), [](PDEPanel &saved) { saved.saveValuesAndReturnError(nullptr); });
     followPageSize();
-    return {printer_.conflicts(), ledger_.differences(printer_.marks())};
+    return {printer_.conflicts(), differences()};
+}
+
+std::vector<Difference> DialogHost::differences() const
+{
+    const Choices marks = printer_.marks();
+    std::vector<Difference> found = ledger_.differences(marks);
+    const auto isKnown = [&](const Difference &known) {
+        return isSameOption(known.option, unanswered_->option);
+    };
+    if (!unanswered_ || std::any_of(found.begin(), found.end(), isKnown) ||
+        printer_.allMarked(unanswered_->option).contains(unanswered_->choice, Qt::CaseInsensitive))
+        return found;
+    found.push_back(
+        {unanswered_->option, unanswered_->choice, joinedChoices(marks, unanswered_->option)});
+    return found;
 }
 
 void DialogHost::takeMarksAsChosen()

@@ -75,6 +75,9 @@ public:
     /// The same of an option where several choices can stand: switches one of them on or off. Of
     /// any other option, On chooses.
     OfferOutcome switchChoice(const Choice &choice, Switch to);
+    /// What a person wants and has been asked about, so far without an answer: a job that is made
+    /// meanwhile differs from it. None: nothing.
+    void setUnanswered(const std::optional<Choice> &wanted) { unanswered_ = wanted; }
     /// A person's print setting, and what is kept in step with it; an invalid value removes it.
     void setSetting(const QString &key, const QVariant &value);
     [[nodiscard]] ChoiceState state() const;
@@ -102,6 +105,8 @@ Q_SIGNALS:
     void answered(const dialog::Choice &choice, bool accepted);
     /// Offers outside a commit, in more detail.
     void judged(const dialog::OfferOutcome &outcome);
+    /// What a person chose with a control of a panel, after the offers that it led to.
+    void chosen(const dialog::Choice &choice);
     void panelResized();
     /// Everything was set at once; what a person was about to type is past.
     void stateReplaced();
@@ -122,6 +127,7 @@ private:
     [[nodiscard]] bool commit(const Choice &offered);
     [[nodiscard]] OfferedBy recordPersonsOffer(const OfferOutcome &outcome);
     [[nodiscard]] Choice asChosen(const Choice &choice) const;
+    [[nodiscard]] std::vector<Difference> differences() const;
     void openAction();
     void accept(const Choice &offered);
     void queueChange(const Change &change);
@@ -145,6 +151,7 @@ private:
     std::vector<Change> changes_;
     std::map<QString, std::optional<int>> refusals_;
     ChoiceLedger ledger_;
+    std::optional<Choice> unanswered_;
 };
 
 } // namespace dialog

@@ -28,14 +28,6 @@ std::map<QString, Value> withChange(std::map<QString, Value> now,
     return now;
 }
 
-Choices marksOf(const Choices &marks, const QString &option)
-{
-    Choices ofOption;
-    std::copy_if(marks.begin(), marks.end(), std::back_inserter(ofOption),
-                 [&](const Choice &mark) { return mark.option == option; });
-    return ofOption;
-}
-
 Choices withChange(const Choices &now, const Choices &from, const Choices &to)
 {
     std::set<QString> options;

@@ -147,10 +147,12 @@ void FeaturesPanel::addRow(const PrinterOption &option, GroupKind kind, QGridLay
     row.marker->setObjectName(QStringLiteral("changed:") + option.keyword);
     grid.addWidget(row.marker, line, MarkerColumn, Qt::AlignTop);
     grid.addWidget(control, line, ControlColumn);
+    const int height = control->buddy()->sizeHint().height(); // text beside text
+    row.marker->setMinimumHeight(height);
     if (!control->bearsTitle()) {
         row.label = plainLabel(literalText(option.text));
         row.label->setBuddy(control->buddy());
-        row.label->setMinimumHeight(control->buddy()->sizeHint().height()); // text beside text
+        row.label->setMinimumHeight(height);
         grid.addWidget(row.label, line, LabelColumn, Qt::AlignTop);
     }
     control->setEnabled(kind == GroupKind::Usual);

@@ -21,6 +21,9 @@ using Choices = std::vector<Choice>;
 /// commas; null when nothing is.
 [[nodiscard]] QString joinedChoices(const Choices &marks, const QString &option);
 
+/// The marks of one option, in their order.
+[[nodiscard]] Choices marksOf(const Choices &marks, const QString &option);
+
 /// Two marked choices that a constraint of the PPD forbids together.
 struct Conflict
 {
