@@ -9,7 +9,7 @@
 #include "dialog/preview/preview_pane.h"
 #include "dialog/printers/errand.h"
 #include "dialog/printers/ppd_cache.h"
-#include "dialog/printers/standard_options.h"
+#include "dialog/settings/printer_lists.h"
 #include "dialog/texts.h"
 #include "dialog/window/conflict_sheet.h"
 #include "dialog/window/help_window.h"
@@ -77,13 +77,6 @@ void openQueueLater(QObject *scope, const PrintCase &printCase, std::function<vo
 
 const QString kUndoKey = QStringLiteral("undo");
 const QString kHelpKey = QStringLiteral("help");
-
-/// Options of the PPD that the window's own sections show.
-QStringList shownElsewhere(const PpdDocument &printer)
-{
-    return {QStringLiteral("PageSize"), QStringLiteral("PageRegion"),
-            counterpartOf(QStringLiteral("sides"), standardCounterparts(printer))};
-}
 
 } // namespace
 
@@ -292,7 +285,7 @@ void PrintDialog::buildPanels()
     connect(layout, &LayoutPanel::settingsChanged, this, &PrintDialog::setSettings);
     std::vector<OwnPanel *> following;
     auto features = std::make_unique<FeaturesPanel>(
-        *printer_, host_, panels_.claimedOptions() + shownElsewhere(*printer_));
+        *printer_, host_, panels_.claimedOptions() + optionsOfTheWindow(*printer_));
     if (!features->isEmpty())
         following.push_back(features.release());
     following.push_back(makeSummary());

@@ -17,6 +17,20 @@ const QString kSides = QStringLiteral("sides");
 const QString kCustomSize = QStringLiteral("Custom");
 
 // clang-format off
+/// Print settings of the window's own, and what it shows without them; null: whatever is marked.
+struct OwnSetting
+{
+    const char *key;
+    const char *unset;
+};
+constexpr OwnSetting kOwnSettings[] = {
+    {"sides",                      nullptr},
+    {"multiple-document-handling", nullptr}, // several copies always say it
+    {"outputorder",                "normal"},
+    {"orientation-requested",      "3"},
+    {"mirror",                     nullptr},
+};
+
 constexpr JobListItem kPapers[] = {
     {nullptr,                     QT_TRANSLATE_NOOP("PrinterLists", "As the printer is set")},
     {"iso_a4_210x297mm",          QT_TRANSLATE_NOOP("PrinterLists", "A4")},
@@ -125,6 +139,22 @@ PrinterList sidesList(const PpdDocument &printer, const PrintSettingsMap &settin
 {
     return printer.options().isEmpty() ? standardList(kSides, kSidesOfPaper, settings)
                                        : listOf(printer, kSides, {}, settings);
+}
+
+QStringList optionsOfTheWindow(const PpdDocument &printer)
+{
+    const OptionChoices counterparts = standardCounterparts(printer);
+    QStringList options{QStringLiteral("PageSize"), QStringLiteral("PageRegion")};
+    for (const OwnSetting &own : kOwnSettings) {
+        const QString key = QLatin1String(own.key);
+        const QString option = counterpartOf(key, counterparts);
+        if (option.isNull())
+            continue;
+        const JobOptions marked{{option, printer.marked(option)}};
+        if (!own.unset || meaningOf(key, QLatin1String(own.unset), counterparts).said == marked)
+            options.append(option);
+    }
+    return options;
 }
 
 } // namespace dialog

@@ -34,4 +34,8 @@ struct PrinterList
 /// Empty where the printer cannot print on both sides.
 [[nodiscard]] PrinterList sidesList(const PpdDocument &printer, const PrintSettingsMap &settings);
 
+/// Options of the PPD that the window's own sections set, so that no other control need. One that
+/// is marked otherwise than its section shows without a print setting is none of them.
+[[nodiscard]] QStringList optionsOfTheWindow(const PpdDocument &printer);
+
 } // namespace dialog

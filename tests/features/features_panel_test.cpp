@@ -2,13 +2,17 @@
 
 #include "dialog/host/dialog_host.h"
 #include "dialog/panels/choice_list.h"
+#include "dialog/panels/feature_control.h"
 #include "dialog/printers/ppd_document.h"
+#include "tests/support/ppd_fixtures.h"
 #include "tests/support/print_to.h"
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -132,6 +136,54 @@ TEST_F(FeaturesPanelTest, SwitchesSeveralChoicesOfOneOption)
     EXPECT_FALSE(control<QCheckBox>("feature:Holes=Left")->isChecked());
     control<QCheckBox>("feature:Holes=Top")->click();
     EXPECT_EQ(printer->allMarked(q("Holes")), QStringList{q("None")});
+}
+
+TEST_F(FeaturesPanelTest, ShowsAmpersandsOfThePrinter)
+{
+    EXPECT_TEXT(literalText(q("Cut & Fold")), "Cut && Fold");
+}
+
+/// A printer with many options.
+std::unique_ptr<PpdDocument> large(int options, int choices)
+{
+    test::PpdText ppd = test::p1();
+    for (int i = 0; i < options; ++i) {
+        const QByteArray keyword = "Extra" + QByteArray::number(i);
+        test::PpdOption option{keyword, keyword, test::PpdUi::PickOne, {}, "C0"};
+        for (int c = 0; c < choices; ++c)
+            option.choices.push_back(
+                {"C" + QByteArray::number(c), "Choice " + QByteArray::number(c)});
+        ppd.add(option);
+    }
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(q("large.ppd")));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(ppd.bytes());
+    file.close();
+    PpdDocument::Opened opened = PpdDocument::open(file.fileName());
+    return std::move(std::get<std::unique_ptr<PpdDocument>>(opened));
+}
+
+/// What the panel is made of once it is shown.
+qsizetype objectsOf(int options, int choices)
+{
+    const auto printer = large(options, choices);
+    DialogHost host(*printer);
+    FeaturesPanel panel(*printer, host, {});
+    EXPECT_TRUE(panel.findChildren<QObject *>().isEmpty());
+    panel.refresh();
+    panel.refresh();
+    EXPECT_GE(panel.findChildren<QComboBox *>().size(), options);
+    return panel.findChildren<QObject *>().size();
+}
+
+TEST(LargeFeaturesPanel, IsMadeOfFewPartsHoweverManyChoicesThereAre)
+{
+    constexpr int kOptions = 200;
+    constexpr qsizetype kMostPerOption = 12;
+    const qsizetype few = objectsOf(kOptions, 2);
+    EXPECT_EQ(objectsOf(kOptions, 50), few) << "choices are no objects";
+    EXPECT_LE(few - objectsOf(0, 0), kOptions * kMostPerOption);
 }
 
 } // namespace

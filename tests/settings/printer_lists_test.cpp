@@ -99,4 +99,32 @@ TEST_F(PrinterLists, AreStandardSettingsForAPrinterWithoutAPpd)
     EXPECT_SAME(currentTitle(sidesList(*printer, {{q("sides"), q("folded")}})), q("folded"));
 }
 
+/// Adds an option with two choices, the first the default.
+void addTwo(test::PpdText &ppd, const char *option, const char *one, const char *other)
+{
+    ppd.add({option, option, test::PpdUi::PickOne, {{one, one}, {other, other}}, one});
+}
+
+TEST_F(PrinterLists, NameEveryOptionThatTheWindowSets)
+{
+    test::PpdText ppd = duplexPrinter();
+    addTwo(ppd, "Collate", "False", "True");
+    addTwo(ppd, "OutputOrder", "Normal", "Reverse");
+    addTwo(ppd, "Orientation", "Portrait", "Landscape");
+    addTwo(ppd, "Glue", "Off", "On");
+    const QStringList expected{q("PageSize"), q("PageRegion"),  q("Duplex"),
+                               q("Collate"),  q("OutputOrder"), q("Orientation")};
+    EXPECT_EQ(optionsOfTheWindow(*open(ppd)), expected);
+}
+
+TEST_F(PrinterLists, LeaveToThePrintersFeaturesWhatTheWindowWouldShowWrong)
+{
+    test::PpdText ppd = test::p1();
+    addTwo(ppd, "OutputOrder", "Reverse", "Normal");
+    const auto printer = open(ppd);
+    EXPECT_FALSE(optionsOfTheWindow(*printer).contains(q("OutputOrder")));
+    printer->mark({q("OutputOrder"), q("Normal")});
+    EXPECT_TRUE(optionsOfTheWindow(*printer).contains(q("OutputOrder")));
+}
+
 } // namespace

@@ -9,6 +9,7 @@
 #include "tests/support/layout_check.h"
 #include "tests/support/print_to.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
@@ -36,6 +37,12 @@ protected:
                  test::PpdUi::PickOne,
                  {{"None", "Off"}, {"DuplexNoTumble", "Book"}},
                  "None"});
+        for (const char *option : {"Collate", "Glue"})
+            ppd.add({option,
+                     option,
+                     test::PpdUi::PickOne,
+                     {{"False", "No"}, {"True", "Yes"}},
+                     "False"});
         ppd.withLine("*UIConstraints: *Duplex DuplexNoTumble *PageSize EnvelopeDL");
         PrintCase printCase;
         printCase.ppd = driver.write(q("two-sided.ppd"), ppd.bytes());
@@ -164,6 +171,27 @@ TEST_F(WindowSettings, KeepThePanelsInStepWithPagesPerSheet)
     QCoreApplication::processEvents();
     EXPECT_FALSE(dialog->host().settings().all().contains(columnsKey()));
     EXPECT_EQ(control<PopUpButton>("pagesPerSheet")->currentIndex(), 0);
+}
+
+TEST_F(WindowSettings, AreNoFeaturesOfThePrinterBesides)
+{
+    dialog->panels().bringForward(dialog->panels().indexOf(q("features")));
+    EXPECT_TRUE(control<QWidget>("feature:Glue"));
+    for (const char *option : {"feature:PageSize", "feature:Duplex", "feature:Collate"})
+        EXPECT_FALSE(control<QWidget>(option)) << option;
+}
+
+TEST_F(WindowSettings, AreToldByTheSummaryWhereThePrinterHasThemMarked)
+{
+    dialog->printer().mark({q("Collate"), q("True")});
+    dialog->panels().bringForward(dialog->panels().count() - 1);
+    QStringList read;
+    const auto *rows = QAccessible::queryAccessibleInterface(control<QWidget>("summaryRows"));
+    for (int cell = 0; cell < rows->childCount(); ++cell)
+        read.append(rows->child(cell)->text(QAccessible::Name));
+    const qsizetype collate = read.indexOf(q("Collate"));
+    ASSERT_GE(collate, 0) << read.join(u'|').toStdString();
+    EXPECT_TRUE(read.value(collate + 1).startsWith(q("Yes"))) << read[collate + 1].toStdString();
 }
 
 TEST_F(WindowSettings, LookRightInTheWindow)
