@@ -13,11 +13,15 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace dialog {
 namespace {
 
 constexpr int kRefreshMilliseconds = 20;
+
+// A window that nobody sees is not painted.
+constexpr int kOpenAtLatestMilliseconds = 100;
 
 // As large as on paper is 1.
 constexpr std::array kZooms{0.1,  0.15, 0.2,  0.25, 0.33, 0.5, 0.67,
@@ -88,6 +92,8 @@ PreviewPane::PreviewPane(PreviewDocument::Opener opener, QWidget *parent)
     refreshing_.setSingleShot(true);
     refreshing_.setInterval(kRefreshMilliseconds);
     connect(&refreshing_, &QTimer::timeout, this, &PreviewPane::refresh);
+    opening_.setSingleShot(true);
+    connect(&opening_, &QTimer::timeout, this, [this] { document_.open(path_); });
     connect(&document_, &PreviewDocument::opened, this, &PreviewPane::takeFacts);
     connect(&document_, &PreviewDocument::drawn, this, &PreviewPane::takePicture);
     connect(view_, &SheetView::turned, this, [this](int sides) { showIndex(index_ + sides); });
@@ -176,15 +182,18 @@ void PreviewPane::changeEvent(QEvent *event)
 
 void PreviewPane::setDocument(const QString &path)
 {
+    opening_.stop();
     path_ = path;
     facts_ = {};
     sides_.clear();
     index_ = 0;
     isOpening_ = !path.isNull();
-    if (isOpening_)
+    if (!isOpening_)
+        takeFacts({});
+    else if (wasPainted_)
         document_.open(path);
     else
-        takeFacts({});
+        opening_.start(kOpenAtLatestMilliseconds);
     refreshSoon();
 }
 
@@ -249,6 +258,14 @@ void PreviewPane::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     refreshSoon();
+}
+
+/// A window comes up sooner when what reads its document starts after that.
+void PreviewPane::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+    if (!std::exchange(wasPainted_, true) && opening_.isActive())
+        opening_.start(0);
 }
 
 /// Nobody looks at a pane that is hidden; it draws as soon as it is shown.

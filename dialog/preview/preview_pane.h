@@ -47,6 +47,7 @@ Q_SIGNALS:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
@@ -75,6 +76,8 @@ private:
     int index_ = 0;
     bool isOpening_ = false;
     bool isWaiting_ = false;
+    bool wasPainted_ = false;
+    QTimer opening_;    ///< of the first document, until the pane has been painted
     QTimer refreshing_; ///< several changes make one request
 
     SheetView *view_;
