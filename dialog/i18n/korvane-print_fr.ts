@@ -1284,7 +1284,7 @@
     </message>
     <message>
         <source>There is no preview of PDF documents: the part of this program that reads them is not installed. Install the program again to see it; the document can be printed as it is.</source>
-        <translation>Aucun aperçu des documents PDF : la partie de ce programme qui les lit n’est pas installée. Réinstallez le programme pour le voir ; le document peut être imprimé tel quel.</translation>
+        <translation>Aucun aperçu des documents PDF : la partie de ce programme qui les lit n’est pas installée. Réinstallez le programme pour le voir ; le document peut être imprimé tel quel.</translation>
     </message>
 </context>
 <context>
