@@ -43,6 +43,7 @@ public:
     WayRow(const QString &text, QWidget *parent) : QWidget(parent), radio_(new QRadioButton(this))
     {
         radio_->setAccessibleName(text);
+        radio_->setMinimumHeight(fontMetrics().lineSpacing()); // beside the first line
         auto *row = new QHBoxLayout(this);
         row->setContentsMargins({});
         row->addWidget(radio_, 0, Qt::AlignTop);
@@ -69,8 +70,6 @@ ConflictSheet::ConflictSheet(QWidget *parent)
     problem_->setObjectName(QStringLiteral("conflictProblem"));
     advice_->setObjectName(QStringLiteral("conflictAdvice"));
     setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::Base);
     QFont bold = font();
     bold.setBold(true);
     problem_->setFont(bold);

@@ -27,8 +27,6 @@ SignInPrompt::SignInPrompt(const SignInQuestion &question, const QString &queue,
 {
     setObjectName(QStringLiteral("signInPrompt"));
     setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::Base);
     auto *words = new QLabel(wordsFor(question, queue), this);
     words->setObjectName(QStringLiteral("signInWords"));
     words->setTextFormat(Qt::PlainText);

@@ -1,3 +1,4 @@
+#include "dialog/replay/input.h"
 #include "dialog/window/conflict_sheet.h"
 #include "dialog/window/notice_area.h"
 #include "dialog/window/print_window.h"
@@ -183,6 +184,27 @@ TEST_F(ConflictKeys, PressTheButtonThatHasTheFocus)
     open(Part::Conflict);
     press("keepChoice", Qt::Key_Return);
     EXPECT_TEXT(marked("MediaType"), "Automatic") << "not the change";
+}
+
+TEST_F(ConflictKeys, AreNoneAnyMoreOnceThePrinterIsAnother)
+{
+    const Scene &scene = open(Part::Printers);
+    dialog::PrintWindow &window = scene.window();
+    const auto refuse = [&scene] {
+        scene.printDialog().host().changeFromElsewhere({q("PrintQuality"), q("Draft")});
+        static_cast<void>(scene.printDialog().host().choose({q("MediaType"), q("Transparency")}));
+        settle();
+    };
+    refuse();
+    ASSERT_TRUE(window.conflictSheet().isAsking());
+    QSignalSpy ready(scene.queues(), &dialog::QueueDialog::ready);
+    EXPECT_NULL(dialog::replay::input::choose(control<QComboBox>("printerPopUp"), 1));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return ready.count() == 1; }));
+    EXPECT_FALSE(window.conflictSheet().isAsking());
+    refuse();
+    ASSERT_TRUE(window.conflictSheet().isAsking());
+    press("resolution0", Qt::Key_Return);
+    EXPECT_TEXT(marked("MediaType"), "Transparency") << "one answer, to the new printer";
 }
 
 using PresetKeys = PartInEnglish;

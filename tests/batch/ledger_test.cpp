@@ -97,6 +97,16 @@ TEST_F(PersonsChoices, AThresholdThatIsTypedAndNeverHandedOverIsTold)
     EXPECT_EQ(dialog_->commit().differences, expected);
 }
 
+TEST_F(PersonsChoices, AreStillToldWhenAllIsSetAtOnceAndThePanelLooksAnew)
+{
+    open("Korvane-T500.ppd");
+    choose(0, {q("ColorOutput"), q("Mono")});
+    choose(0, {q("Threshold"), q("5")}, q("ibThresholdTextFeild"));
+    dialog_->host().setState(dialog_->host().state()); // as a way out of a conflict does
+    const std::vector<Difference> expected{{q("Threshold"), q("5"), q("3")}};
+    EXPECT_EQ(dialog_->commit().differences, expected);
+}
+
 TEST_F(PersonsChoices, OfAStepperAreWhereItEnds)
 {
     open("Korvane-T500.ppd");

@@ -36,6 +36,8 @@ public:
     [[nodiscard]] dialog::PrintWindow &window() const;
     /// The printer's dialog.
     [[nodiscard]] dialog::PrintDialog &printDialog() const;
+    /// The window's where printers are picked, of Part::Printers; null for the others.
+    [[nodiscard]] dialog::QueueDialog *queues() const { return queues_.get(); }
     template <class Control>
     [[nodiscard]] Control *control(const char *name) const
     {
