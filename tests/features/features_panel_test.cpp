@@ -180,7 +180,7 @@ qsizetype objectsOf(int options, int choices)
 TEST(LargeFeaturesPanel, IsMadeOfFewPartsHoweverManyChoicesThereAre)
 {
     constexpr int kOptions = 200;
-    constexpr qsizetype kMostPerOption = 12;
+    constexpr qsizetype kMostPerOption = 8;
     const qsizetype few = objectsOf(kOptions, 2);
     EXPECT_EQ(objectsOf(kOptions, 50), few) << "choices are no objects";
     EXPECT_LE(few - objectsOf(0, 0), kOptions * kMostPerOption);
