@@ -122,22 +122,38 @@ QString anyText(std::mt19937 &random)
     return q(kTexts[random() % std::size(kTexts)]);
 }
 
+std::unique_ptr<dialog::PrintDialog> opened(const dialog::PrintCase &printCase)
+{
+    auto answer = dialog::PrintDialog::open(printCase);
+    if (const auto *problem = std::get_if<QString>(&answer))
+        throw std::runtime_error(problem->toStdString());
+    return std::move(std::get<std::unique_ptr<dialog::PrintDialog>>(answer));
+}
+
+/// Without what belongs to one document, and without the defaults that were chosen by name.
+QStringList lastingOptions(dialog::JobSettings settings)
+{
+    settings.chosen.clear();
+    QStringList lines;
+    for (const auto &[option, value] : dialog::jobOptions(settings))
+        if (dialog::isKeptInPresets(option))
+            lines.append(option + u'=' + value);
+    lines.sort();
+    return lines;
+}
+
 } // namespace
 
 RandomWalk::RandomWalk(const QString &ppd, int systemVersion, unsigned seed) : random_(seed)
 {
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
-    dialog::PrintCase printCase;
-    printCase.ppd = ppd;
-    printCase.root = q(KORVANE_ROOT_DIR);
-    printCase.systemVersion = systemVersion;
-    printCase.language = q("en");
-    printCase.document = q(KORVANE_SAMPLE_DOCUMENT);
-    printCase.jobFolder = jobs_.path();
-    auto opened = dialog::PrintDialog::open(printCase);
-    if (const auto *problem = std::get_if<QString>(&opened))
-        throw std::runtime_error(problem->toStdString());
-    dialog_ = std::move(std::get<std::unique_ptr<dialog::PrintDialog>>(opened));
+    case_.ppd = ppd;
+    case_.root = q(KORVANE_ROOT_DIR);
+    case_.systemVersion = systemVersion;
+    case_.language = q("en");
+    case_.document = q(KORVANE_SAMPLE_DOCUMENT);
+    case_.jobFolder = jobs_.path();
+    dialog_ = opened(case_);
     dialog_->showPanels();
     hand_.setInterval(kAnswerMilliseconds);
     // Queued: a timer does not fire inside what it fired for, and one window opens another.
@@ -297,6 +313,22 @@ void RandomWalk::expectAJob()
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
     EXPECT_EQ(made.size(), 1) << (failed.isEmpty() ? std::string("no answer")
                                                    : failed[0][0].toString().toStdString());
+}
+
+void RandomWalk::expectTheSameJobNextTime()
+{
+    SCOPED_TRACE(story_.join(u'\n').toStdString());
+    const dialog::JobSettings made = dialog_->desk().jobSettings();
+    const auto next = opened(case_);
+    next->begin({.settings = dialog::contentOf({made.marks, made.printSettings, made.paperName},
+                                               dialog_->printer())},
+                {});
+    next->showPanels();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(next->window()->findChild<QWidget *>(q("presetChanged"))->isVisible(), false);
+    static_cast<void>(next->commit());
+    EXPECT_EQ(lastingOptions(next->desk().jobSettings()).join(u' ').toStdString(),
+              lastingOptions(made).join(u' ').toStdString());
 }
 
 } // namespace test

@@ -32,6 +32,8 @@ public:
     void expectSummaryToSayEveryMark();
     /// Prints into a job folder, whatever has come together.
     void expectAJob();
+    /// Opens another dialog with what that job had, and compares what it would print.
+    void expectTheSameJobNextTime();
     [[nodiscard]] int stepsTaken() const { return static_cast<int>(story_.size()); }
 
 private:
@@ -52,6 +54,7 @@ private:
     [[nodiscard]] int below(int limit);
 
     QTemporaryDir jobs_;
+    dialog::PrintCase case_;
     std::mt19937 random_;
     std::unique_ptr<dialog::PrintDialog> dialog_;
     QTimer hand_; ///< answers the modal windows that a step opens

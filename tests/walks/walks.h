@@ -38,6 +38,7 @@ inline void walk(const Walker &walker, unsigned seed, int steps)
         return;
     person.expectSummaryToSayEveryMark();
     person.expectAJob();
+    person.expectTheSameJobNextTime();
 }
 
 } // namespace test
