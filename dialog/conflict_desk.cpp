@@ -87,7 +87,7 @@ void ConflictDesk::take(const OfferOutcome &outcome)
     if (conflicts) {
         takeRefusal(outcome);
     } else if (outcome.verdict == OfferVerdict::Refused) {
-        told_.insert(offered.option);
+        told_[offered.option] = offered.choice;
         Q_EMIT noticed(
             {kOfferGroup + offered.option, Severity::Warning, refusedWords(printer_, offered), {}});
     }
@@ -115,7 +115,7 @@ void ConflictDesk::want(const OfferOutcome &refusal)
 void ConflictDesk::tellRefusal(const OfferOutcome &refusal)
 {
     const Choice &offered = refusal.offered;
-    told_.insert(offered.option);
+    told_[offered.option] = offered.choice;
     Q_EMIT noticed({kOfferGroup + offered.option,
                     Severity::Warning,
                     forbiddenWords(printer_, offered, refusal.inTheWay),
@@ -201,7 +201,20 @@ void ConflictDesk::followState()
         else if (printer_.marks() != question_.marks)
             ask();
     }
+    withdrawTold();
     showDifferences();
+}
+
+/// What stands after all is no refusal: panels are believed when they commit.
+void ConflictDesk::withdrawTold()
+{
+    std::erase_if(told_, [this](const auto &told) {
+        const auto &[option, choice] = told;
+        const bool stands = printer_.allMarked(option).contains(choice, Qt::CaseInsensitive);
+        if (stands)
+            Q_EMIT dismissed(kOfferGroup + option);
+        return stands;
+    });
 }
 
 /// Nothing but what the sheet listed: when something else has been set in between, it asks again.

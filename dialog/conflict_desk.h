@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include <map>
 #include <optional>
 #include <set>
 #include <utility>
@@ -53,6 +54,7 @@ private:
     void ask();
     [[nodiscard]] bool isWanting() const;
     void followState();
+    void withdrawTold();
     void change(int way);
     void keep();
     [[nodiscard]] bool isToldOf(const QString &option) const;
@@ -69,8 +71,8 @@ private:
     Choices had_;                        ///< marks of its option before
     std::vector<OfferOutcome> refusals_; ///< conflicts of this action, in their order
     Choices used_;                       ///< of this action's control, once it is known
-    std::set<QString> told_;             ///< options that notices of this action are about
-    ResolutionQuestion question_;        ///< what the sheet shows the answers to
+    std::map<QString, QString> told_; ///< option and choice that notices of this action are about
+    ResolutionQuestion question_;     ///< what the sheet shows the answers to
     std::vector<Resolution> ways_;
     std::set<std::pair<QString, QString>> offered_; ///< options with what was offered or marked
     QString differences_;                           ///< what the notice about them says

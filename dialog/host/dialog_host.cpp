@@ -163,6 +163,7 @@ CommitResult DialogHost::commitPanels()
     for (const auto &panel : panels)
         callPanel(panel.get(), [](PDEPanel &saved) { saved.saveValuesAndReturnError(nullptr); });
     followPageSize();
+    announceChange();
     return {printer_.conflicts(), differences()};
 }
 
