@@ -21,6 +21,7 @@ constexpr const char *kOfOneDocument[] = {
     "job-sheets",
     "job-uuid",
     "page-ranges",
+    "multiple-document-handling",
     "page-set",
 };
 // clang-format on
