@@ -41,6 +41,9 @@ void addReplayOptions(QCommandLineParser &parser)
     parser.addOptions({
         valueOption("report", "Write the report to this file, - for standard output.", "OUT.json"),
         valueOption("pictures", "Folder for the pictures that the scenario takes.", "DIR"),
+        valueOption("person",
+                    "Folder with what the person has kept: .config and .local/state, copied.",
+                    "DIR"),
         valueOption("saves", "Folder for the files that the scenario saves.", "DIR"),
         flagOption("dark", "Show the windows in the colours of a dark desktop."),
         flagOption("stable", "Write the same report for the same scenario: no job ids, no times."),
@@ -195,6 +198,7 @@ std::variant<CommandLine, UsageError> parseCommandLine(const QStringList &words)
         line.isDark = parser.isSet(QStringLiteral("dark"));
         line.report = given(parser, "report");
         line.player.pictures = given(parser, "pictures");
+        line.person = given(parser, "person");
         line.player.saves = given(parser, "saves");
         line.player.naming = parser.isSet(QStringLiteral("stable")) ? replay::Naming::Stable
                                                                     : replay::Naming::Actual;

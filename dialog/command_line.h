@@ -24,6 +24,7 @@ struct CommandLine
     QString record;      ///< null: none
     bool isDark = false; ///< of a replay: in the colours of a dark desktop
     replay::PlayerOptions player;
+    QString person; ///< folder with what the person of the scenario has kept; null: nothing
     QString helpText;
 };
 

@@ -16,12 +16,14 @@
 #include "platform/controls/dark_palette.h"
 
 #include <QApplication>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <chrono>
 #include <unistd.h>
 
 namespace dialog {
@@ -128,20 +130,46 @@ bool writeReport(const QString &path, const QByteArray &json)
     return file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit();
 }
 
+/// For the user alone, whoever might read or write the original.
+bool copyFiles(const QString &from, const QString &to)
+{
+    QDirIterator files(from, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    bool isCopied = QFileInfo(from).isDir();
+    while (isCopied && files.hasNext()) {
+        const QString file = files.next();
+        const QString copy = to + u'/' + QDir(from).relativeFilePath(file);
+        isCopied = QDir().mkpath(QFileInfo(copy).path()) && QFile::copy(file, copy) &&
+                   QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
+    }
+    return isCopied;
+}
+
 /// A scenario plays alike for everybody: neither are the presets of whoever plays it its own, nor
 /// are those that it makes kept.
-class EmptyUser
+class PlayedPerson
 {
 public:
-    EmptyUser()
+    PlayedPerson()
     {
         setUserFolder(folder_.isValid() ? folder_.path()
                                         : QStringLiteral("/dev/null")); // no folder
+    }
+    /// A copy of what lies there is what the person has kept so far.
+    [[nodiscard]] bool takeAlong(const QString &folder) const
+    {
+        return folder_.isValid() && copyFiles(folder, folder_.path());
     }
 
 private:
     QTemporaryDir folder_;
 };
+
+/// However long reading takes, what is remembered is there.
+std::shared_ptr<Memory> patientMemory()
+{
+    constexpr std::chrono::minutes kPatience(1);
+    return std::make_shared<Memory>(Memory::Times{kPatience, kPatience});
+}
 
 /// The recorder begins with the dialog, and goes before it.
 void recordReplay(const replay::Player &player, std::unique_ptr<record::Recording> &recording,
@@ -161,9 +189,14 @@ int runReplay(const CommandLine &line, std::unique_ptr<record::Recording> record
         return refuse(error->message);
     if (line.isDark)
         QApplication::setPalette(darkPalette());
-    const EmptyUser user;
-    replay::Player player(line.printCase, std::move(std::get<replay::Scenario>(parsed)),
-                          line.player);
+    const PlayedPerson person;
+    PrintCase printCase = line.printCase;
+    if (!line.person.isNull()) {
+        if (!person.takeAlong(line.person))
+            return refuse(line.person + QStringLiteral(": this folder cannot be copied"));
+        printCase.memory = patientMemory();
+    }
+    replay::Player player(printCase, std::move(std::get<replay::Scenario>(parsed)), line.player);
     QObject::connect(&player, &replay::Player::noticeShown, qApp, complain);
     QObject::connect(&player, &replay::Player::finished, qApp,
                      [](replay::Outcome outcome, const QString &message) {

@@ -6,7 +6,7 @@ _korvane_print_value() {
     local option=$1 word=$2
     case $option in
     --ppd) _korvane_print_files "$word" '*.ppd' ;;
-    --root | --job-folder | --pictures | --saves) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
+    --root | --job-folder | --pictures | --saves | --person) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
     --report | --record | --print) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
     --queue) mapfile -t COMPREPLY < <(compgen -W "$(lpstat -e 2>/dev/null)" -- "$word") ;;
     --system-version) mapfile -t COMPREPLY < <(compgen -W '0x1049 0x1050 0x1060' -- "$word") ;;
@@ -32,7 +32,7 @@ _korvane_print() {
     local -A options=(
         [dialog]="$dialog --print --set --dry-run --json --print-anyway --list --help --version"
         [--list]='--json --language --help'
-        [replay]="$dialog --report --pictures --saves --dark --stable --help --version"
+        [replay]="$dialog --report --pictures --saves --person --dark --stable --help --version"
         [log]='--class --operation --kind --text --actions --action --on --off --level --file --help'
         [check-ppd]='--root --json --help'
     )

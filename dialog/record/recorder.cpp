@@ -43,6 +43,12 @@ QString languageWord(const PrintCase &printCase)
     return locale == QLatin1String("C") ? locale : platform::firstPreferredLanguage();
 }
 
+QString lineOrReason(const Step &step)
+{
+    const QString line = lineOf(step);
+    return line.isNull() ? QStringLiteral("# not recorded: a text of several lines") : line;
+}
+
 bool isSetBeforePanels(StepKind kind)
 {
     return kind == StepKind::Mark || kind == StepKind::Job || kind == StepKind::Paper;
@@ -60,8 +66,7 @@ Recorder::Recorder(std::unique_ptr<Recording> recording, PrintDialog &dialog)
     connect(&dialog, &PrintDialog::aboutToShowPanels, this, &Recorder::writeStart);
     connect(&dialog, &PrintDialog::left, this, &Recorder::writeLeaving);
     connect(&watcher_, &PersonWatcher::acted, this, &Recorder::writePersons);
-    connect(&watcher_, &PersonWatcher::perhapsActed, this,
-            [this](const Step &step) { recording_->addTentative(lineOf(step)); });
+    connect(&watcher_, &PersonWatcher::perhapsActed, this, &Recorder::writeTentative);
     connect(&watcher_, &PersonWatcher::withdrawn, this, [this] { recording_->takeBack(); });
     connect(&watcher_, &PersonWatcher::settled, this, [this] { recording_->keep(); });
     connect(&watcher_, &PersonWatcher::actedWithoutName, this, [this](const QWidget *control) {
@@ -154,12 +159,13 @@ void Recorder::passOn(const Step &step)
 
 void Recorder::write(const Step &step)
 {
-    const QString line = lineOf(step);
     recording_->keep();
-    if (line.isNull())
-        comment(QStringLiteral("not recorded: a text of several lines"));
-    else
-        recording_->add(line);
+    recording_->add(lineOrReason(step));
+}
+
+void Recorder::writeTentative(const Step &step)
+{
+    recording_->addTentative(lineOrReason(step));
 }
 
 void Recorder::comment(const QString &text)

@@ -36,6 +36,7 @@ private:
     void writeRoot(const QString &root);
     void writeStart();
     void write(const replay::Step &step);
+    void writeTentative(const replay::Step &step);
     void writePersons(const replay::Step &step);
     [[nodiscard]] QString nameOfPanel(const QString &item) const;
     void writeLeaving();

@@ -17,6 +17,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDialog>
@@ -215,6 +216,8 @@ void Player::watchProcess()
     platform::NotificationCenter::defaultCenter().addObserver(
         this, QString(),
         [this](const platform::Notification &posted) { report_.notification(posted.name); });
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,
+            &Player::clipboardChanged);
     auto &sessions = platform::ModalSessions::shared();
     connect(&sessions, &platform::ModalSessions::opened, this, [this](QDialog *window) {
         modalWindows_.emplace_back(window);
@@ -224,6 +227,19 @@ void Player::watchProcess()
         modalWindows_.pop_back();
         report_.windowClosed(name);
     });
+}
+
+/// What the dialog copies. Somebody else's is nobody's business, and a step that pastes brings its
+/// own.
+void Player::clipboardChanged()
+{
+    const bool pastes = next_ > 0 && scenario_.steps[next_ - 1].kind == StepKind::Paste;
+    const QClipboard *clipboard = QGuiApplication::clipboard();
+    // Without a display the clipboard is the program's alone, though Qt does not say so.
+    const bool isOwn =
+        clipboard->ownsClipboard() || QGuiApplication::platformName() == QLatin1String("offscreen");
+    if (isOwn && !pastes)
+        report_.copied(clipboard->text());
 }
 
 void Player::watchDialog()

@@ -63,6 +63,7 @@ private:
     void takePrinter(PrintDialog::Opened opened);
     void watchProcess();
     void watchDialog();
+    void clipboardChanged();
     void stepEnded(const QString &error);
 
     // Steps: null when done, else what is wrong.

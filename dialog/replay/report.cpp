@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::array<const char *, static_cast<std::size_t>(EventKind::Count)> kEventNames{
     "offer",  "console", "window", "window-closed", "notification",
-    "resize", "help",    "job",    "saved"};
+    "resize", "help",    "job",    "saved",         "copied"};
 
 QString nameOf(EventKind event)
 {
@@ -89,6 +89,11 @@ void Report::job(const JobRecord &job)
 void Report::saved(const QString &file)
 {
     add(EventKind::Saved, {{QStringLiteral("file"), QFileInfo(file).fileName()}});
+}
+
+void Report::copied(const QString &text)
+{
+    add(EventKind::Copied, {{QStringLiteral("text"), text}});
 }
 
 void Report::snapshot(const QString &name, const QJsonObject &snapshot)

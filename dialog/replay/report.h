@@ -25,6 +25,7 @@ enum class EventKind {
     Help,
     Job,
     Saved,
+    Copied,
     Count
 };
 [[nodiscard]] QStringList eventNames();
@@ -46,6 +47,7 @@ public:
     void job(const JobRecord &job);
     /// Told by its name alone.
     void saved(const QString &file);
+    void copied(const QString &text);
     void snapshot(const QString &name, const QJsonObject &snapshot);
 
     [[nodiscard]] QByteArray json() const;

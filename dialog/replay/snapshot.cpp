@@ -101,6 +101,13 @@ QJsonObject contentOf(const QWidget *control)
     return {};
 }
 
+/// A button whose words stand beside it, or that shows a picture.
+bool isWithoutWords(const QWidget *control)
+{
+    const auto *button = qobject_cast<const QAbstractButton *>(control);
+    return button && button->text().isEmpty() && !button->accessibleName().isEmpty();
+}
+
 QJsonObject controlsOf(const QWidget *view)
 {
     QJsonObject states;
@@ -213,6 +220,8 @@ QJsonObject controlState(const QWidget *control, const QWidget *view)
         state.insert(QStringLiteral("enabled"), control->isEnabled());
         if (!control->accessibleDescription().isEmpty())
             state.insert(QStringLiteral("description"), control->accessibleDescription());
+        if (isWithoutWords(control))
+            state.insert(QStringLiteral("name"), control->accessibleName());
     }
     return state;
 }

@@ -100,7 +100,36 @@ constexpr const char *kErrors[] = {
     "There is no document ",
 };
 
+/// What stands in backquotes in the last column of a table of cases; a name may end in "*".
+std::vector<QRegularExpression> casesOfTheMap()
+{
+    QFile file(kCases + q("/../README.md"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(file.readAll());
+    static const QRegularExpression name(q("`([a-z0-9-]+\\*?)`"));
+    std::vector<QRegularExpression> cases;
+    for (const QString &line : text.mid(text.indexOf(q("| part |"))).split(u'\n')) {
+        for (auto match = name.globalMatch(line.section(u'|', 2)); match.hasNext();)
+            cases.emplace_back(
+                QRegularExpression::wildcardToRegularExpression(match.next().captured(1)));
+    }
+    EXPECT_GT(cases.size(), 20u);
+    return cases;
+}
+
 } // namespace
+
+TEST(MapOfCases, NamesEveryCaseAndNoOther)
+{
+    const QStringList folders = QDir(kCases).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    QStringList unnamed = folders;
+    for (const QRegularExpression &named : casesOfTheMap()) {
+        EXPECT_FALSE(folders.filter(named).isEmpty()) << named.pattern().toStdString();
+        for (const QString &folder : folders.filter(named))
+            unnamed.removeAll(folder);
+    }
+    EXPECT_EQ(unnamed, QStringList());
+}
 
 class EveryStep : public testing::TestWithParam<QString>
 {

@@ -15,11 +15,10 @@ surround "$build" "$(dirname "$scenario")"
 document=$(sed -n 's/^document //p' "$scenario")
 document=${document:+$(dirname "$scenario")/$document}
 
-# play SCENARIO NAME [OPTION...]: for a person who has kept nothing so far, whatever an earlier one saved.
+# play SCENARIO NAME [OPTION...]
 play() {
     local scenario=$1 name=$2
     shift 2
-    come_home
     replay "$scenario" --report "$scratch/$name.json" "$@" 2>"$scratch/$name.err" || {
         cat "$scratch/$name.err"
         [[ $name == original ]] || cat "$scenario"

@@ -2,7 +2,7 @@
 # Sourced by the scripts that play scenarios: the same surroundings on every machine and for every user.
 
 # surround BUILD CASE: sets scratch, a folder that goes with the script, and root, the driver's files; those of the
-# case's own printer, where it has other cartridges in. What a person of the case has kept lies in the home folder.
+# case's own printer, where it has other cartridges in; and person, what the person of the case has kept, if anything.
 surround() {
     build=$1
     files=$(cd "$2" && pwd)
@@ -16,21 +16,13 @@ surround() {
         root=$scratch/root
         cp "$2/preferences.plist" "$root/Library/Printers/Korvane/Preferences/com.korvane.prefs.2009.plist"
     fi
-    kept=$files/configuration
-    come_home
-}
-
-# come_home: what the person keeps is what the case has, whatever was kept since.
-come_home() {
-    rm -rf "$scratch/.config"
-    [[ -e $kept ]] || return 0
-    cp -r "$kept" "$scratch/.config"
-    chmod -R go= "$scratch/.config"
+    person=
+    if [[ -e $files/person ]]; then person=$files/person; fi
 }
 
 # of_any_run: copies a text without what is another at each run, its folders and the time of a file set aside.
 of_any_run() {
-    sed -E "s#$scratch#SCRATCH#g; s#$files/##g; s#$build#BUILD#g; s#damaged-[0-9]{8}-[0-9]{6}#damaged-TIME#g"
+    sed -E "s#$scratch/tmp/korvane-print-[A-Za-z0-9]{6}#PERSON#g; s#$scratch#SCRATCH#g; s#$files/##g; s#$build#BUILD#g; s#damaged-[0-9]{8}-[0-9]{6}#damaged-TIME#g"
 }
 
 # replay SCENARIO OPTION...
@@ -39,5 +31,5 @@ replay() {
         XDG_RUNTIME_DIR="$scratch/run" XDG_DATA_HOME="$scratch/data" QT_QPA_PLATFORM=offscreen \
         CUPS_SERVER=127.0.0.1:1 \
         ${ASAN_OPTIONS:+ASAN_OPTIONS="$ASAN_OPTIONS"} \
-        "$build/bin/korvane-print" replay "$@" --root "$root" --stable --saves "$scratch/saves"
+        "$build/bin/korvane-print" replay "$@" --root "$root" --stable --saves "$scratch/saves" ${person:+--person "$person"}
 }
