@@ -173,8 +173,7 @@ void readPaper(SheetLook &look, const PpdDocument &printer, const JobOptions &op
 SideSelection selectionOf(const JobOptions &options)
 {
     SideSelection selection;
-    for (const PageRange &range : readPageRanges(valueOf(options, "page-ranges")).ranges)
-        selection.ranges.push_back({range.first, range.last});
+    selection.ranges = readPageRanges(valueOf(options, "page-ranges")).ranges;
     selection.set = read(options, "page-set", kSets, SideSelection::Set::All);
     if (isWordOf(valueOf(options, "outputorder"), "reverse"))
         selection.order = SideSelection::Order::Reverse;

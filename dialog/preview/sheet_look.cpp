@@ -14,7 +14,7 @@ bool isSelected(const SideSelection &selection, int number)
         return false;
     return selection.ranges.empty() ||
            std::any_of(selection.ranges.begin(), selection.ranges.end(),
-                       [&](const NumberRange &range) {
+                       [&](const PageRange &range) {
                            return range.first <= number && number <= range.last;
                        });
 }

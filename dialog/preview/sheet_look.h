@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/printers/page_range.h"
 #include "dialog/printers/paper_size.h"
 
 #include <QString>
@@ -27,15 +28,6 @@ enum class PageScaling { Unset, Auto, AutoFit, Fit, Fill, None };
 
 enum class Sides { One, Two };
 
-/// One range of numbers, both ends in it, from 1.
-struct NumberRange
-{
-    int first = 1;
-    int last = 1;
-
-    bool operator==(const NumberRange &) const = default;
-};
-
 /// Which sides of the job are printed, and in which order. Numbers count printed sides, which are
 /// the document's pages unless several stand on a sheet.
 struct SideSelection
@@ -43,7 +35,7 @@ struct SideSelection
     enum class Set { All, Odd, Even };
     enum class Order { Normal, Reverse };
 
-    std::vector<NumberRange> ranges = {}; ///< empty: all
+    std::vector<PageRange> ranges = {}; ///< empty: all
     Set set = Set::All;
     Order order = Order::Normal;
 

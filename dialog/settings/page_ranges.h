@@ -1,23 +1,13 @@
 #pragma once
 
+#include "dialog/printers/page_range.h"
+
 #include <QString>
 
 #include <optional>
 #include <vector>
 
 namespace dialog {
-
-/// Pages from a document, both ends included, counted from 1.
-struct PageRange
-{
-    /// The end of a range that goes to the document's last page.
-    static constexpr int kEnd = 2'147'483'647;
-
-    int first = 1;
-    int last = 1;
-
-    bool operator==(const PageRange &) const = default;
-};
 
 enum class RangeProblem {
     None,
