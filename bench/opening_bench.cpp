@@ -7,6 +7,7 @@
 // has been painted.
 
 #include "bench/made_printer.h"
+#include "bench/median.h"
 #include "bench/usable.h"
 #include "dialog/memory/memory.h"
 #include "dialog/queue_dialog.h"
@@ -85,10 +86,11 @@ double timeOf(const QString &program, const QStringList &words, const QString &c
     return isUsable ? milliseconds : -1;
 }
 
-double median(std::vector<double> times)
+/// Negative when one of them is.
+double medianTime(const std::vector<double> &times)
 {
-    std::sort(times.begin(), times.end());
-    return times.front() < 0 ? -1 : times[times.size() / 2];
+    const bool isWhole = *std::min_element(times.begin(), times.end()) >= 0;
+    return isWhole ? bench::median(times) : -1;
 }
 
 QByteArray printerOf(const Server &measured)
@@ -125,8 +127,8 @@ void measure(const Server &measured)
         qt.push_back(timeOf(qts, words, kept.path()));
     }
     std::printf("| %s | %d | %.0f ms | %.0f ms | %.0f ms | %.2f | %.2f |\n", measured.printer,
-                queues, median(first), median(again), median(qt), median(first) / median(qt),
-                median(again) / median(qt));
+                queues, medianTime(first), medianTime(again), medianTime(qt),
+                medianTime(first) / medianTime(qt), medianTime(again) / medianTime(qt));
     std::fflush(stdout);
 }
 

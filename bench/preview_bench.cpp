@@ -1,5 +1,6 @@
 // How long a document takes from being named to its first picture, whatever its length.
 
+#include "bench/median.h"
 #include "dialog/preview/preview_document.h"
 
 #include <QElapsedTimer>
@@ -9,7 +10,6 @@
 #include <QPdfWriter>
 #include <QTemporaryDir>
 
-#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -42,13 +42,12 @@ double milliseconds(const QString &path)
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
-double median(const QString &path)
+double medianTime(const QString &path)
 {
     std::vector<double> times;
     for (int round = 0; round < kRounds; ++round)
         times.push_back(milliseconds(path));
-    std::nth_element(times.begin(), times.begin() + kRounds / 2, times.end());
-    return times[kRounds / 2];
+    return bench::median(times);
 }
 
 } // namespace
@@ -61,6 +60,6 @@ int main(int argc, char **argv)
     for (const int pages : {1, 1'000}) {
         const QString path = folder.filePath(QString::number(pages));
         writeDocument(path, pages);
-        std::printf("%d pages: first picture after %.1f ms\n", pages, median(path));
+        std::printf("%d pages: first picture after %.1f ms\n", pages, medianTime(path));
     }
 }
