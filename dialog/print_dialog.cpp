@@ -135,8 +135,6 @@ PrintDialog::PrintDialog(const PrintCase &printCase, std::unique_ptr<PpdDocument
 PrintDialog::~PrintDialog()
 {
     platform::setHelpOpener(formerHelpOpener_);
-    host_.setFrontPanel(nullptr);
-    host_.setPanels({});
     saving_.reset();
     if (window_ && !ownWindow_) {
         delete helpWindow_;
