@@ -47,7 +47,8 @@ QByteArray ippAnswer(int status)
         QByteArray("\x47\x00\x12", 3) + "attributes-charset" + QByteArray("\x00\x05", 2) + "utf-8";
     ipp += QByteArray("\x48\x00\x1b", 3) + "attributes-natural-language" +
            QByteArray("\x00\x02", 2) + "en" + "\x03";
-    return "HTTP/1.1 200 OK\r\nContent-Type: application/ipp\r\nContent-Length: " +
+    return "HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Type: "
+           "application/ipp\r\nContent-Length: " +
            QByteArray::number(ipp.size()) + "\r\n\r\n" + ipp;
 }
 
@@ -215,6 +216,15 @@ bool FaultServer::letIn(Link &link, const QByteArray &requests)
     return link.isLetIn;
 }
 
+/// Empty unless a status comes instead of the answer with that byte.
+QByteArray FaultServer::statusInstead(std::int64_t answerByte)
+{
+    if (takesPlace(FaultKind::HttpError, answerByte))
+        return "HTTP/1.1 " + QByteArray::number(fault_.status) +
+               " Fault\r\nConnection: close\r\nContent-Length: 0\r\n\r\n";
+    return takesPlace(FaultKind::IppError, answerByte) ? ippAnswer(fault_.status) : QByteArray();
+}
+
 bool FaultServer::passRequests(Link &link)
 {
     std::array<char, kBlock> block;
@@ -232,6 +242,10 @@ bool FaultServer::passRequests(Link &link)
     if (const QByteArray wanted = demanded(); !wanted.isEmpty())
         requests.replace(wanted, QByteArray());
     watchRequests(requests);
+    if (const QByteArray status = statusInstead(answerBytes_ + 1); !status.isEmpty()) {
+        link.isDeaf = true; // who refuses a request does nothing of it
+        return sendAll(link.client, status.constData(), static_cast<std::size_t>(status.size()));
+    }
     const std::int64_t before = requestBytes_;
     requestBytes_ += requests.size();
     const bool isCut = takesPlace(FaultKind::CutRequests, requestBytes_);
@@ -260,15 +274,8 @@ bool FaultServer::passAnswers(Link &link)
         link.isSilent = true;
         return sendAll(link.client, block.data(), upToFault);
     }
-    if (takesPlace(FaultKind::HttpError, answerBytes_)) {
-        const QByteArray answer =
-            "HTTP/1.1 " + QByteArray::number(fault_.status) + " Fault\r\nContent-Length: 0\r\n\r\n";
-        return sendAll(link.client, answer.constData(), static_cast<std::size_t>(answer.size()));
-    }
-    if (takesPlace(FaultKind::IppError, answerBytes_)) {
-        const QByteArray answer = ippAnswer(fault_.status);
-        return sendAll(link.client, answer.constData(), static_cast<std::size_t>(answer.size()));
-    }
+    if (const QByteArray status = statusInstead(answerBytes_); !status.isEmpty())
+        return sendAll(link.client, status.constData(), static_cast<std::size_t>(status.size()));
     if (takesPlace(FaultKind::Garble, answerBytes_)) {
         for (std::size_t i = upToFault; i < size; ++i)
             block[i] = static_cast<char>(~block[i]);

@@ -21,8 +21,9 @@ enum class FaultKind {
     Deafness,    ///< requests stop there
     Trickle,     ///< from there on answers come a byte at a time, never all in time
     Garble,      ///< the bytes of the next block of answers are inverted
-    HttpError,   ///< instead of the next answer an HTTP status comes
-    IppError,    ///< the same with a status of IPP
+    HttpError, ///< instead of the next answer an HTTP status comes; if it is the first, nothing is
+               ///< done of the request either
+    IppError,  ///< the same with a status of IPP
     CloseAtOnce, ///< connections are closed without a byte
     Count
 };
@@ -77,6 +78,7 @@ private:
 
     void serve();
     void acceptClient();
+    [[nodiscard]] QByteArray statusInstead(std::int64_t answerByte);
     /// False when the link is at its end.
     [[nodiscard]] bool passRequests(Link &link);
     [[nodiscard]] bool passAnswers(Link &link);
