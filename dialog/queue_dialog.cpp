@@ -1,7 +1,7 @@
 #include "dialog/queue_dialog.h"
 
 #include "dialog/jobs/document.h"
-#include "dialog/printers/errand.h"
+#include "dialog/threads/errand.h"
 #include "dialog/window/print_window.h"
 #include "dialog/window/printer_picker.h"
 #include "dialog/window/printer_words.h"

@@ -2,6 +2,7 @@
 
 #include "dialog/preview/preview_words.h"
 #include "dialog/preview/side_painter.h"
+#include "dialog/threads/thread_link.h"
 
 #include <QPageSize>
 #include <QPainter>
@@ -10,10 +11,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <condition_variable>
-#include <functional>
-#include <mutex>
-#include <thread>
 
 namespace dialog {
 namespace {
@@ -34,18 +31,15 @@ void setPage(QPdfWriter &writer, const QSizeF &size)
 
 } // namespace
 
-/// Both threads hold it, as long as either needs it.
-struct PdfSaving::Work
+struct PdfSaving::Work : ThreadLink<PdfSaving>
 {
+    using ThreadLink::ThreadLink;
+
     PdfOrder order;
     std::atomic<bool> isCancelled = false;
     bool isWritten = false;
     PdfFault fault = PdfFault::File;
     QString reason = {}; ///< why it is not written, unless it has been given up
-    std::mutex mutex;
-    std::condition_variable ending;
-    bool hasEnded = false;
-    PdfSaving *owner = nullptr; ///< null once nobody listens
 
     void run();
     void failForDocument(const QString &problem)
@@ -55,16 +49,6 @@ struct PdfSaving::Work
     }
     void write(PageSource &source, QSaveFile &file);
     [[nodiscard]] int putSide(PageSource &source, int number, QPainter &painter) const;
-
-    /// Has @p tell called on the main thread, unless nobody listens by then.
-    void post(std::function<void(PdfSaving &)> tell)
-    {
-        const std::lock_guard lock(mutex);
-        if (owner)
-            QMetaObject::invokeMethod(
-                owner, [owner = owner, tell = std::move(tell)] { tell(*owner); },
-                Qt::QueuedConnection);
-    }
 };
 
 void PdfSaving::Work::run()
@@ -129,25 +113,20 @@ PdfSaving::~PdfSaving()
     if (!work_)
         return;
     cancel();
-    std::unique_lock lock(work_->mutex);
-    work_->owner = nullptr;
-    work_->ending.wait_for(lock, kPatience, [this] { return work_->hasEnded; });
+    work_->hangUp();
+    work_->waitForEnd(kPatience);
 }
 
 void PdfSaving::start(const PdfOrder &order)
 {
     if (work_)
         return;
-    work_ = std::make_shared<Work>();
+    work_ = std::make_shared<Work>(this);
     work_->order = order;
-    work_->owner = this;
-    std::thread([work = work_] {
+    work_->start([work = work_] {
         work->run();
         work->post([work](PdfSaving &saving) { saving.finish(*work); });
-        const std::lock_guard lock(work->mutex);
-        work->hasEnded = true;
-        work->ending.notify_all();
-    }).detach();
+    });
 }
 
 void PdfSaving::cancel()

@@ -1,11 +1,12 @@
 #include "dialog/preview/preview_document.h"
 
+#include "dialog/threads/thread_link.h"
+
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
 #include <optional>
-#include <thread>
 
 namespace dialog {
 namespace {
@@ -15,37 +16,45 @@ constexpr std::chrono::milliseconds kPatience{500};
 
 } // namespace
 
-/// What a document and its thread share; lives as long as either.
-struct PreviewDocument::Channel
+struct PreviewDocument::Channel : ThreadLink<PreviewDocument>
 {
-    std::mutex mutex;
-    std::condition_variable news;
-    PreviewDocument *reader = nullptr; ///< null once nobody listens
-    std::optional<SideRequest> next;
+    using ThreadLink::ThreadLink;
+
     std::atomic<int> latest = 0; ///< counts requests; drawing for an older one stops
-    bool hasEnded = false;
 
-    /// Has @p tell called on the main thread, unless nobody listens by then.
-    void post(std::function<void(PreviewDocument &)> tell)
+    /// Stops drawing for the former one; nothing is no request.
+    void put(std::optional<SideRequest> request)
     {
-        const std::lock_guard lock(mutex);
-        if (!reader)
-            return;
-        QMetaObject::invokeMethod(
-            reader, [reader = reader, tell = std::move(tell)] { tell(*reader); },
-            Qt::QueuedConnection);
+        const std::lock_guard lock(mutex_);
+        next_ = std::move(request);
+        ++latest;
+        news_.notify_all();
     }
-
-    /// The next request and its number; nothing when nobody listens any more.
+    /// No request follows, and nobody listens any more.
+    void leave()
+    {
+        hangUp();
+        const std::lock_guard lock(mutex_);
+        isLeft_ = true;
+        ++latest;
+        news_.notify_all();
+    }
+    /// The next request and its number; nothing when none follows.
     std::optional<std::pair<SideRequest, int>> take()
     {
-        std::unique_lock lock(mutex);
-        news.wait(lock, [&] { return next || !reader; });
-        if (!reader)
+        std::unique_lock lock(mutex_);
+        news_.wait(lock, [&] { return next_ || isLeft_; });
+        if (isLeft_)
             return std::nullopt;
-        const SideRequest request = *std::exchange(next, std::nullopt);
+        const SideRequest request = *std::exchange(next_, std::nullopt);
         return std::pair(request, latest.load());
     }
+
+private:
+    std::mutex mutex_;
+    std::condition_variable news_;
+    std::optional<SideRequest> next_;
+    bool isLeft_ = false;
 };
 
 PreviewDocument::PreviewDocument(Opener opener, QObject *parent)
@@ -59,50 +68,32 @@ PreviewDocument::~PreviewDocument()
     if (!channel_)
         return;
     // In the usual case no thread outlives the program's end.
-    std::unique_lock lock(channel_->mutex);
-    channel_->news.wait_for(lock, kPatience, [&] { return channel_->hasEnded; });
+    channel_->waitForEnd(kPatience);
 }
 
 void PreviewDocument::leaveDocument()
 {
-    if (!channel_)
-        return;
-    const std::lock_guard lock(channel_->mutex);
-    channel_->reader = nullptr;
-    ++channel_->latest;
-    channel_->news.notify_all();
+    if (channel_)
+        channel_->leave();
 }
 
 void PreviewDocument::open(const QString &path)
 {
     leaveDocument();
-    channel_ = std::make_shared<Channel>();
-    channel_->reader = this;
-    std::thread([channel = channel_, opener = opener_, path] {
-        work(channel, opener, path);
-        const std::lock_guard lock(channel->mutex);
-        channel->hasEnded = true;
-        channel->news.notify_all();
-    }).detach();
+    channel_ = std::make_shared<Channel>(this);
+    channel_->start([channel = channel_, opener = opener_, path] { work(channel, opener, path); });
 }
 
 void PreviewDocument::request(const SideRequest &request)
 {
-    if (!channel_)
-        return;
-    const std::lock_guard lock(channel_->mutex);
-    channel_->next = request;
-    ++channel_->latest;
-    channel_->news.notify_all();
+    if (channel_)
+        channel_->put(request);
 }
 
 void PreviewDocument::withdraw()
 {
-    if (!channel_)
-        return;
-    const std::lock_guard lock(channel_->mutex);
-    channel_->next.reset();
-    ++channel_->latest;
+    if (channel_)
+        channel_->put(std::nullopt);
 }
 
 void PreviewDocument::work(const std::shared_ptr<Channel> &channel, const Opener &opener,
@@ -112,10 +103,7 @@ void PreviewDocument::work(const std::shared_ptr<Channel> &channel, const Opener
     DocumentFacts facts{opened.problem, 0, false};
     if (opened.source)
         facts = {DocumentProblem::None, opened.source->pageCount(), opened.source->isPicture()};
-    channel->post([facts, channel](PreviewDocument &reader) {
-        if (reader.channel_ == channel)
-            Q_EMIT reader.opened(facts);
-    });
+    channel->post([facts](PreviewDocument &reader) { Q_EMIT reader.opened(facts); });
     while (opened.source) {
         const auto taken = channel->take();
         if (!taken)

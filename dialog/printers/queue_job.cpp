@@ -1,5 +1,7 @@
 #include "dialog/printers/queue_job.h"
 
+#include "dialog/threads/thread_link.h"
+
 #include <cups/cups.h>
 
 #include <QCoreApplication>
@@ -23,11 +25,11 @@ constexpr auto kBetweenLooks = std::chrono::milliseconds(25);
 
 } // namespace
 
-/// What the worker and the main thread share; outlives whichever of both ends first.
-struct QueueJob::Shared
+struct QueueJob::Shared : ThreadLink<QueueJob>
 {
-    std::mutex mutex;
-    QueueJob *receiver = nullptr; ///< null once it is gone, or no longer waits
+    using ThreadLink::ThreadLink;
+
+    std::mutex mutex; ///< of the answer
     Lifeline lifeline;
     std::atomic<bool> isCancelled = false;
     std::atomic<bool> isAbandoned = false;
@@ -35,23 +37,13 @@ struct QueueJob::Shared
     bool hasAnswer = false;
     std::unique_ptr<Credentials> answer;
 
-    template <class Call>
-    void tell(Call call)
-    {
-        const std::lock_guard lock(mutex);
-        QueueJob *to = receiver;
-        if (to)
-            QMetaObject::invokeMethod(
-                to, [to, call] { call(*to); }, Qt::QueuedConnection);
-    }
-
     /// On the worker's thread.
     [[nodiscard]] std::unique_ptr<Credentials> askPerson(const SignInQuestion &question,
                                                          std::chrono::milliseconds limit)
     {
         if (isCancelled)
             return nullptr;
-        tell([question](QueueJob &job) { job.askPerson(question); });
+        post([question](QueueJob &job) { job.askPerson(question); });
         std::unique_lock lock(mutex);
         answered.wait_for(lock, limit, [this] { return hasAnswer || isCancelled || isAbandoned; });
         hasAnswer = false;
@@ -255,20 +247,18 @@ QueueJob::~QueueJob()
 {
     if (!shared_)
         return;
+    shared_->hangUp();
     shared_->stop(shared_->isAbandoned);
-    const std::lock_guard lock(shared_->mutex);
-    shared_->receiver = nullptr;
     shared_->lifeline.cut();
 }
 
 void QueueJob::start(const QueueJobRequest &request)
 {
-    shared_ = std::make_shared<Shared>();
-    shared_->receiver = this;
+    shared_ = std::make_shared<Shared>(this);
     patience_.start(request.limits.answerMilliseconds);
-    std::thread([shared = shared_, request] {
+    shared_->start([shared = shared_, request] {
         const auto stepped = [&shared](qint64 sent, qint64 total) {
-            shared->tell([sent, total](QueueJob &job) { job.takeStep(sent, total); });
+            shared->post([sent, total](QueueJob &job) { job.takeStep(sent, total); });
         };
         const auto ask = [&shared, &request](const SignInQuestion &question) {
             return request.signInBy == SignInBy::Nobody
@@ -279,15 +269,12 @@ void QueueJob::start(const QueueJobRequest &request)
         const QueueJobResult result = Sender(request, shared->lifeline, shared->isCancelled,
                                              shared->isAbandoned, stepped, ask)
                                           .run();
-        shared->tell([result](QueueJob &job) { job.finish(result); });
-    }).detach();
+        shared->post([result](QueueJob &job) { job.finish(result); });
+    });
 }
 
-/// A step that arrives after the end is dropped.
 void QueueJob::takeStep(qint64 sentBytes, qint64 totalBytes)
 {
-    if (!shared_)
-        return;
     patience_.start();
     Q_EMIT progressed(sentBytes, totalBytes);
 }
@@ -295,8 +282,6 @@ void QueueJob::takeStep(qint64 sentBytes, qint64 totalBytes)
 /// A person may take longer than a server.
 void QueueJob::askPerson(const SignInQuestion &question)
 {
-    if (!shared_)
-        return;
     patience_.stop();
     Q_EMIT signInWanted(question);
 }
@@ -327,14 +312,9 @@ void QueueJob::abandon()
 /// The first end counts; an answer that is still on its way to this thread is dropped.
 void QueueJob::finish(const QueueJobResult &result)
 {
-    if (!shared_)
-        return;
     patience_.stop();
+    shared_->hangUp();
     shared_->stop(shared_->isAbandoned);
-    {
-        const std::lock_guard lock(shared_->mutex);
-        shared_->receiver = nullptr;
-    }
     shared_->lifeline.cut();
     shared_.reset();
     Q_EMIT finished(result);

@@ -1,7 +1,7 @@
 #include "dialog/printers/queue_list.h"
 
-#include "dialog/printers/errand.h"
 #include "dialog/printers/name_order.h"
+#include "dialog/threads/errand.h"
 #include "platform/strings.h"
 
 #include <cups/cups.h>

@@ -1,6 +1,6 @@
-#include "dialog/printers/errand.h"
 #include "dialog/printers/queue_list.h"
 #include "dialog/texts.h"
+#include "dialog/threads/errand.h"
 #include "dialog/window/printer_words.h"
 #include "platform/values.h"
 #include "tests/queues/counting_proxy.h"
