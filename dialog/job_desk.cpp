@@ -9,9 +9,11 @@
 #include "dialog/printers/queue_job.h"
 #include "dialog/printers/standard_options.h"
 #include "dialog/printers/unsendable.h"
+#include "dialog/threads/errand.h"
 
 #include <QFileInfo>
 
+#include <chrono>
 #include <utility>
 
 namespace dialog {
@@ -33,38 +35,29 @@ JobDesk::JobDesk(const PrintCase &printCase, const PpdDocument &printer, DialogH
                  QObject *parent)
     : QObject(parent), case_(printCase), printer_(printer), host_(host)
 {
+    constexpr int kShortJobMilliseconds = 500;
+    progressDelay_.setSingleShot(true);
+    progressDelay_.setInterval(kShortJobMilliseconds);
+    connect(&progressDelay_, &QTimer::timeout, this, &JobDesk::showProgress);
+    connect(&folderPrinting_, &FolderPrinting::progressed, this, &JobDesk::takeProgress);
     if (!case_.queue.isNull())
         makeQueuePrinting();
 }
 
 void JobDesk::makeQueuePrinting()
 {
-    constexpr int kShortJobMilliseconds = 500;
-    constexpr int kWhole = 100;
     queuePrinting_ = new QueuePrinting(case_.queue, case_.serverLimits, this);
-    progressDelay_.setSingleShot(true);
-    progressDelay_.setInterval(kShortJobMilliseconds);
-    connect(&progressDelay_, &QTimer::timeout, this, &JobDesk::showProgress);
-    connect(queuePrinting_, &QueuePrinting::progressed, this, [this](qint64 sent, qint64 total) {
-        const int percent = total > 0 ? static_cast<int>(kWhole * sent / total) : 0;
-        const bool isNews = std::exchange(sentPercent_, percent) != percent;
-        if (isNews && !progressDelay_.isActive())
-            showProgress();
-    });
+    connect(queuePrinting_, &QueuePrinting::progressed, this, &JobDesk::takeProgress);
     connect(queuePrinting_, &QueuePrinting::signInWanted, this, &JobDesk::signInWanted);
     connect(queuePrinting_, &QueuePrinting::earlierSettled, this, [this](const QString &message) {
         Q_EMIT noticed({QStringLiteral("earlier:") + message, Severity::Warning, message, {}});
     });
 }
 
-bool JobDesk::isSending() const
-{
-    return queuePrinting_ && queuePrinting_->isSending();
-}
-
 void JobDesk::cancel()
 {
-    if (isSending())
+    folderPrinting_.cancel();
+    if (queuePrinting_)
         queuePrinting_->cancel();
 }
 
@@ -76,7 +69,7 @@ void JobDesk::offerSignIn()
 
 void JobDesk::signIn(std::unique_ptr<Credentials> credentials)
 {
-    if (isSending())
+    if (queuePrinting_)
         queuePrinting_->signIn(std::move(credentials));
 }
 
@@ -176,15 +169,47 @@ void JobDesk::printToFolder(const Ticket &made)
     Ticket ticket = made;
     if (!case_.document.isNull())
         ticket.documentFile = documentFileName(case_.document);
-    const QString folder = jobsFolder(case_.jobFolder);
-    const JobFolderResult written = writeJobFolder(folder, ticket, case_.document);
-    if (written.ticketPath.isNull())
+    begin();
+    connect(
+        &folderPrinting_, &FolderPrinting::finished, this,
+        [this, ticket](const JobFolderResult &result) { finishFolderJob(ticket, result); },
+        Qt::SingleShotConnection);
+    folderPrinting_.start([folder = jobsFolder(case_.jobFolder), ticket,
+                           document = case_.document](const FolderWatch &watch) {
+        return writeJobFolder(folder, ticket, document, watch);
+    });
+}
+
+void JobDesk::finishFolderJob(const Ticket &ticket, const JobFolderResult &result)
+{
+    end();
+    if (!result.ticketPath.isNull())
+        Q_EMIT jobMade(
+            {ticket.id, jobOptions(ticket.settings), result.ticketPath, {}, ticket.settings});
+    else if (result.error.isNull())
+        fail(faultMessage({0, JobFault::Cancelled}, {}));
+    else
         fail(tr("The job could not be written to %1: %2. Make room or allow writing there, then "
                 "print again.")
-                 .arg(folder, written.error));
-    else
-        Q_EMIT jobMade(
-            {ticket.id, jobOptions(ticket.settings), written.ticketPath, {}, ticket.settings});
+                 .arg(jobsFolder(case_.jobFolder), result.error));
+    Q_EMIT idle();
+}
+
+void JobDesk::begin()
+{
+    isSending_ = true;
+    sentPercent_ = 0;
+    aftermath_ = Aftermath::None;
+    progressDelay_.start();
+    Q_EMIT sendingChanged(true);
+}
+
+void JobDesk::end()
+{
+    isSending_ = false;
+    progressDelay_.stop();
+    Q_EMIT sendingChanged(false);
+    Q_EMIT dismissed(kJobKey);
 }
 
 void JobDesk::printToQueue(const Ticket &ticket)
@@ -197,10 +222,7 @@ void JobDesk::printToQueue(const Ticket &ticket)
                  .arg(reason));
         return;
     }
-    Q_EMIT sendingChanged(true);
-    sentPercent_ = 0;
-    aftermath_ = Aftermath::None;
-    progressDelay_.start();
+    begin();
     connect(
         queuePrinting_, &QueuePrinting::finished, this,
         [this, ticket](const QueueJobResult &result) { finishQueueJob(ticket, result); },
@@ -208,12 +230,28 @@ void JobDesk::printToQueue(const Ticket &ticket)
     queuePrinting_->send({ticket.documentName, case_.document, options});
 }
 
+void JobDesk::takeProgress(qint64 done, qint64 all)
+{
+    constexpr int kWhole = 100;
+    const int percent = all > 0 ? static_cast<int>(kWhole * done / all) : 0;
+    const bool isNews = std::exchange(sentPercent_, percent) != percent;
+    if (isNews && !progressDelay_.isActive())
+        showProgress();
+}
+
+QString JobDesk::progressWords() const
+{
+    const QString percent = QString::number(sentPercent_);
+    return case_.queue.isNull() ? tr("Writing the job: %1 %.").arg(percent)
+                                : tr("Sending to %1: %2 %.").arg(case_.queue, percent);
+}
+
 void JobDesk::showProgress()
 {
     Q_EMIT progressed(
         {kJobKey,
          Severity::Information,
-         tr("Sending to %1: %2 %.").arg(case_.queue, QString::number(sentPercent_)),
+         progressWords(),
          {{tr("Cancel Job"), QStringLiteral("cancelJobButton"), [this] { cancel(); }}}});
 }
 
@@ -226,26 +264,35 @@ Aftermath JobDesk::aftermathOf(const QueueJobResult &result) const
 
 void JobDesk::finishQueueJob(Ticket ticket, const QueueJobResult &result)
 {
-    progressDelay_.stop();
-    Q_EMIT sendingChanged(false);
-    Q_EMIT dismissed(kJobKey);
     aftermath_ = aftermathOf(result);
     if (result.jobId == 0) {
+        end();
         fail(faultMessage(result, case_.queue));
-    } else {
-        ticket.jobId = result.jobId;
-        // The job is printing: a ticket that cannot be written is no reason to send it again.
-        const JobFolderResult written = writeJobFolder(jobsFolder(case_.jobFolder), ticket, {});
-        const QString number = QString::number(result.jobId);
-        const QStringList told = remarks(result, case_.queue);
-        Q_EMIT noticed(
-            {kJobKey,
-             told.isEmpty() ? Severity::Information : Severity::Warning,
-             QStringList(QStringList{tr("Sent as job %1.").arg(number)} + told).join(u'\n'),
-             {}});
-        Q_EMIT jobMade(
-            {number, jobOptions(ticket.settings), written.ticketPath, told, ticket.settings});
+        Q_EMIT idle();
+        return;
     }
+    // The job is printing: a ticket that cannot be written is no reason to send it again.
+    constexpr auto kTicketLimit = std::chrono::seconds(2);
+    ticket.jobId = result.jobId;
+    runErrand<JobFolderResult>(
+        this, kTicketLimit,
+        [folder = jobsFolder(case_.jobFolder), ticket] {
+            return writeJobFolder(folder, ticket, {});
+        },
+        [this, ticket, told = remarks(result, case_.queue)](const auto &written) {
+            tellMade(ticket, told, written ? written->ticketPath : QString());
+        });
+}
+
+void JobDesk::tellMade(const Ticket &ticket, const QStringList &told, const QString &ticketPath)
+{
+    end();
+    const QString number = QString::number(ticket.jobId);
+    Q_EMIT noticed({kJobKey,
+                    told.isEmpty() ? Severity::Information : Severity::Warning,
+                    (QStringList{tr("Sent as job %1.").arg(number)} + told).join(u'\n'),
+                    {}});
+    Q_EMIT jobMade({number, jobOptions(ticket.settings), ticketPath, told, ticket.settings});
     Q_EMIT idle();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/host/dialog_host.h"
+#include "dialog/jobs/folder_printing.h"
 #include "dialog/jobs/ticket.h"
 #include "dialog/print_case.h"
 #include "dialog/printers/sign_in.h"
@@ -51,7 +52,7 @@ public:
 
     /// Does nothing while a job is on its way.
     void print(Review review);
-    [[nodiscard]] bool isSending() const;
+    [[nodiscard]] bool isSending() const { return isSending_; }
     /// Of the last job, once it has failed.
     [[nodiscard]] Aftermath aftermath() const { return aftermath_; }
     /// Takes the job on its way back; idle() follows.
@@ -83,22 +84,30 @@ Q_SIGNALS:
 
 private:
     void makeQueuePrinting();
+    void begin();
+    void end();
+    void takeProgress(qint64 done, qint64 all);
     [[nodiscard]] QString problemBeforePrinting() const;
     void askForReview(const CommitResult &result);
     [[nodiscard]] QString reviewText(const CommitResult &result) const;
     [[nodiscard]] Ticket makeTicket(const CommitResult &result) const;
     void printToFolder(const Ticket &ticket);
+    void finishFolderJob(const Ticket &ticket, const JobFolderResult &result);
     void printToQueue(const Ticket &ticket);
     void finishQueueJob(Ticket ticket, const QueueJobResult &result);
+    void tellMade(const Ticket &ticket, const QStringList &told, const QString &ticketPath);
     [[nodiscard]] Aftermath aftermathOf(const QueueJobResult &result) const;
     void showProgress();
+    [[nodiscard]] QString progressWords() const;
     void fail(const QString &words);
 
     PrintCase case_;
     const PpdDocument &printer_;
     DialogHost &host_;
     QueuePrinting *queuePrinting_ = nullptr; ///< null without a queue
-    QTimer progressDelay_;                   ///< a short job shows none
+    FolderPrinting folderPrinting_;
+    bool isSending_ = false;
+    QTimer progressDelay_; ///< a short job shows none
     int sentPercent_ = 0;
     Aftermath aftermath_ = Aftermath::None;
 };

@@ -26,10 +26,33 @@ QString writeTicket(const QString &path, const Ticket &ticket)
     return {};
 }
 
-QString copyDocument(const QString &from, const QString &to)
+/// Of the document, between two looks at whether its copy is still wanted.
+constexpr qint64 kPart = 1024 * 1024;
+
+struct Filled
+{
+    bool isDone = false;
+    QString error = {};
+};
+
+Filled copyDocument(const QString &from, const QString &to, const FolderWatch &watch)
 {
     QFile source(from);
-    return source.copy(to) ? QString() : source.errorString();
+    QFile target(to);
+    if (!source.open(QIODevice::ReadOnly))
+        return {false, source.errorString()};
+    if (!target.open(QIODevice::WriteOnly))
+        return {false, target.errorString()};
+    while (!source.atEnd()) {
+        const QByteArray part = source.read(kPart);
+        if (part.isEmpty())
+            return {false, source.errorString()};
+        if (target.write(part) != part.size() || !target.flush())
+            return {false, target.errorString()};
+        if (!watch.goesOn(source.pos(), source.size()))
+            return {};
+    }
+    return {true};
 }
 
 /// Renaming onto a folder that is not empty fails, so that no job is ever replaced.
@@ -40,14 +63,16 @@ QString moveIntoPlace(const QString &from, const QString &to)
     return QString::fromLocal8Bit(std::strerror(errno));
 }
 
-QString fill(const QString &path, const Ticket &ticket, const QString &document)
+Filled fill(const QString &path, const Ticket &ticket, const QString &document,
+            const FolderWatch &watch)
 {
-    if (!document.isNull()) {
-        const QString error = copyDocument(document, path + u'/' + ticket.documentFile);
-        if (!error.isNull())
-            return error;
-    }
-    return writeTicket(path + u'/' + kTicketName, ticket);
+    const Filled copied = document.isNull()
+                              ? Filled{true}
+                              : copyDocument(document, path + u'/' + ticket.documentFile, watch);
+    if (!copied.isDone)
+        return copied;
+    const QString error = writeTicket(path + u'/' + kTicketName, ticket);
+    return {error.isNull(), error};
 }
 
 } // namespace
@@ -68,17 +93,21 @@ QString newJobId(const QDateTime &time)
     return QStringLiteral("korvane-job-") + last.toString(QStringLiteral("yyyyMMdd-hhmmss-zzz"));
 }
 
-JobFolderResult writeJobFolder(const QString &folder, const Ticket &ticket, const QString &document)
+JobFolderResult writeJobFolder(const QString &folder, const Ticket &ticket, const QString &document,
+                               const FolderWatch &watch)
 {
     if (!QDir().mkpath(folder))
         return {{}, QString::fromLocal8Bit(std::strerror(errno))};
     QTemporaryDir partial(folder + QStringLiteral("/.partial-XXXXXX"));
     if (!partial.isValid())
         return {{}, partial.errorString()};
+    const Filled filled = fill(partial.path(), ticket, document, watch);
+    if (!filled.isDone)
+        return {{}, filled.error};
+    if (!watch.mayAppear())
+        return {};
     const QString target = folder + u'/' + ticket.id;
-    QString error = fill(partial.path(), ticket, document);
-    if (error.isNull())
-        error = moveIntoPlace(partial.path(), target);
+    const QString error = moveIntoPlace(partial.path(), target);
     if (!error.isNull())
         return {{}, error};
     partial.setAutoRemove(false);

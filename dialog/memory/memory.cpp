@@ -1,6 +1,6 @@
 #include "dialog/memory/memory.h"
 
-#include "dialog/printers/errand.h"
+#include "dialog/threads/errand.h"
 #include "dialog/usage.h"
 
 namespace dialog {

@@ -170,6 +170,33 @@ TEST(JobFolder, IsForThisUserOnlyAndLeavesNothingHalf)
     EXPECT_EQ(QDir(driver.path(q("jobs"))).entryList(all), QStringList({q("a")}));
 }
 
+TEST(JobFolder, GivenUpWhileItIsWrittenLeavesNothing)
+{
+    test::StagedDriver driver;
+    const QString jobs = driver.path(q("jobs"));
+    const QString document = driver.write(q("large.pdf"), QByteArray(5 * 1024 * 1024, 'x'));
+    Ticket ticket = ticketFor(q("a"));
+    ticket.documentFile = q("document.pdf");
+    int looks = 0;
+    qint64 copied = 0;
+    const FolderWatch untilThird{[&](qint64 bytes, qint64 all) {
+                                     copied = bytes;
+                                     EXPECT_EQ(all, 5 * 1024 * 1024);
+                                     return ++looks < 3;
+                                 },
+                                 [] { return true; }};
+    const FolderWatch untilTheEnd{[](qint64, qint64) { return true; }, [] { return false; }};
+    for (const FolderWatch &watch : {untilThird, untilTheEnd}) {
+        const JobFolderResult result = writeJobFolder(jobs, ticket, document, watch);
+        EXPECT_NULL(result.ticketPath);
+        EXPECT_NULL(result.error);
+        const auto all = QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden;
+        EXPECT_EQ(QDir(jobs).entryList(all), QStringList());
+    }
+    EXPECT_EQ(looks, 3);
+    EXPECT_LT(copied, 5 * 1024 * 1024);
+}
+
 TEST(JobFolder, EveryJobOfAProgramHasANameOfItsOwn)
 {
     const QDateTime now = QDateTime::currentDateTimeUtc();

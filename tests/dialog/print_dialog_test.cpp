@@ -7,7 +7,10 @@
 #include "tests/support/print_to.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -40,6 +43,17 @@ protected:
         ASSERT_TRUE(popUp);
         EXPECT_NULL(replay::input::choose(popUp, index));
         QCoreApplication::processEvents();
+    }
+    /// The event loop turns until the job has ended.
+    void print(Review review)
+    {
+        dialog->print(review);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !dialog->desk().isSending(); }, 30'000));
+    }
+    [[nodiscard]] QStringList jobs() const
+    {
+        return QDir(driver.path(q("jobs")))
+            .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
     }
     QStringList notices() { return dialog->window()->notices().texts(); }
 
@@ -82,13 +96,62 @@ TEST_F(OpenDialog, TheReviewNamesConflictsAndDroppedChoices)
     QSignalSpy made(dialog.get(), &PrintDialog::jobMade);
     dialog->print(Review::Ask);
     EXPECT_EQ(made.count(), 0);
+    EXPECT_FALSE(dialog->desk().isSending());
     const QString review = notices().last();
     EXPECT_TRUE(review.contains(q("“Paper Type: Iron-On Transfer” and “Print Quality: Quick”")))
         << review.toStdString();
     EXPECT_TRUE(review.contains(q("Dry Time: you chose “Long Time”, the job has “Auto Time”")))
         << review.toStdString();
-    dialog->print(Review::Skip);
+    print(Review::Skip);
     EXPECT_EQ(made.count(), 1);
+}
+
+TEST_F(OpenDialog, AJobIsWrittenWhileTheWindowStaysAwake)
+{
+    open(driver.write(q("a.pdf"), "%PDF"));
+    QSignalSpy made(dialog.get(), &PrintDialog::jobMade);
+    QSignalSpy idle(&dialog->desk(), &JobDesk::idle);
+    auto *button = dialog->window()->findChild<QPushButton *>(q("printButton"));
+    dialog->print(Review::Ask);
+    EXPECT_EQ(made.count(), 0) << "nothing is copied before the event loop turns again";
+    EXPECT_TRUE(dialog->desk().isSending());
+    EXPECT_FALSE(button->isEnabled());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return idle.count() == 1; }, 30'000));
+    EXPECT_EQ(made.count(), 1);
+    EXPECT_TRUE(button->isEnabled());
+    EXPECT_EQ(jobs().size(), 1);
+}
+
+TEST_F(OpenDialog, AJobThatIsCancelledIsThereWholeOrNotAtAll)
+{
+    open(driver.write(q("large.pdf"), QByteArray(64 * 1024 * 1024, 'x')));
+    QSignalSpy made(dialog.get(), &PrintDialog::jobMade);
+    QSignalSpy failed(dialog.get(), &PrintDialog::jobFailed);
+    QSignalSpy idle(&dialog->desk(), &JobDesk::idle);
+    dialog->print(Review::Ask);
+    dialog->desk().cancel();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return idle.count() == 1; }, 30'000));
+    EXPECT_EQ(made.count() + failed.count(), 1);
+    if (!failed.isEmpty()) {
+        EXPECT_TRUE(failed[0][0].toString().contains(q("cancelled")));
+    }
+    const auto before = made.count();
+    dialog.reset(); // waits for what has been given up
+    EXPECT_EQ(jobs().size(), before);
+}
+
+TEST_F(OpenDialog, LeavingWhileAJobIsWrittenEndsOnceItIsWholeOrGone)
+{
+    open(driver.write(q("large.pdf"), QByteArray(64 * 1024 * 1024, 'x')));
+    QSignalSpy made(dialog.get(), &PrintDialog::jobMade);
+    QSignalSpy left(dialog.get(), &PrintDialog::left);
+    dialog->print(Review::Ask);
+    EXPECT_NULL(
+        replay::input::click(dialog->window()->findChild<QPushButton *>(q("cancelButton"))));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return left.count() == 1; }, 30'000));
+    const auto before = made.count();
+    dialog.reset();
+    EXPECT_EQ(jobs().size(), before);
 }
 
 TEST_F(OpenDialog, ADocumentThatVanishedIsToldAndNothingIsWritten)
@@ -106,12 +169,12 @@ TEST_F(OpenDialog, ADocumentThatVanishedIsToldAndNothingIsWritten)
 TEST_F(OpenDialog, AFolderThatCannotBeWrittenIsToldAndPrintCanBePressedAgain)
 {
     const QString inTheWay = driver.write(q("jobs"), "a file");
-    dialog->print(Review::Ask);
+    print(Review::Ask);
     ASSERT_EQ(notices().size(), 1);
     EXPECT_TRUE(notices().first().contains(inTheWay)) << notices().first().toStdString();
     ASSERT_TRUE(QFile::remove(inTheWay));
     QSignalSpy made(dialog.get(), &PrintDialog::jobMade);
-    dialog->print(Review::Ask);
+    print(Review::Ask);
     EXPECT_EQ(made.count(), 1);
 }
 

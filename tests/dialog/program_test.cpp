@@ -311,7 +311,7 @@ TEST_F(Program, WritesTheReportIntoAPipeAndLeavesItOne)
     const int reader = open(pipe.constData(), O_RDWR | O_NONBLOCK);
     const ProgramRun run =
         runPrint({q("replay"), driver.write(q("a.txt"), "report start\n"), q("--ppd"),
-                    driver.writePrinter(), q("--report"), QFile::decodeName(pipe)});
+                  driver.writePrinter(), q("--report"), QFile::decodeName(pipe)});
     EXPECT_EQ(run.status, 0) << run.errors.constData();
     char start[2] = {};
     EXPECT_EQ(read(reader, start, 1), 1);

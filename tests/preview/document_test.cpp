@@ -1,12 +1,11 @@
 #include "dialog/preview/preview_document.h"
 #include "tests/preview/sample_documents.h"
+#include "tests/support/gate.h"
 
 #include <QSignalSpy>
 #include <QTest>
 
 #include <gmock/gmock.h>
-
-#include <condition_variable>
 
 namespace dialog {
 namespace {
@@ -14,41 +13,11 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// Lets a document's thread get stuck, and go on.
-class Gate
-{
-public:
-    void pass()
-    {
-        std::unique_lock lock(mutex_);
-        ++arrived_;
-        news_.notify_all();
-        news_.wait(lock, [&] { return isOpen_; });
-    }
-    void open()
-    {
-        const std::lock_guard lock(mutex_);
-        isOpen_ = true;
-        news_.notify_all();
-    }
-    [[nodiscard]] int arrived()
-    {
-        const std::lock_guard lock(mutex_);
-        return arrived_;
-    }
-
-private:
-    std::mutex mutex_;
-    std::condition_variable news_;
-    bool isOpen_ = false;
-    int arrived_ = 0;
-};
-
 /// A document whose first page waits at a gate.
 class GatedSource : public PageSource
 {
 public:
-    explicit GatedSource(std::shared_ptr<Gate> gate) : gate_(std::move(gate)) {}
+    explicit GatedSource(std::shared_ptr<test::Gate> gate) : gate_(std::move(gate)) {}
 
     bool isPicture() const override { return false; }
     int pageCount() const override { return 3; }
@@ -64,7 +33,7 @@ public:
     bool paint(int, QPainter &) override { return false; }
 
 private:
-    std::shared_ptr<Gate> gate_;
+    std::shared_ptr<test::Gate> gate_;
 };
 
 class Document : public testing::Test
@@ -136,7 +105,7 @@ class GatedDocument : public Document
 {
 protected:
     GatedDocument()
-        : gate(std::make_shared<Gate>()), document([gate = gate](const QString &) {
+        : gate(std::make_shared<test::Gate>()), document([gate = gate](const QString &) {
               return OpenedSource{std::make_unique<GatedSource>(gate)};
           })
     {
@@ -147,7 +116,7 @@ protected:
     }
     ~GatedDocument() override { gate->open(); }
 
-    std::shared_ptr<Gate> gate;
+    std::shared_ptr<test::Gate> gate;
     PreviewDocument document;
 };
 
@@ -201,7 +170,7 @@ TEST_F(GatedDocument, ADocumentThatHangsDoesNotHoldUpTheNext)
 
 TEST_F(Document, CanGoAwayWhileItIsBeingOpened)
 {
-    const auto gate = std::make_shared<Gate>();
+    const auto gate = std::make_shared<test::Gate>();
     {
         PreviewDocument document([gate](const QString &) {
             gate->pass();
