@@ -63,5 +63,6 @@ struct OpenedSource
 
 /// By what the file contains, whatever its name.
 [[nodiscard]] OpenedSource openPageSource(const QString &path);
+using SourceOpener = std::function<OpenedSource(const QString &path)>;
 
 } // namespace dialog

@@ -41,7 +41,7 @@ struct PdfSaving::Work : ThreadLink<PdfSaving>
     PdfFault fault = PdfFault::File;
     QString reason = {}; ///< why it is not written, unless it has been given up
 
-    void run();
+    void run(const SourceOpener &opener);
     void failForDocument(const QString &problem)
     {
         fault = PdfFault::Document;
@@ -51,9 +51,9 @@ struct PdfSaving::Work : ThreadLink<PdfSaving>
     [[nodiscard]] int putSide(PageSource &source, int number, QPainter &painter) const;
 };
 
-void PdfSaving::Work::run()
+void PdfSaving::Work::run(const SourceOpener &opener)
 {
-    const OpenedSource opened = openPageSource(order.document);
+    const OpenedSource opened = opener(order.document);
     if (!opened.source) {
         failForDocument(PreviewWords::problem(opened.problem));
         return;
@@ -106,7 +106,10 @@ int PdfSaving::Work::putSide(PageSource &source, int number, QPainter &painter) 
     return side.damaged.empty() || isCancelled ? -1 : side.damaged.front();
 }
 
-PdfSaving::PdfSaving(QObject *parent) : QObject(parent) {}
+PdfSaving::PdfSaving(SourceOpener opener, QObject *parent)
+    : QObject(parent), opener_(std::move(opener))
+{
+}
 
 PdfSaving::~PdfSaving()
 {
@@ -123,8 +126,8 @@ void PdfSaving::start(const PdfOrder &order)
         return;
     work_ = std::make_shared<Work>(this);
     work_->order = order;
-    work_->start([work = work_] {
-        work->run();
+    work_->start([work = work_, opener = opener_] {
+        work->run(opener);
         work->post([work](PdfSaving &saving) { saving.finish(*work); });
     });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/preview/page_source.h"
 #include "dialog/preview/sheet_look.h"
 
 #include <QObject>
@@ -31,7 +32,8 @@ class PdfSaving : public QObject
     Q_OBJECT
 
 public:
-    explicit PdfSaving(QObject *parent = nullptr);
+    /// @p opener is called on the thread.
+    explicit PdfSaving(SourceOpener opener = openPageSource, QObject *parent = nullptr);
     /// Gives up what is under way, and waits a moment for it; nothing of it is left, unless a
     /// damaged document holds it up.
     ~PdfSaving() override;
@@ -54,6 +56,7 @@ private:
     struct Work;
     void finish(const Work &work);
 
+    const SourceOpener opener_;
     std::shared_ptr<Work> work_; ///< shared with the thread; null while there is none
 };
 

@@ -57,7 +57,7 @@ private:
     bool isLeft_ = false;
 };
 
-PreviewDocument::PreviewDocument(Opener opener, QObject *parent)
+PreviewDocument::PreviewDocument(SourceOpener opener, QObject *parent)
     : QObject(parent), opener_(std::move(opener))
 {
 }
@@ -96,7 +96,7 @@ void PreviewDocument::withdraw()
         channel_->put(std::nullopt);
 }
 
-void PreviewDocument::work(const std::shared_ptr<Channel> &channel, const Opener &opener,
+void PreviewDocument::work(const std::shared_ptr<Channel> &channel, const SourceOpener &opener,
                            const QString &path)
 {
     const OpenedSource opened = opener(path);

@@ -33,10 +33,8 @@ class PreviewDocument : public QObject
     Q_OBJECT
 
 public:
-    using Opener = std::function<OpenedSource(const QString &path)>;
-
     /// @p opener is called on the document's thread.
-    explicit PreviewDocument(Opener opener = openPageSource, QObject *parent = nullptr);
+    explicit PreviewDocument(SourceOpener opener = openPageSource, QObject *parent = nullptr);
     ~PreviewDocument() override;
 
     /// opened() follows. Requests for the former document are dropped. Null is no document.
@@ -53,11 +51,11 @@ Q_SIGNALS:
 
 private:
     struct Channel;
-    static void work(const std::shared_ptr<Channel> &channel, const Opener &opener,
+    static void work(const std::shared_ptr<Channel> &channel, const SourceOpener &opener,
                      const QString &path);
     void leaveDocument();
 
-    Opener opener_;
+    SourceOpener opener_;
     std::shared_ptr<Channel> channel_; ///< null before the first document
 };
 

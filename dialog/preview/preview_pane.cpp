@@ -73,7 +73,7 @@ void setWords(QWidget *control, const QString &name)
 
 PreviewPane::PreviewPane(QWidget *parent) : PreviewPane(openPageSource, parent) {}
 
-PreviewPane::PreviewPane(PreviewDocument::Opener opener, QWidget *parent)
+PreviewPane::PreviewPane(SourceOpener opener, QWidget *parent)
     : QWidget(parent), document_(std::move(opener)), view_(new SheetView)
 {
     setObjectName(QStringLiteral("previewPane"));

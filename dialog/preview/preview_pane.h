@@ -22,7 +22,7 @@ class PreviewPane : public QWidget
 public:
     explicit PreviewPane(QWidget *parent = nullptr);
     /// For a document that is opened in another way.
-    explicit PreviewPane(PreviewDocument::Opener opener, QWidget *parent = nullptr);
+    explicit PreviewPane(SourceOpener opener, QWidget *parent = nullptr);
 
     /// Null is no document.
     void setDocument(const QString &path);

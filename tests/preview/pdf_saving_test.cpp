@@ -9,12 +9,14 @@
 #include <QFile>
 #include <QSignalSpy>
 #include <QTest>
+#include <QThread>
 
 #include <gmock/gmock.h>
 #include <poppler-qt6.h>
 
 #include <sys/resource.h>
 
+#include <atomic>
 #include <csignal>
 
 namespace dialog {
@@ -282,16 +284,46 @@ TEST_F(PdfFile, ThatIsGivenUpLeavesTheFormerOne)
     expectFormerFileOnly();
 }
 
+/// A page that is drawn until nobody wants it any more, and takes a while then.
+class SlowSource : public PageSource
+{
+public:
+    SlowSource(std::atomic<bool> &isDrawn, std::atomic<bool> &isClosed)
+        : isDrawn_(isDrawn), isClosed_(isClosed)
+    {
+    }
+    ~SlowSource() override { isClosed_ = true; }
+
+    bool isPicture() const override { return false; }
+    int pageCount() const override { return 1; }
+    QSizeF pageSize(int) override { return test::kA4Points; }
+    QImage picture(const PagePart &, const ShouldStop &shouldStop) override
+    {
+        isDrawn_ = true;
+        while (!shouldStop())
+            QThread::msleep(1);
+        QThread::msleep(20); // long enough for whoever does not wait
+        return {};
+    }
+    bool paint(int, QPainter &) override { return false; }
+
+private:
+    std::atomic<bool> &isDrawn_;
+    std::atomic<bool> &isClosed_;
+};
+
 TEST_F(PdfFile, WhoseWindowGoesLeavesNothing)
 {
-    const QString document = documents.pdf(2'000);
-    {
-        PdfSaving shortLived;
-        QSignalSpy progress(&shortLived, &PdfSaving::progressed);
-        shortLived.start({document, target(), {}, look});
-        ASSERT_TRUE(progress.wait(30'000));
-        EXPECT_TRUE(shortLived.isSaving());
-    }
+    look.isGrayscale = true; // pages are pictures
+    std::atomic<bool> isDrawn = false;
+    std::atomic<bool> isClosed = false;
+    auto shortLived = std::make_unique<PdfSaving>([&](const QString &) {
+        return OpenedSource{std::make_unique<SlowSource>(isDrawn, isClosed)};
+    });
+    shortLived->start({{}, target(), {}, look});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isDrawn.load(); }, 30'000));
+    shortLived.reset();
+    EXPECT_TRUE(isClosed) << "nobody has waited for the thread";
     EXPECT_THAT(filesThere(), IsEmpty());
 }
 
