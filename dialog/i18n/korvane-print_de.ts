@@ -998,6 +998,10 @@
         <source>Sent as job %1.</source>
         <translation>Als Auftrag %1 gesendet.</translation>
     </message>
+    <message>
+        <source>Writing the job: %1 %.</source>
+        <translation>Der Auftrag wird geschrieben: %1 %.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::LayoutPanel</name>

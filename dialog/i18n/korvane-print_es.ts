@@ -998,6 +998,10 @@
         <source>Sent as job %1.</source>
         <translation>Enviado como trabajo %1.</translation>
     </message>
+    <message>
+        <source>Writing the job: %1 %.</source>
+        <translation>Escribiendo el trabajo: %1&#xa0;%.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::LayoutPanel</name>

@@ -998,6 +998,10 @@
         <source>Sent as job %1.</source>
         <translation>Envoyé comme tâche %1.</translation>
     </message>
+    <message>
+        <source>Writing the job: %1 %.</source>
+        <translation>Écriture de la tâche&#xa0;: %1&#xa0;%.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::LayoutPanel</name>

@@ -998,6 +998,10 @@
         <source>Sent as job %1.</source>
         <translation>Inviato come lavoro %1.</translation>
     </message>
+    <message>
+        <source>Writing the job: %1 %.</source>
+        <translation>Scrittura del lavoro: %1%.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::LayoutPanel</name>

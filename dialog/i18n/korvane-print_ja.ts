@@ -994,6 +994,10 @@
         <source>Sent as job %1.</source>
         <translation>ジョブ %1 として送信しました。</translation>
     </message>
+    <message>
+        <source>Writing the job: %1 %.</source>
+        <translation>ジョブを書き込み中: %1%</translation>
+    </message>
 </context>
 <context>
     <name>dialog::LayoutPanel</name>

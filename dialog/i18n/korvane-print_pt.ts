@@ -998,6 +998,10 @@
         <source>Sent as job %1.</source>
         <translation>Enviado como trabalho %1.</translation>
     </message>
+    <message>
+        <source>Writing the job: %1 %.</source>
+        <translation>Gravando o trabalho: %1%.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::LayoutPanel</name>

@@ -994,6 +994,10 @@
         <source>Sent as job %1.</source>
         <translation>已作为作业 %1 发送。</translation>
     </message>
+    <message>
+        <source>Writing the job: %1 %.</source>
+        <translation>正在写入作业：%1%。</translation>
+    </message>
 </context>
 <context>
     <name>dialog::LayoutPanel</name>
