@@ -267,7 +267,7 @@ void Player::takeTurn()
 {
     if (isFinished_)
         return;
-    if (isUnwinding()) {
+    if (isUnwinding() || isWriting()) {
         turn_.start();
         return;
     }
@@ -287,6 +287,13 @@ bool Player::isUnwinding()
         !modalWindows_.empty() && (!modalWindows_.back() || !modalWindows_.back()->isVisible());
     turnsWaited_ = closes ? turnsWaited_ + 1 : 0;
     return closes && turnsWaited_ < kMostTurnsWaited;
+}
+
+/// A job that goes into a folder is there before the next step, however long that takes; one that
+/// goes to a queue may be looked at on its way.
+bool Player::isWriting() const
+{
+    return dialog_ && dialog_->printCase().queue.isNull() && dialog_->desk().isSending();
 }
 
 void Player::perform(const Step &step)

@@ -56,6 +56,7 @@ private:
     void takeTurn();
     void perform(const Step &step);
     [[nodiscard]] bool isUnwinding();
+    [[nodiscard]] bool isWriting() const;
     void fail(const Step &step, const QString &error);
     void finish(Outcome outcome, const QString &message);
 
