@@ -165,6 +165,7 @@ void GeneralView::show(const GeneralState &state)
     collate_->setEnabled(copiesOf(state.settings) > 1);
     reverse_->setChecked(isReversed(state.settings));
     pages_->show(pageRangesOf(state.settings));
+    pages_->setPagesPerSheet(pagesPerSheetOf(state.settings));
     showSetting(pageSet_, JobList::PageSet, state.settings);
     showSetting(orientation_, JobList::Orientation, state.settings);
     showList(paper_, state.paper);

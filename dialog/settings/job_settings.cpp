@@ -210,6 +210,12 @@ QString pageRangesOf(const PrintSettingsMap &settings)
     return ranges.isEmpty() ? QString() : ranges;
 }
 
+int pagesPerSheetOf(const PrintSettingsMap &settings)
+{
+    const int index = jobListIndex(JobList::PagesPerSheet, settings);
+    return kSharedSheets[static_cast<std::size_t>(std::max(index, 0))].pages;
+}
+
 bool isFlipped(const PrintSettingsMap &settings)
 {
     const QVariant value = valueOf(settings, kMirror);

@@ -62,6 +62,8 @@ inline constexpr int kMostCopies = 999;
 [[nodiscard]] bool isReversed(const PrintSettingsMap &settings);
 /// Null: all pages.
 [[nodiscard]] QString pageRangesOf(const PrintSettingsMap &settings);
+/// As they come out: 1 for a number that no sheet has room for.
+[[nodiscard]] int pagesPerSheetOf(const PrintSettingsMap &settings);
 /// Whether the job is mirrored; the text "true" alone says so.
 [[nodiscard]] bool isFlipped(const PrintSettingsMap &settings);
 

@@ -166,6 +166,20 @@ QString pageRangesSetting(const std::vector<PageRange> &ranges)
     return words.join(u',');
 }
 
+std::vector<PageRange> pagesOnSides(const std::vector<PageRange> &sides, int pagesPerSheet,
+                                    std::optional<int> pageCount)
+{
+    std::vector<PageRange> pages;
+    for (const PageRange &range : sides) {
+        const int first = (range.first - 1) * pagesPerSheet + 1;
+        const int last =
+            range.last == PageRange::kEnd ? PageRange::kEnd : range.last * pagesPerSheet;
+        const bool isCut = pageCount && last != PageRange::kEnd;
+        pages.push_back({first, isCut ? std::min(last, *pageCount) : last});
+    }
+    return pages;
+}
+
 QString rangeProblemText(const PageRanges &ranges, std::optional<int> pageCount)
 {
     const QString &part = ranges.part;

@@ -45,4 +45,9 @@ struct PageRanges
 /// Place, reason and remedy for a person; null without a problem.
 [[nodiscard]] QString rangeProblemText(const PageRanges &ranges, std::optional<int> pageCount = {});
 
+/// The document's pages on printed sides with so many pages each, as far as the document goes.
+[[nodiscard]] std::vector<PageRange> pagesOnSides(const std::vector<PageRange> &sides,
+                                                  int pagesPerSheet,
+                                                  std::optional<int> pageCount = {});
+
 } // namespace dialog

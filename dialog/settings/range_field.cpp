@@ -11,13 +11,10 @@
 namespace dialog {
 namespace {
 
-/// What to say beside the field: a problem, or what becomes of a range that is too long.
-QString remarkOn(const PageRanges &read, std::optional<int> pageCount)
+/// With a blank after each comma.
+QString readable(const QString &ranges)
 {
-    if (!read.isCut)
-        return rangeProblemText(read, pageCount);
-    return RangeField::tr("The document has %n page(s): it is printed up to its end.", nullptr,
-                          *pageCount);
+    return QString(ranges).replace(u',', QStringLiteral(", "));
 }
 
 } // namespace
@@ -68,7 +65,7 @@ void RangeField::reset(const QString &ranges)
     setting_ = ranges;
     (ranges.isNull() ? all_ : range_)->setChecked(true);
     if (!ranges.isNull() || !readPageRanges(text_->text()).isValid())
-        text_->setText(QString(ranges).replace(u',', QStringLiteral(", ")));
+        text_->setText(readable(ranges));
     judge();
 }
 
@@ -76,6 +73,12 @@ void RangeField::setPageCount(std::optional<int> count)
 {
     pageCount_ = count;
     judge();
+}
+
+void RangeField::setPagesPerSheet(int pages)
+{
+    if (std::exchange(pagesPerSheet_, pages) != pages)
+        judge();
 }
 
 void RangeField::pickAll()
@@ -97,7 +100,7 @@ void RangeField::read()
 {
     range_->setChecked(true);
     judge();
-    const PageRanges read = readPageRanges(text_->text(), pageCount_);
+    const PageRanges read = readText();
     const QString setting = pageRangesSetting(read.ranges);
     if (!read.isValid() || (setting == setting_ && !setting_.isNull()))
         return;
@@ -105,11 +108,38 @@ void RangeField::read()
     Q_EMIT rangesChanged(setting);
 }
 
+PageRanges RangeField::readText() const
+{
+    const auto sides = [&](int pages) { return (pages + pagesPerSheet_ - 1) / pagesPerSheet_; };
+    return readPageRanges(text_->text(),
+                          pageCount_ ? std::optional(sides(*pageCount_)) : std::nullopt);
+}
+
+/// A problem, or what the numbers come to where that is not what they say.
+QString RangeField::remarkOn(const PageRanges &read) const
+{
+    if (pagesPerSheet_ > 1 && read.problem == RangeProblem::BehindEnd)
+        return tr("“%1”: with %2 pages per sheet the numbers count printed sides, and there are "
+                  "fewer.")
+            .arg(read.part, QString::number(pagesPerSheet_));
+    if (!read.isValid())
+        return rangeProblemText(read, pageCount_);
+    if (pagesPerSheet_ > 1)
+        return tr("With %1 pages per sheet the numbers count printed sides: these have the pages "
+                  "%2 of the document.")
+            .arg(
+                QString::number(pagesPerSheet_),
+                readable(pageRangesSetting(pagesOnSides(read.ranges, pagesPerSheet_, pageCount_))));
+    return read.isCut ? tr("The document has %n page(s): it is printed up to its end.", nullptr,
+                           *pageCount_)
+                      : QString();
+}
+
 void RangeField::judge()
 {
     const bool isUsed = range_->isChecked();
-    const PageRanges read = readPageRanges(text_->text(), pageCount_);
-    const QString said = isUsed ? remarkOn(read, pageCount_) : QString();
+    const PageRanges read = readText();
+    const QString said = isUsed ? remarkOn(read) : QString();
     if (remark_->text() != said) {
         remark_->setText(said);
         remark_->setVisible(!said.isEmpty());

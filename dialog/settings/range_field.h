@@ -12,7 +12,8 @@ class QRadioButton;
 
 namespace dialog {
 
-/// All pages, or those that a person types; what is wrong with them is said as it is typed.
+/// All pages, or those that a person types; what is wrong with them, and what they come to, is said
+/// as it is typed.
 class RangeField : public QWidget
 {
     Q_OBJECT
@@ -28,7 +29,10 @@ public:
     void reset(const QString &ranges);
     /// Null while it is not known.
     void setPageCount(std::optional<int> count);
-    /// Where it says what is wrong; stands where its owner puts it.
+    /// With several, the numbers count printed sides, as the print server has it; the remark says
+    /// which pages those are.
+    void setPagesPerSheet(int pages);
+    /// Where it says so; stands where its owner puts it.
     [[nodiscard]] QLabel *remark() const { return remark_; }
     /// Why these pages cannot be printed; null when they can.
     [[nodiscard]] const QString &problem() const { return problem_; }
@@ -45,12 +49,15 @@ private:
     void pickAll();
     void read();
     void judge();
+    [[nodiscard]] PageRanges readText() const;
+    [[nodiscard]] QString remarkOn(const PageRanges &read) const;
 
     QRadioButton *all_;
     QRadioButton *range_;
     QLineEdit *text_;
     QLabel *remark_;
     std::optional<int> pageCount_;
+    int pagesPerSheet_ = 1;
     QString setting_; ///< as it was shown or told last
     QString problem_;
 };

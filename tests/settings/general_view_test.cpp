@@ -204,6 +204,25 @@ TEST_F(GeneralViewTest, ComparesPagesWithTheDocument)
     EXPECT_NULL(view.problem());
 }
 
+TEST_F(GeneralViewTest, SaysWhichPagesAreMeantWithSeveralOnASheet)
+{
+    view.setPageCount(11);
+    type(q("1-3, 5-"));
+    EXPECT_NULL(error());
+    state.settings = {{q("number-up"), q("2")}, {q("page-ranges"), q("1-3,5-")}};
+    view.show(state);
+    EXPECT_TRUE(error().contains(q("printed sides"))) << error().toStdString();
+    EXPECT_TRUE(error().contains(q("1-6, 9-"))) << error().toStdString();
+    EXPECT_NULL(view.problem());
+    type(q("6"));
+    EXPECT_TRUE(error().contains(q(" 11 "))) << error().toStdString();
+    type(q("7"));
+    EXPECT_SAME(view.problem(), error());
+    EXPECT_TRUE(error().contains(q("“7”"))) << "there are six sides";
+    test::user::click(control<QRadioButton>("pagesAll"));
+    EXPECT_NULL(error());
+}
+
 TEST_F(GeneralViewTest, LeavesWhatIsBeingTypedAloneUntilAReset)
 {
     type(q("4-x"));

@@ -90,4 +90,14 @@ TEST(PageRangesField, ComparesWithTheDocumentWhenItsPagesAreKnown)
     EXPECT_TRUE(readPageRanges(q("13")).isValid()) << "nothing is known of the document";
 }
 
+TEST(PagesOnSides, AreThoseOfTheDocument)
+{
+    const std::vector<PageRange> sides{{1, 1}, {3, 4}, {6, PageRange::kEnd}};
+    EXPECT_TEXT(pageRangesSetting(pagesOnSides(sides, 1)), "1,3-4,6-");
+    EXPECT_TEXT(pageRangesSetting(pagesOnSides(sides, 4)), "1-4,9-16,21-");
+    EXPECT_TEXT(pageRangesSetting(pagesOnSides({{1, 3}}, 4, 10)), "1-10") << "the last is not full";
+    EXPECT_TEXT(pageRangesSetting(pagesOnSides({{9'999'999, 9'999'999}}, 16)),
+                "159999969-159999984");
+}
+
 } // namespace
