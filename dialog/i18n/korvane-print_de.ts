@@ -1428,6 +1428,14 @@
         <source>Pages and ranges of pages, with commas between them</source>
         <translation>Seiten und Seitenbereiche, durch Kommas getrennt</translation>
     </message>
+    <message>
+        <source>“%1”: with %2 pages per sheet the numbers count printed sides, and there are fewer.</source>
+        <translation>„%1“: Bei %2 Seiten pro Blatt zählen die Nummern bedruckte Blattseiten, und es sind weniger.</translation>
+    </message>
+    <message>
+        <source>With %1 pages per sheet the numbers count printed sides: these have the pages %2 of the document.</source>
+        <translation>Bei %1 Seiten pro Blatt zählen die Nummern bedruckte Blattseiten: Darauf stehen die Seiten %2 des Dokuments.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::SaveDesk</name>

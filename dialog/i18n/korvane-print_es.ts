@@ -1428,6 +1428,14 @@
         <source>Pages and ranges of pages, with commas between them</source>
         <translation>Páginas e intervalos de páginas, separados por comas</translation>
     </message>
+    <message>
+        <source>“%1”: with %2 pages per sheet the numbers count printed sides, and there are fewer.</source>
+        <translation>«%1»: con %2 páginas por hoja, los números cuentan las caras impresas, y hay menos.</translation>
+    </message>
+    <message>
+        <source>With %1 pages per sheet the numbers count printed sides: these have the pages %2 of the document.</source>
+        <translation>Con %1 páginas por hoja, los números cuentan las caras impresas: contienen las páginas %2 del documento.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::SaveDesk</name>

@@ -1428,6 +1428,14 @@
         <source>Pages and ranges of pages, with commas between them</source>
         <translation>Pages et intervalles de pages, séparés par des virgules</translation>
     </message>
+    <message>
+        <source>“%1”: with %2 pages per sheet the numbers count printed sides, and there are fewer.</source>
+        <translation>«&#xa0;%1&#xa0;»&#xa0;: avec %2 pages par feuille, les numéros comptent les faces imprimées, et il y en a moins.</translation>
+    </message>
+    <message>
+        <source>With %1 pages per sheet the numbers count printed sides: these have the pages %2 of the document.</source>
+        <translation>Avec %1 pages par feuille, les numéros comptent les faces imprimées&#xa0;: elles portent les pages %2 du document.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::SaveDesk</name>

@@ -1428,6 +1428,14 @@
         <source>Pages and ranges of pages, with commas between them</source>
         <translation>Pagine e intervalli di pagine, separati da virgole</translation>
     </message>
+    <message>
+        <source>“%1”: with %2 pages per sheet the numbers count printed sides, and there are fewer.</source>
+        <translation>“%1”: con %2 pagine per foglio i numeri contano le facciate stampate, e ce ne sono meno.</translation>
+    </message>
+    <message>
+        <source>With %1 pages per sheet the numbers count printed sides: these have the pages %2 of the document.</source>
+        <translation>Con %1 pagine per foglio i numeri contano le facciate stampate: contengono le pagine %2 del documento.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::SaveDesk</name>

@@ -1423,6 +1423,14 @@
         <source>Pages and ranges of pages, with commas between them</source>
         <translation>ページ番号とページ範囲をコンマで区切って入力</translation>
     </message>
+    <message>
+        <source>“%1”: with %2 pages per sheet the numbers count printed sides, and there are fewer.</source>
+        <translation>「%1」: 1枚に %2 ページを割り付けると、番号は印刷面を数えます。印刷面はそれより少なくなります。</translation>
+    </message>
+    <message>
+        <source>With %1 pages per sheet the numbers count printed sides: these have the pages %2 of the document.</source>
+        <translation>1枚に %1 ページを割り付けると、番号は印刷面を数えます。これらには書類の %2 ページが入ります。</translation>
+    </message>
 </context>
 <context>
     <name>dialog::SaveDesk</name>

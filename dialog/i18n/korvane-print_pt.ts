@@ -1428,6 +1428,14 @@
         <source>Pages and ranges of pages, with commas between them</source>
         <translation>Páginas e intervalos de páginas, separados por vírgulas</translation>
     </message>
+    <message>
+        <source>“%1”: with %2 pages per sheet the numbers count printed sides, and there are fewer.</source>
+        <translation>“%1”: com %2 páginas por folha, os números contam os lados impressos, e há menos.</translation>
+    </message>
+    <message>
+        <source>With %1 pages per sheet the numbers count printed sides: these have the pages %2 of the document.</source>
+        <translation>Com %1 páginas por folha, os números contam os lados impressos: eles têm as páginas %2 do documento.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::SaveDesk</name>

@@ -1423,6 +1423,14 @@
         <source>Pages and ranges of pages, with commas between them</source>
         <translation>页码和页码范围，用逗号分隔</translation>
     </message>
+    <message>
+        <source>“%1”: with %2 pages per sheet the numbers count printed sides, and there are fewer.</source>
+        <translation>“%1”：每张 %2 页时，编号按打印面计算，而打印面没有这么多。</translation>
+    </message>
+    <message>
+        <source>With %1 pages per sheet the numbers count printed sides: these have the pages %2 of the document.</source>
+        <translation>每张 %1 页时，编号按打印面计算：这些面上是文稿的第 %2 页。</translation>
+    </message>
 </context>
 <context>
     <name>dialog::SaveDesk</name>
