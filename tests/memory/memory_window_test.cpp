@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QWindow>
 
 #include <gtest/gtest.h>
@@ -110,9 +111,11 @@ public:
     void print() const
     {
         QString ticket;
-        QObject::connect(dialog_.get(), &PrintDialog::jobMade,
+        const QObject scope;
+        QObject::connect(dialog_.get(), &PrintDialog::jobMade, &scope,
                          [&](const JobRecord &job) { ticket = job.ticketPath; });
         dialog_->print(Review::Skip);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog_->desk().isSending(); }, 30'000));
         EXPECT_FALSE(ticket.isNull()) << notices().toStdString();
     }
     void cancel() const { click("cancelButton"); }
