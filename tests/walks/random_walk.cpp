@@ -15,6 +15,7 @@
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QSpinBox>
+#include <QTest>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -309,8 +310,7 @@ void RandomWalk::expectAJob()
     QSignalSpy made(dialog_.get(), &dialog::PrintDialog::jobMade);
     QSignalSpy failed(dialog_.get(), &dialog::PrintDialog::jobFailed);
     dialog_->print(dialog::Review::Skip);
-    for (int turn = 0; turn < 1000 && made.isEmpty() && failed.isEmpty(); ++turn)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !made.isEmpty() || !failed.isEmpty(); }, 30'000));
     EXPECT_EQ(made.size(), 1) << (failed.isEmpty() ? std::string("no answer")
                                                    : failed[0][0].toString().toStdString());
 }
