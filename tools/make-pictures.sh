@@ -30,6 +30,8 @@ for scenario in docs/scenarios/window/*.scenario; do
         play_window "$scenario" "$language" "$language-dark" --dark
     done
 done
+cmake --build "$build" --target part_pictures >/dev/null
+"$build/bin/part_pictures" docs/pictures 2>/dev/null
 for task in tests/scenarios/cases/task-*/case.scenario; do
     tools/replay.sh "$build" "$task" driver/demo/sample.pdf --pictures docs/pictures --job-folder "$scratch/jobs"
 done

@@ -63,7 +63,7 @@ SheetView::SheetView(QWidget *parent) : QAbstractScrollArea(parent)
 QSize SheetView::sizeHint() const
 {
     const int line = fontMetrics().height();
-    return {line * 16, line * 22};
+    return {line * 22, line * 24};
 }
 
 QSize SheetView::minimumSizeHint() const

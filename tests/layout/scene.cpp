@@ -127,7 +127,7 @@ std::string caseName(const testing::TestParamInfo<PartInLook> &info)
 
 Scene::Scene(Part part, const Look &look)
 {
-    if (part == Part::Printers)
+    if (part == Part::Printers || part == Part::SignIn)
         openQueues(look);
     else if (part == Part::Features)
         dialog_ = openPrinter(q(KORVANE_SOURCE_DIR "/tests/scenarios/printers/finisher.ppd"), look);
@@ -141,7 +141,7 @@ Scene::Scene(Part part, const Look &look)
 
 Scene::~Scene() = default;
 
-/// A print server with many queues, which answers at once.
+/// A print server with many queues, which answers at once, and a document.
 void Scene::openQueues(const Look &look)
 {
     const QString ppd = samplePpd(look);
@@ -159,6 +159,7 @@ void Scene::openQueues(const Look &look)
     printCase.root = q(KORVANE_ROOT_DIR);
     printCase.language = q(look.language);
     printCase.queue = queueListing().queues.front().name;
+    printCase.document = q(KORVANE_SOURCE_DIR "/driver/demo/sample.pdf");
     EXPECT_NULL(dialog::PrintDialog::prepare(printCase));
     queues_ = std::make_unique<dialog::QueueDialog>(printCase, std::move(sources));
     EXPECT_TRUE(QTest::qWaitFor([this] {

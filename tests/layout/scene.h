@@ -51,7 +51,7 @@ private:
     [[nodiscard]] QWidget &windowWidget() const;
 
     std::unique_ptr<dialog::PrintDialog> dialog_;
-    std::unique_ptr<dialog::QueueDialog> queues_; ///< of Part::Printers only
+    std::unique_ptr<dialog::QueueDialog> queues_; ///< of parts that need a print server
 };
 
 } // namespace test
