@@ -27,7 +27,7 @@ QString writeTicket(const QString &path, const Ticket &ticket)
 }
 
 /// Of the document, between two looks at whether its copy is still wanted.
-constexpr qint64 kPart = 1024 * 1024;
+constexpr qint64 kPart = 1'048'576;
 
 struct Filled
 {
@@ -66,9 +66,9 @@ QString moveIntoPlace(const QString &from, const QString &to)
 Filled fill(const QString &path, const Ticket &ticket, const QString &document,
             const FolderWatch &watch)
 {
-    const Filled copied = document.isNull()
-                              ? Filled{true}
-                              : copyDocument(document, path + u'/' + ticket.documentFile, watch);
+    Filled copied = document.isNull()
+                        ? Filled{true}
+                        : copyDocument(document, path + u'/' + ticket.documentFile, watch);
     if (!copied.isDone)
         return copied;
     const QString error = writeTicket(path + u'/' + kTicketName, ticket);
