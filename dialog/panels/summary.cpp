@@ -1,6 +1,7 @@
 #include "dialog/panels/summary.h"
 
 #include "dialog/printers/standard_options.h"
+#include "dialog/settings/job_settings.h"
 #include "dialog/settings/setting_words.h"
 
 #include <QCoreApplication>
@@ -15,7 +16,6 @@ class SummaryTexts
     Q_DECLARE_TR_FUNCTIONS(SummaryTexts)
 };
 
-const QString kNumberUp = QStringLiteral("number-up");
 const QString kMirror = QStringLiteral("mirror");
 const QString kPageSize = QStringLiteral("PageSize");
 
@@ -79,8 +79,7 @@ SummarySection jobSection(const OptionGroups &groups, const JobSettings &job)
     const auto &settings = job.printSettings;
     SummarySection section{SummaryTexts::tr("Job"), paperRow(groups, job)};
     for (const QString &key : inReadingOrder(settings)) {
-        const bool isSaidElsewhere = key == columnsKey() && settings.contains(kNumberUp);
-        if (key != kMirror && !isSaidElsewhere)
+        if (key != kMirror && !isCompanion(key, settings))
             section.rows.push_back(settingRow(key, settings.at(key).toString()));
     }
     section.rows.push_back(mirrorRow(job));

@@ -2,6 +2,7 @@
 
 #include "dialog/printers/constraints.h"
 #include "dialog/printers/ppd_document.h"
+#include "dialog/settings/job_settings.h"
 
 #include <algorithm>
 #include <set>
@@ -161,7 +162,8 @@ private:
     [[nodiscard]] QString settingText(const PresetContent &content, const QString &key) const
     {
         const QVariant value = settingOf(content, key);
-        return value.isValid() ? words_.value(key, value) : QString();
+        const bool isSaid = value.isValid() && !isCompanion(key, content.settings);
+        return isSaid ? words_.value(key, value) : QString();
     }
 
     const PresetContent &here_;

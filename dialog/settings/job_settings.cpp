@@ -189,6 +189,12 @@ SettingChanges withCompanions(const SettingChange &change)
     return changes;
 }
 
+bool isCompanion(const QString &key, const PrintSettingsMap &settings)
+{
+    return key == columnsKey() &&
+           settings.contains(QLatin1String(jobList(JobList::PagesPerSheet).key));
+}
+
 int copiesOf(const PrintSettingsMap &settings)
 {
     return std::clamp(platform::integerValue(valueOf(settings, kCopies)), 1, kMostCopies);

@@ -53,6 +53,8 @@ struct JobListRow
 /// A change with what has to be kept in step: pages per sheet are what the panels know of shared
 /// sheets, too.
 [[nodiscard]] SettingChanges withCompanions(const SettingChange &change);
+/// Whether a setting that is there has brought this one along, or would have: it alone counts.
+[[nodiscard]] bool isCompanion(const QString &key, const PrintSettingsMap &settings);
 
 inline constexpr int kMostCopies = 999;
 

@@ -1,5 +1,6 @@
 #include "dialog/presets/preset_messages.h"
 #include "dialog/presets/preset_plan.h"
+#include "dialog/printers/standard_options.h"
 #include "tests/presets/preset_printer.h"
 #include "tests/support/print_to.h"
 
@@ -146,6 +147,16 @@ TEST_F(PresetPlanning, DifferencesAreInThePersonsWords)
                     SettingDifference{q("Lamination"), {}, q("On")},
                     SettingDifference{q("mirror"), q("true"), {}},
                     SettingDifference{q("number-up"), q("2"), q("4")}));
+}
+
+TEST_F(PresetPlanning, WhatPagesPerSheetBringAlongIsNoDifferenceOfItsOwn)
+{
+    const PresetContent four{{}, {{q("number-up"), q("4")}, {columnsKey(), q("2")}}, {}};
+    const PresetContent columns{{}, {{columnsKey(), q("2")}}, {}};
+    EXPECT_THAT(differencesBetween(four, {}, *printer, test::plainWords()),
+                ElementsAre(SettingDifference{q("number-up"), q("4"), {}}));
+    EXPECT_THAT(differencesBetween(columns, {}, *printer, test::plainWords()),
+                ElementsAre(SettingDifference{columnsKey(), q("2"), {}}));
 }
 
 TEST_F(PresetPlanning, APresetThatNamesADefaultDoesNotDifferByIt)

@@ -63,6 +63,14 @@ TEST(JobSettingsLists, TellThePanelsOfSharedSheets)
     EXPECT_EQ(withCompanions({q("copies"), q("2")}).size(), 1U);
 }
 
+TEST(JobSettingsLists, KnowWhatPagesPerSheetHaveBroughtAlong)
+{
+    const PrintSettingsMap shared{{q("number-up"), q("4")}, {columnsKey(), q("2")}};
+    EXPECT_TRUE(isCompanion(columnsKey(), shared));
+    EXPECT_FALSE(isCompanion(q("number-up"), shared));
+    EXPECT_FALSE(isCompanion(columnsKey(), {{columnsKey(), q("2")}})) << "a panel's own";
+}
+
 TEST(JobSettingsCopies, AreCollatedFromTheSecondOn)
 {
     const PrintSettingsMap two = applied(copiesChanges(2, {}));
