@@ -1,5 +1,6 @@
 #include "tests/fuzz/fuzz_dialog.h"
 
+#include "dialog/printers/user_files.h"
 #include "platform/console.h"
 
 #include <QApplication>
@@ -27,6 +28,7 @@ DialogSurroundings::DialogSurroundings()
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("TMPDIR", QFile::encodeName(folder_.path()));
     qputenv("CUPS_SERVER", "127.0.0.1:1");
+    dialog::setUserFolder(personsFolder());
     makeApplication();
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     platform::setConsoleSink([](const QString &) {});
@@ -54,6 +56,12 @@ QString DialogSurroundings::write(const QString &name, const QByteArray &bytes) 
 void DialogSurroundings::clear() const
 {
     QDir(folder_.filePath(QStringLiteral("jobs"))).removeRecursively();
+    QDir(personsFolder()).removeRecursively();
+}
+
+QString DialogSurroundings::personsFolder() const
+{
+    return folder_.filePath(QStringLiteral("person"));
 }
 
 DialogSurroundings &surroundings()

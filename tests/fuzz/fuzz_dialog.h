@@ -8,7 +8,8 @@
 
 namespace fuzz {
 
-/// One application without a display for all executions, and a folder for their files.
+/// One application without a display for all executions, and a folder for their files: what a
+/// scenario keeps, such as presets, never comes to whoever runs the fuzzer.
 class DialogSurroundings
 {
 public:
@@ -18,10 +19,12 @@ public:
     [[nodiscard]] dialog::PrintCase printCase(const QString &ppd) const;
     /// Writes a file into the folder and answers its path.
     [[nodiscard]] QString write(const QString &name, const QByteArray &bytes) const;
-    /// Jobs and logs of earlier executions.
+    /// What earlier executions have left: jobs, presets.
     void clear() const;
 
 private:
+    [[nodiscard]] QString personsFolder() const;
+
     QTemporaryDir folder_;
 };
 

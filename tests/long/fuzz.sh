@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # fuzz.sh BUILD_FOLDER [SECONDS]: builds the fuzz targets and runs each for a number of executions, but for SECONDS (600)
-# at most. At the end, the executions of each target stand on standard output; status 1 when any target failed or
-# fewer than 200,000 executions were made in total. A failing input is kept in BUILD_FOLDER/fuzz.
+# at most. At the end, the executions of each target stand on standard output; status 1 when any target failed, fewer
+# than 200,000 executions were made in total, or something was written into the user's folders. A failing input is kept
+# in BUILD_FOLDER/fuzz.
 set -uo pipefail
 
 source=$(cd "$(dirname "$0")/../.." && pwd)
@@ -26,6 +27,12 @@ corpus() {
         cp "$file" "$work/$target/seeds/$((number += 1))"
     done
 }
+
+# What the dialog keeps for its user must go to the fuzzers' own folders: nothing may appear in this home.
+export HOME=$work/home
+unset XDG_CONFIG_HOME XDG_STATE_HOME XDG_DATA_HOME
+rm -rf "$HOME"
+mkdir "$HOME"
 
 mapfile -d '' lists < <(find "$source/driver/files" "$source/resources" -name '*.plist' -print0)
 corpus property-list "${lists[@]}" "$source"/tests/fuzz/seeds/*.plist
@@ -61,5 +68,7 @@ dictionary=
 run ppd 1500 60000
 
 printf '%s\n' "${report[@]}" "total          $(printf '%9d' "$total") executions"
+left=$(find "$HOME" -path '*/korvane-print*' -type f)
+[[ -z $left ]] || { printf 'written into the user'"'"'s folders: %s\n' $left >&2; failed=1; }
 ((total >= least)) || { echo "fewer than $least executions" >&2; failed=1; }
 exit "$failed"
