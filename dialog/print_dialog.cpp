@@ -221,6 +221,7 @@ void PrintDialog::showPanelsIn(PrintWindow &window)
     showPreview();
     saving_ = std::make_unique<SaveDesk>(desk_, *window_);
     connect(saving_.get(), &SaveDesk::noticed, this, &PrintDialog::notify);
+    connect(saving_.get(), &SaveDesk::fileNamed, this, &PrintDialog::fileNamed);
     connect(saving_.get(), &SaveDesk::saved, this, &PrintDialog::fileSaved);
     connect(saving_.get(), &SaveDesk::failed, this, &PrintDialog::saveFailed);
     window_->fitContents();

@@ -100,6 +100,8 @@ Q_SIGNALS:
     void aboutToShowPanels();
     void jobMade(const dialog::JobRecord &job);
     void jobFailed(const QString &notice);
+    /// A person saves the job, or its ticket, to a file; it is not there so far.
+    void fileNamed(dialog::SaveKind kind);
     /// A PDF file or a ticket is there, or why it is not.
     void fileSaved(const QString &file);
     void saveFailed(const QString &notice);

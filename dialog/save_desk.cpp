@@ -17,14 +17,9 @@ namespace {
 
 const QString kSaveKey = QStringLiteral("save");
 
-QString jsonSuffix()
+QString suffixOf(SaveKind kind)
 {
-    return QStringLiteral("json");
-}
-
-QString pdfSuffix()
-{
-    return QStringLiteral("pdf");
+    return kind == SaveKind::Pdf ? QStringLiteral("pdf") : QStringLiteral("json");
 }
 
 /// The document's name with another suffix.
@@ -41,10 +36,8 @@ SaveDesk::SaveDesk(JobDesk &desk, PrintWindow &window, QObject *parent)
 {
     actions_ = {window_.addSaving(tr("Save as PDF…"), QStringLiteral("savePdf")),
                 window_.addSaving(tr("Save Job Ticket…"), QStringLiteral("saveTicket"))};
-    connect(actions_[0], &QAction::triggered, this,
-            [this] { ask(pdfSuffix(), &SaveDesk::savePdf); });
-    connect(actions_[1], &QAction::triggered, this,
-            [this] { ask(jsonSuffix(), &SaveDesk::saveTicket); });
+    connect(actions_[0], &QAction::triggered, this, [this] { ask(SaveKind::Pdf); });
+    connect(actions_[1], &QAction::triggered, this, [this] { ask(SaveKind::Ticket); });
     connect(&pdf_, &PdfSaving::progressed, this, &SaveDesk::showProgress);
     connect(&pdf_, &PdfSaving::saved, this, &SaveDesk::tellSaved);
     connect(&pdf_, &PdfSaving::failed, this,
@@ -58,16 +51,26 @@ SaveDesk::~SaveDesk()
     qDeleteAll(actions_);
 }
 
-void SaveDesk::ask(const QString &suffix, void (SaveDesk::*save)(const QString &file))
+void SaveDesk::ask(SaveKind kind)
 {
+    const QString suffix = suffixOf(kind);
     auto *dialog = new QFileDialog(&window_);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(suffix);
     dialog->selectFile(proposedName(desk_.document(), suffix));
     connect(dialog, &QFileDialog::fileSelected, this,
-            [this, save](const QString &file) { (this->*save)(file); });
+            [this, kind](const QString &file) { save(kind, file); });
     dialog->open();
+}
+
+void SaveDesk::save(SaveKind kind, const QString &file)
+{
+    Q_EMIT fileNamed(kind);
+    if (kind == SaveKind::Pdf)
+        savePdf(file);
+    else
+        saveTicket(file);
 }
 
 void SaveDesk::savePdf(const QString &file)

@@ -10,6 +10,8 @@ namespace dialog {
 class JobDesk;
 class PrintWindow;
 
+enum class SaveKind { Pdf, Ticket };
+
 /// What stands in the menu of Save: the job as a PDF file, as it would come out, and the ticket of
 /// the job. Asks for the file, and tells in the window what becomes of it.
 class SaveDesk : public QObject
@@ -28,13 +30,16 @@ public:
     [[nodiscard]] bool isSaving() const { return pdf_.isSaving(); }
 
 Q_SIGNALS:
+    /// A person has named a file, which has not been written so far.
+    void fileNamed(dialog::SaveKind kind);
     void noticed(const dialog::Notice &notice);
     /// Of a file that is whole, or of what stands in its way.
     void saved(const QString &file);
     void failed(const QString &notice);
 
 private:
-    void ask(const QString &suffix, void (SaveDesk::*save)(const QString &file));
+    void ask(SaveKind kind);
+    void save(SaveKind kind, const QString &file);
     void showProgress(int sides, int allSides);
     void tellSaved(const QString &file);
     void fail(const QString &file, PdfFault fault, const QString &reason);

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QFileDialog>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLineEdit>
@@ -51,9 +52,11 @@ QString nameOf(QKeyCombination key)
     return again.count() == 1 && again[0] == key ? name : QString();
 }
 
-bool isInSignInPrompt(const QWidget *control)
+/// Where names, passwords and paths are typed; with the questions that a file dialog asks itself.
+bool isPrivate(const QWidget *control)
 {
-    while (control && !qobject_cast<const SignInPrompt *>(control))
+    while (control && !qobject_cast<const SignInPrompt *>(control) &&
+           !qobject_cast<const QFileDialog *>(control))
         control = control->parentWidget();
     return control != nullptr;
 }
@@ -353,10 +356,10 @@ void PersonWatcher::tell(const QWidget *control, const MaybeStep &step)
         Q_EMIT actedWithoutName(control);
 }
 
-/// A name and password are told to nobody.
+/// And nothing that is told to nobody.
 bool PersonWatcher::isInFront(const QWidget *control) const
 {
-    return control->window() == front_() && !isInSignInPrompt(control);
+    return control->window() == front_() && !isPrivate(control);
 }
 
 } // namespace dialog::record

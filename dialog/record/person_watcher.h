@@ -29,7 +29,8 @@ class PersonWatcher : public QObject
 public:
     using Front = std::function<QWidget *()>;
 
-    /// @p front answers the window in front; what happens elsewhere is not told.
+    /// @p front answers the window in front; what happens elsewhere is not told, nor what happens
+    /// in a file dialog or where a name and password are asked for.
     explicit PersonWatcher(Front front);
     /// What the last key did is told in another way.
     void withdrawKey();

@@ -19,7 +19,13 @@ namespace {
 using replay::Step;
 using replay::StepKind;
 
-const QString kCancelButton = QStringLiteral("cancelButton");
+// Other steps tell what these lead to, whatever way a person took: leaving, and saving a file.
+const QString kToldOtherwise[] = {
+    QStringLiteral("cancelButton"),
+    QStringLiteral("saveButton"),
+    QStringLiteral("savePdf"),
+    QStringLiteral("saveTicket"),
+};
 
 /// As a replay finds it from the recording's folder.
 QString pathFrom(const QString &recording, const QString &path)
@@ -49,6 +55,13 @@ QString lineOrReason(const Step &step)
     return line.isNull() ? QStringLiteral("# not recorded: a text of several lines") : line;
 }
 
+bool isToldOtherwise(const Step &step)
+{
+    return step.kind == StepKind::Click &&
+           std::find(std::begin(kToldOtherwise), std::end(kToldOtherwise),
+                     step.arguments.first()) != std::end(kToldOtherwise);
+}
+
 bool isSetBeforePanels(StepKind kind)
 {
     return kind == StepKind::Mark || kind == StepKind::Job || kind == StepKind::Paper;
@@ -64,6 +77,7 @@ Recorder::Recorder(std::unique_ptr<Recording> recording, PrintDialog &dialog)
 {
     writeCase(dialog.printCase());
     connect(&dialog, &PrintDialog::aboutToShowPanels, this, &Recorder::writeStart);
+    connect(&dialog, &PrintDialog::fileNamed, this, &Recorder::writeSaving);
     connect(&dialog, &PrintDialog::left, this, &Recorder::writeLeaving);
     connect(&watcher_, &PersonWatcher::acted, this, &Recorder::writePersons);
     connect(&watcher_, &PersonWatcher::perhapsActed, this, &Recorder::writeTentative);
@@ -128,8 +142,8 @@ void Recorder::writeStart()
 void Recorder::writePersons(const Step &step)
 {
     const QString &control = step.arguments.first();
-    if (step.kind == StepKind::Click && control == kCancelButton)
-        return; // leaving tells it, whatever way a person took
+    if (isToldOtherwise(step))
+        return;
     if (step.kind == StepKind::Choose && control == dialog_.window()->panelPopUp()->objectName())
         write({StepKind::Show, {nameOfPanel(step.arguments.last())}, 0});
     else
@@ -142,6 +156,15 @@ QString Recorder::nameOfPanel(const QString &item) const
     if (!item.startsWith(u'#'))
         return item;
     return dialog_.panels().kind(item.mid(1).toInt());
+}
+
+/// As a replay is told which file a person would name.
+void Recorder::writeSaving(SaveKind kind)
+{
+    if (kind == SaveKind::Pdf)
+        write({StepKind::SavePdf, {QStringLiteral("saved.pdf")}, 0});
+    else
+        write({StepKind::SaveTicket, {QStringLiteral("saved.json")}, 0});
 }
 
 void Recorder::writeLeaving()

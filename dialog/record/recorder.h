@@ -10,6 +10,7 @@
 
 namespace dialog {
 class PrintDialog;
+enum class SaveKind;
 struct PrintCase;
 } // namespace dialog
 
@@ -17,7 +18,8 @@ namespace dialog::record {
 
 /// Writes what a person does in the dialog as a scenario that can be replayed: first the printer
 /// and the platform's values, then what is marked and set before the panels look, then the steps.
-/// Names of document, user and queue are left out.
+/// Names of document, user and queue are left out, and so is whatever a person does in a file dialog
+/// or to sign in: a file that is saved has a name that tells nothing.
 class Recorder : public QObject
 {
     Q_OBJECT
@@ -39,6 +41,7 @@ private:
     void writeTentative(const replay::Step &step);
     void writePersons(const replay::Step &step);
     [[nodiscard]] QString nameOfPanel(const QString &item) const;
+    void writeSaving(SaveKind kind);
     void writeLeaving();
     void comment(const QString &text);
 
