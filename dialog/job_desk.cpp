@@ -103,9 +103,12 @@ void JobDesk::print(Review review)
         fail(problem);
         return;
     }
+    host_.deliverChanges();
+    const ChoiceState before = host_.state();
     const CommitResult result = host_.commitPanels();
     if (review == Review::Ask && !result.isClean()) {
         askForReview(result);
+        host_.takeBackCommit(before); // until a person has agreed
         return;
     }
     if (case_.queue.isNull())

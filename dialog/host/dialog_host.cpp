@@ -167,6 +167,14 @@ CommitResult DialogHost::commitPanels()
     return {printer_.conflicts(), differences()};
 }
 
+void DialogHost::takeBackCommit(const ChoiceState &before)
+{
+    printer_.setMarks(before.marks);
+    settings_.setAll(before.settings);
+    followPageSize();
+    announceChange();
+}
+
 std::vector<Difference> DialogHost::differences() const
 {
     const Choices marks = printer_.marks();

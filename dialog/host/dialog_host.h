@@ -61,6 +61,9 @@ public:
 
     /// Saves every panel: marks each pair that the PPD knows, then looks at the whole once.
     CommitResult commitPanels();
+    /// Takes back what a commit has marked and set since @p before, because nothing comes of it.
+    /// The panels are not told: they hold what they have handed over, and will do so again.
+    void takeBackCommit(const ChoiceState &before);
     /// Counts what is marked beside the defaults as chosen: a preset's marks, before the panels
     /// look.
     void takeMarksAsChosen();

@@ -106,6 +106,29 @@ TEST_F(OpenDialog, TheReviewNamesConflictsAndDroppedChoices)
     EXPECT_EQ(made.count(), 1);
 }
 
+TEST_F(OpenDialog, WhatThePanelsHoldIsMarkedOnlyOnceThePersonPrintsAnyway)
+{
+    choose("ibQuality", 0);
+    choose("ibMedia", 1); // refused, and held by its panel
+    const ChoiceState before = dialog->host().state();
+    const auto press = [&](const char *button) {
+        EXPECT_NULL(replay::input::click(dialog->window()->findChild<QPushButton *>(q(button))));
+        QCoreApplication::processEvents();
+    };
+    press("printButton");
+    ASSERT_TRUE(notices().last().contains(q("Iron-On Transfer"))) << "the review";
+    EXPECT_EQ(dialog->host().state(), before);
+    press("goBackButton");
+    EXPECT_EQ(dialog->host().state(), before);
+    press("printButton");
+    dialog->host().setSetting(q("mirror"), q("true"));
+    EXPECT_EQ(dialog->host().state().marks, before.marks);
+    press("printAnywayButton");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !dialog->desk().isSending(); }, 30'000));
+    EXPECT_TEXT(dialog->printer().marked(q("MediaType")), "IronOn");
+    EXPECT_EQ(jobs().size(), 1);
+}
+
 TEST_F(OpenDialog, AJobIsWrittenWhileTheWindowStaysAwake)
 {
     open(driver.write(q("a.pdf"), "%PDF"));
