@@ -1,5 +1,7 @@
 #include "dialog/window/conflict_sheet.h"
 
+#include "dialog/window/wrapped_label.h"
+
 #include <QAccessible>
 #include <QApplication>
 #include <QButtonGroup>
@@ -16,15 +18,6 @@
 
 namespace dialog {
 namespace {
-
-QLabel *wrappedLabel(const QString &text, QWidget *parent)
-{
-    auto *label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setText(text);
-    return label;
-}
 
 QLabel *warningIcon(QWidget *parent)
 {
@@ -47,7 +40,7 @@ public:
         auto *row = new QHBoxLayout(this);
         row->setContentsMargins({});
         row->addWidget(radio_, 0, Qt::AlignTop);
-        row->addWidget(wrappedLabel(text, this), 1);
+        row->addWidget(new WrappedLabel(text, this), 1);
     }
 
     [[nodiscard]] QRadioButton *radio() const { return radio_; }
@@ -63,7 +56,7 @@ private:
 } // namespace
 
 ConflictSheet::ConflictSheet(QWidget *parent)
-    : QFrame(parent), problem_(wrappedLabel({}, this)), advice_(wrappedLabel({}, this)),
+    : QFrame(parent), problem_(new WrappedLabel({}, this)), advice_(new WrappedLabel({}, this)),
       column_(new QVBoxLayout)
 {
     setObjectName(QStringLiteral("conflictSheet"));
@@ -105,10 +98,10 @@ QWidget *ConflictSheet::makeButtons()
 void ConflictSheet::ask(const ConflictQuestion &question)
 {
     question_ = question;
-    problem_->setText(question.problem);
+    problem_->setWords(question.problem);
     setAccessibleName(question.problem);
     fillWays(question.ways);
-    advice_->setText(question.ways.isEmpty() ? question.advice : tr("What should change?"));
+    advice_->setWords(question.ways.isEmpty() ? question.advice : tr("What should change?"));
     apply_->setVisible(!question.ways.isEmpty());
     if (!std::exchange(isAsking_, true))
         formerFocus_ = QApplication::focusWidget();

@@ -7,11 +7,12 @@
 #include <vector>
 
 class QButtonGroup;
-class QLabel;
 class QPushButton;
 class QVBoxLayout;
 
 namespace dialog {
+
+class WrappedLabel;
 
 /// What a person is asked when a choice cannot stand beside others, in their language.
 struct ConflictQuestion
@@ -60,8 +61,8 @@ private:
     void apply();
     void keep();
 
-    QLabel *problem_;
-    QLabel *advice_;
+    WrappedLabel *problem_;
+    WrappedLabel *advice_;
     QWidget *ways_ = nullptr; ///< new for each question
     QButtonGroup *radios_ = nullptr;
     QVBoxLayout *column_;

@@ -1,5 +1,7 @@
 #include "dialog/window/notice_area.h"
 
+#include "dialog/window/wrapped_label.h"
+
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -37,10 +39,7 @@ QLabel *iconLabel(Severity severity, QWidget *parent)
 
 QLabel *textLabel(const QString &text, QWidget *parent)
 {
-    auto *label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setText(text);
+    auto *label = new WrappedLabel(text, parent);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     label->setAlignment(Qt::AlignTop | Qt::AlignLeading);
     return label;

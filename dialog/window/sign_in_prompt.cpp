@@ -1,9 +1,10 @@
 #include "dialog/window/sign_in_prompt.h"
 
+#include "dialog/window/wrapped_label.h"
+
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -27,11 +28,10 @@ SignInPrompt::SignInPrompt(const SignInQuestion &question, const QString &queue,
 {
     setObjectName(QStringLiteral("signInPrompt"));
     setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
-    auto *words = new QLabel(wordsFor(question, queue), this);
+    const QString text = wordsFor(question, queue);
+    auto *words = new WrappedLabel(text, this);
     words->setObjectName(QStringLiteral("signInWords"));
-    words->setTextFormat(Qt::PlainText);
-    words->setWordWrap(true);
-    setAccessibleName(words->text());
+    setAccessibleName(text);
     auto *form = new QFormLayout;
     user_ = field("signInUser", tr("Name:"), form);
     user_->setText(question.user);

@@ -1,12 +1,15 @@
 #include "dialog/window/help_window.h"
 #include "dialog/window/notice_area.h"
 #include "dialog/window/print_window.h"
+#include "dialog/window/wrapped_label.h"
 #include "platform/controls/pop_up_button.h"
 #include "platform/values.h"
 #include "tests/dialog/staged_driver.h"
 #include "tests/support/print_to.h"
 
+#include <QClipboard>
 #include <QDir>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -92,6 +95,40 @@ TEST_F(Window, ReplacesANoticeOfTheSameKeyAndDismissesGroups)
     EXPECT_EQ(window.notices().texts(), QStringList({q("second"), q("third"), q("fourth")}));
     window.notices().dismissGroup(q("offer:"));
     EXPECT_EQ(window.notices().texts(), QStringList({q("fourth")}));
+}
+
+TEST_F(Window, WrapsNamesThatAreTooLongForALineAndCopiesThemAsTheyAre)
+{
+    const QString name = q("a_rather_long_name_of_a_file_that_somebody_has_made_up-").repeated(3);
+    window.notices().show(notice("a", qPrintable(q("Saved as /home/") + name)));
+    auto *label = window.notices().findChild<WrappedLabel *>();
+    ASSERT_TRUE(label);
+    EXPECT_GT(label->height(), 2 * label->fontMetrics().lineSpacing());
+    EXPECT_LT(label->minimumSizeHint().width(), label->fontMetrics().horizontalAdvance(name) / 3);
+    EXPECT_EQ(label->accessibleName(), q("Saved as /home/") + name);
+    EXPECT_EQ(window.notices().texts(), QStringList{q("Saved as /home/") + name});
+    label->setFocus();
+    label->setSelection(0, static_cast<int>(label->text().size()));
+    QTest::keySequence(label, QKeySequence::Copy);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), q("Saved as /home/") + name);
+}
+
+TEST(TextsWithBreaks, AreAsTheyWereWhereLinesBreakAnyway)
+{
+    for (const QString &text :
+         {QString(), q("/home/person/Documents/2026/report.pdf"), q("Druckerinstallation"),
+          q("\u5370\u5237\u306e\u8a2d\u5b9a").repeated(9)})
+        EXPECT_EQ(withBreaks(text), text) << text.toStdString();
+}
+
+TEST(TextsWithBreaks, BreakBehindThePartsOfANameElseAnywhere)
+{
+    EXPECT_EQ(withBreaks(q("scan_of_the_whole_book.pdf in/it")),
+              q("scan_\u200bof_\u200bthe_\u200bwhole_\u200bbook.\u200bpdf in/it"));
+    EXPECT_EQ(withBreaks(QString(26, u'w')), QString(24, u'w') + q("\u200bw\u200bw"));
+    EXPECT_EQ(withBreaks(QString(24, u'w') + q("e\u0301\U0001d400")),
+              QString(24, u'w') + q("\u200be\u0301\u200b\U0001d400"))
+        << "what belongs together stays so";
 }
 
 TEST_F(Window, SurvivesAPanelsViewThatDies)

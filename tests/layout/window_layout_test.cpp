@@ -1,3 +1,4 @@
+#include "dialog/window/notice_area.h"
 #include "dialog/window/print_window.h"
 #include "tests/layout/sample_window.h"
 #include "tests/layout/scene.h"
@@ -44,6 +45,43 @@ TEST_P(WindowLayout, CutsNoTextWhicheverPanelIsInFront)
         expectNothingCutOff(window);
     }
 }
+
+TEST(WindowAtFirst, IsAsLargeAsItWouldBeLater)
+{
+    const Look look;
+    const Desktop desktop(look);
+    const auto opened = openSample(look);
+    ASSERT_TRUE(opened);
+    const QSize first = opened->window()->size();
+    settle();
+    opened->window()->fitContents();
+    EXPECT_EQ(opened->window()->size(), first);
+}
+
+class NoticeLayout : public testing::TestWithParam<double>
+{
+};
+
+TEST_P(NoticeLayout, CutsOffNoPathHoweverLong)
+{
+    const Look look{"en", GetParam()};
+    const Desktop desktop(look);
+    const auto opened = openSample(look);
+    ASSERT_TRUE(opened);
+    dialog::PrintWindow &window = *opened->window();
+    const QString name = q("minutes_of_the_meeting_about_printers_").repeated(3);
+    window.notices().show({q("save"),
+                           dialog::Severity::Critical,
+                           q("/srv/%1/%2.pdf could not be saved.").arg(QString(60, u'x'), name),
+                           {}});
+    EXPECT_LE(window.minimumSizeHint().width(), kSmallestScreen.width());
+    window.resize(kSmallestScreen);
+    settle();
+    keepPicture(&window, QStringLiteral("long-path-%1").arg(look.fontScale));
+    expectNothingCutOff(window);
+}
+
+INSTANTIATE_TEST_SUITE_P(Fonts, NoticeLayout, testing::Values(1, 1.5));
 
 std::vector<Look> lightLooks()
 {
