@@ -166,10 +166,8 @@ void FeaturesPanel::choose(const Choice &choice, Switch to)
     refresh(); // a refused choice is shown no longer
 }
 
-void FeaturesPanel::refresh()
+void FeaturesPanel::follow()
 {
-    if (!scroll_)
-        build();
     const MarkTable marks(printer_.marks());
     for (const Row &row : rows_) {
         const OptionState state = stateOf(row.control->option(), marks, printer_.rules());

@@ -35,7 +35,6 @@ public:
 
     [[nodiscard]] QString title() const override;
     [[nodiscard]] QString kind() const override;
-    void refresh() override;
     /// Whether there is anything to show.
     [[nodiscard]] bool isEmpty() const { return groups_.empty(); }
 
@@ -48,7 +47,8 @@ private:
         std::size_t section;
     };
 
-    void build();
+    void build() override;
+    void follow() override;
     void makeFilter();
     [[nodiscard]] QWidget *makeContents();
     void addSection(const OptionGroup &group, QGridLayout &grid);

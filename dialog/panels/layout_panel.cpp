@@ -11,7 +11,6 @@
 #include <QLabel>
 
 #include <algorithm>
-#include <utility>
 
 namespace dialog {
 namespace {
@@ -30,10 +29,13 @@ const QString kUsualOrder = QStringLiteral("lrtb");
 } // namespace
 
 LayoutPanel::LayoutPanel(const platform::PrintSettings &settings, QWidget *parent)
-    : OwnPanel(parent), settings_(settings), flip_(new QCheckBox(tr("Flip horizontally"))),
-      flipReason_(new QLabel)
+    : OwnPanel(parent), settings_(settings)
 {
     setObjectName(QStringLiteral("layoutPanel"));
+}
+
+void LayoutPanel::build()
+{
     rows_ = {
         makeRow(JobList::PagesPerSheet, QStringLiteral("pagesPerSheet"), tr("Pages per sheet:"),
                 tr("How many pages share a side of the paper")),
@@ -51,7 +53,7 @@ LayoutPanel::LayoutPanel(const platform::PrintSettings &settings, QWidget *paren
     makeFlip();
     form->addRow(QString(), flip_);
     form->addRow(flipReason_);
-    refresh();
+    drawOrders();
 }
 
 QString LayoutPanel::title() const
@@ -81,6 +83,8 @@ LayoutPanel::Row LayoutPanel::makeRow(JobList list, const QString &name, const Q
 
 void LayoutPanel::makeFlip()
 {
+    flip_ = new QCheckBox(tr("Flip horizontally"));
+    flipReason_ = new QLabel;
     flip_->setObjectName(QStringLiteral("flipHorizontally"));
     flip_->setToolTip(tr("Prints every page as in a mirror"));
     flip_->setEnabled(isMirrorTheJobs());
@@ -109,7 +113,7 @@ void LayoutPanel::drawOrders()
     }
 }
 
-void LayoutPanel::refresh()
+void LayoutPanel::follow()
 {
     const PrintSettingsMap &settings = settings_.all();
     for (const Row &row : rows_)
@@ -121,18 +125,10 @@ void LayoutPanel::refresh()
     flip_->setChecked(isFlipped(settings));
 }
 
-/// The pictures cost more than the rest of the panel, which many never open.
-void LayoutPanel::showEvent(QShowEvent *event)
-{
-    QWidget::showEvent(event);
-    if (!std::exchange(hasDrawnOrders_, true))
-        drawOrders();
-}
-
 void LayoutPanel::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && hasDrawnOrders_)
+    if (event->type() == QEvent::PaletteChange && isBuilt())
         drawOrders();
 }
 

@@ -22,14 +22,12 @@ public:
 
     [[nodiscard]] QString title() const override;
     [[nodiscard]] QString kind() const override;
-    void refresh() override;
 
 Q_SIGNALS:
     /// By a person.
     void settingsChanged(const dialog::SettingChanges &changes);
 
 protected:
-    void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
@@ -40,6 +38,8 @@ private:
         PopUpButton *popUp;
     };
 
+    void build() override;
+    void follow() override;
     Row makeRow(JobList list, const QString &name, const QString &label, const QString &toolTip);
     void makeFlip();
     void drawOrders();
@@ -48,9 +48,8 @@ private:
 
     const platform::PrintSettings &settings_;
     std::vector<Row> rows_;
-    QCheckBox *flip_;
-    QLabel *flipReason_;
-    bool hasDrawnOrders_ = false;
+    QCheckBox *flip_ = nullptr; ///< null, as all, until the controls are made
+    QLabel *flipReason_ = nullptr;
 };
 
 } // namespace dialog

@@ -60,11 +60,17 @@ QLabel *nothingLabel(QWidget *parent)
 
 SummaryPanel::SummaryPanel(PanelStack &panels, DialogHost &host, SummarySources sources,
                            QWidget *parent)
-    : OwnPanel(parent), panels_(panels), host_(host), sources_(std::move(sources)),
-      find_(new QLineEdit(this)), rows_(new QTreeWidget(this)), nothing_(nothingLabel(this))
+    : OwnPanel(parent), panels_(panels), host_(host), sources_(std::move(sources))
 {
     setObjectName(QStringLiteral("summaryView"));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+}
+
+void SummaryPanel::build()
+{
+    find_ = new QLineEdit(this);
+    rows_ = new QTreeWidget(this);
+    nothing_ = nothingLabel(this);
     rows_->setObjectName(QStringLiteral("summaryRows"));
     rows_->setAccessibleName(title());
     rows_->setColumnCount(2);
@@ -119,7 +125,7 @@ void SummaryPanel::makeShortcuts()
             [clear](const QString &typed) { clear->setEnabled(!typed.isEmpty()); });
 }
 
-void SummaryPanel::refresh()
+void SummaryPanel::follow()
 {
     if (!groups_)
         groups_ = sources_.groups();

@@ -35,13 +35,14 @@ public:
 
     [[nodiscard]] QString title() const override { return tr("Summary"); }
     [[nodiscard]] QString kind() const override { return QStringLiteral("summary"); }
-    void refresh() override;
 
     /// Replaces what is shown; what was typed to find stays.
     void show(const Summary &summary);
     using QWidget::show;
 
 private:
+    void build() override;
+    void follow() override;
     [[nodiscard]] QWidget *makeSearchRow();
     void makeShortcuts();
     [[nodiscard]] std::vector<PanelSummary> panelSummaries() const;
@@ -54,9 +55,9 @@ private:
     SummarySources sources_;
     std::optional<OptionGroups> groups_;
     Summary summary_;
-    QLineEdit *find_;
-    QTreeWidget *rows_;
-    QLabel *nothing_; ///< shown when nothing matches
+    QLineEdit *find_ = nullptr; ///< null, as all, until the controls are made
+    QTreeWidget *rows_ = nullptr;
+    QLabel *nothing_ = nullptr; ///< shown when nothing matches
 };
 
 } // namespace dialog

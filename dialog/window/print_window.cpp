@@ -253,10 +253,10 @@ void PrintWindow::fitContents()
     for (QWidget *inner = panelPlace_; inner != this; inner = inner->parentWidget())
         inner->updateGeometry(); // a scroll area keeps such news from its parents
     layout()->activate();
-    const QSize needed = neededSize();
-    widest_ = std::max(widest_, needed.width()); // no panel makes the window narrower than another
-    resize(QSize(widest_, needed.height())
-               .expandedTo(personsSize_)
+    widest_ = std::max(widest_, sizeHint().expandedTo(minimumSize()).width());
+    const int width = fittingWidth();
+    resize(QSize(width, heightFor(width))
+               .expandedTo({0, personsSize_.height()})
                .boundedTo(screen()->availableSize()));
     setUpdatesEnabled(updates);
 }
@@ -267,12 +267,18 @@ void PrintWindow::setPersonsSize(QSize size)
     fitContents();
 }
 
-QSize PrintWindow::neededSize() const
+/// A person may make the window narrower than it would be, as far as nothing is cut off; no panel
+/// makes it narrower than another.
+int PrintWindow::fittingWidth() const
 {
-    const QSize hint = sizeHint().expandedTo(minimumSize());
-    return {hint.width(), layout()->hasHeightForWidth()
-                              ? layout()->totalHeightForWidth(hint.width())
-                              : hint.height()};
+    return personsSize_.isValid() ? std::max(personsSize_.width(), minimumSizeHint().width())
+                                  : widest_;
+}
+
+int PrintWindow::heightFor(int width) const
+{
+    return layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
+                                         : sizeHint().expandedTo(minimumSize()).height();
 }
 
 void PrintWindow::resizeEvent(QResizeEvent *event)

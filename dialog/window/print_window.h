@@ -99,7 +99,8 @@ private:
     void showChooser(bool isShown);
     void leave();
     void allowPrinting();
-    [[nodiscard]] QSize neededSize() const;
+    [[nodiscard]] int fittingWidth() const;
+    [[nodiscard]] int heightFor(int width) const;
 
     QWidget *printer_ = nullptr;
     QFormLayout *heading_ = nullptr;

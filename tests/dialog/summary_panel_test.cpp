@@ -43,12 +43,16 @@ struct SummaryPanelTest : testing::Test
     DialogHost host{*printer};
     PanelStack panels{host};
     SummaryPanel view{panels, host, {[] { return OptionGroups(); }, [] { return JobSettings(); }}};
-    QTreeWidget *rows = view.findChild<QTreeWidget *>(q("summaryRows"));
-    QLineEdit *find = view.findChild<QLineEdit *>(q("summaryFind"));
-    QLabel *nothing = view.findChild<QLabel *>(q("summaryNothing"));
+    QTreeWidget *rows = nullptr;
+    QLineEdit *find = nullptr;
+    QLabel *nothing = nullptr;
 
     SummaryPanelTest()
     {
+        view.refresh();
+        rows = view.findChild<QTreeWidget *>(q("summaryRows"));
+        find = view.findChild<QLineEdit *>(q("summaryFind"));
+        nothing = view.findChild<QLabel *>(q("summaryNothing"));
         view.show(
             {{q("Paper"), {{q("Size"), q("A4")}, {q("Type"), q("Glossy"), Standing::Changed}}},
              {q("Ink"), {{q("Amount"), q("Low"), Standing::Replaced}}}});
@@ -174,6 +178,7 @@ TEST_P(SummaryOfPrinter, SaysEveryChoiceThatCanBeMarked)
     ASSERT_TRUE(print);
     PpdDocument &printer = print->printer();
     auto *view = print->window()->findChild<SummaryPanel *>();
+    view->refresh();
     const auto *rows = view->findChild<QTreeWidget *>(q("summaryRows"));
     for (const QString &option : printer.options())
         for (const QString &choice : printer.choices(option)) {

@@ -7,7 +7,6 @@
 #include "tests/support/user.h"
 
 #include <QCheckBox>
-#include <QCoreApplication>
 #include <QLabel>
 
 #include <gmock/gmock.h>
@@ -31,9 +30,8 @@ protected:
                                  set(change);
                              panel->refresh();
                          });
+        panel->refresh();
         panel->show();
-        QCoreApplication::sendPostedEvents(); // the pictures of orders come with the panel
-        panel->adjustSize();
     }
     /// As the dialog does it.
     void set(const SettingChange &change)
