@@ -9,7 +9,7 @@ namespace dialog {
 namespace {
 
 // Text lines that stay in sight however small the window is.
-constexpr int kLinesInSight = 8;
+constexpr int kLinesInSight = 4;
 
 } // namespace
 
