@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/printers/print_server.h"
+#include "dialog/threads/background_work.h"
 
 #include <QString>
 
@@ -25,6 +26,9 @@ struct PrintCase
     ServerLimits serverLimits = {};
     ServerTimes serverTimes = {};
     std::shared_ptr<Memory> memory = {}; ///< null: nothing is remembered
+    /// Reads and writes presets and the like, in order. The last one who has the case waits for it.
+    std::shared_ptr<BackgroundWork> files =
+        std::make_shared<BackgroundWork>(std::chrono::seconds(1));
 };
 
 } // namespace dialog

@@ -121,8 +121,10 @@ QObject *PrintDialog::openLater(QObject *parent, const PrintCase &printCase,
 PrintDialog::PrintDialog(const PrintCase &printCase, std::unique_ptr<PpdDocument> printer)
     : case_(printCase), printer_(std::move(printer)), host_(*printer_), history_(host_),
       conflicts_(*printer_, host_, history_), desk_(case_, *printer_, host_), panels_(host_),
-      presets_(*printer_, host_,
-               [this](const QString &title, const auto &change) { changeWithUndo(title, change); })
+      presets_(
+          *printer_, host_,
+          [this](const QString &title, const auto &change) { changeWithUndo(title, change); },
+          case_.files)
 {
     host_.followPageSize();
     formerHelpOpener_ = platform::setHelpOpener(

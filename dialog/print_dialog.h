@@ -76,6 +76,7 @@ public:
     [[nodiscard]] PanelStack &panels() { return panels_; }
     [[nodiscard]] const PanelStack &panels() const { return panels_; }
     [[nodiscard]] JobDesk &desk() { return desk_; }
+    [[nodiscard]] const PresetDesk &presets() const { return presets_; }
     /// Null before showPanels().
     [[nodiscard]] SaveDesk *saving() const { return saving_.get(); }
     /// Null before showPanels().

@@ -37,23 +37,42 @@ QueueDialog::QueueDialog(const PrintCase &printCase, QueueSources sources)
     picker_ = new PrinterPicker;
     window_ = std::make_unique<PrintWindow>(picker_, documentName(printCase.document));
     connect(picker_, &PrinterPicker::picked, this, &QueueDialog::switchTo, Qt::QueuedConnection);
-    connect(&watch_, &QueueWatch::answered, this, &QueueDialog::takeListing);
+    connect(&watch_, &QueueWatch::answered, this, &QueueDialog::hearListing);
     connect(window_.get(), &PrintWindow::left, this, &QueueDialog::leave);
     if (case_.memory)
         case_.memory->recallWindow(
             this, [this](const WindowMemory &window) { window_->setPersonsSize(window.size); });
     isRemembered_ = case_.queue.isNull();
-    const QString wanted = isRemembered_ ? lastUsedQueue() : case_.queue;
+    runErrand<QString>(this, sources_.lastUsedDeadline, sources_.lastUsed,
+                       [this](const auto &queue) { takeLastUsed(queue.value_or(QString())); });
     window_->setWaiting(tr("Connecting to %1…").arg(serverName()));
     if (sources_.emptyWindowDelay.count() == 0)
         window_->show();
     else
         QTimer::singleShot(sources_.emptyWindowDelay, window_.get(), [this] { window_->show(); });
-    if (!wanted.isNull())
-        connectTo(wanted);
+    if (!isRemembered_)
+        connectTo(case_.queue);
 }
 
 QueueDialog::~QueueDialog() = default;
+
+void QueueDialog::takeLastUsed(const QString &queue)
+{
+    lastUsed_ = queue;
+    if (isRemembered_ && !queue.isNull())
+        connectTo(queue);
+    if (early_)
+        takeListing(*std::exchange(early_, std::nullopt));
+}
+
+/// Which one was used last stands before all others.
+void QueueDialog::hearListing(const QueueListing &listing)
+{
+    if (lastUsed_)
+        takeListing(listing);
+    else
+        early_ = listing;
+}
 
 void QueueDialog::takeListing(const QueueListing &listing)
 {
@@ -65,7 +84,7 @@ void QueueDialog::takeListing(const QueueListing &listing)
         takeSoFar(listing);
         return;
     }
-    queues_ = inOrderOfUse(listing.queues, lastUsedQueue());
+    queues_ = inOrderOfUse(listing.queues, *lastUsed_);
     picker_->setQueues(queues_);
     if (queues_.empty()) {
         window_->setWaiting(dialog_ ? QString() : QLatin1String(""));
@@ -94,7 +113,7 @@ void QueueDialog::takeSoFar(const QueueListing &listing)
         if (!findQueue(listing.queues, queue.name))
             known.push_back(queue);
     }
-    queues_ = inOrderOfUse(std::move(known), lastUsedQueue());
+    queues_ = inOrderOfUse(std::move(known), *lastUsed_);
     picker_->setQueues(queues_);
 }
 
@@ -220,7 +239,8 @@ void QueueDialog::show(std::unique_ptr<PpdDocument> printer, const Recollection 
     dialog_ = PrintDialog::withPrinter(printCase, std::move(printer));
     dialog_->begin(recollection, carried_);
     connect(dialog_.get(), &PrintDialog::jobMade, this, [this](const JobRecord &job) {
-        rememberLastUsedQueue(queue_);
+        lastUsed_ = queue_;
+        case_.files->add([queue = queue_] { rememberLastUsedQueue(queue); });
         Q_EMIT jobMade(job);
     });
     connect(dialog_.get(), &PrintDialog::left, this, &QueueDialog::left);

@@ -3,6 +3,7 @@
 #include "dialog/print_dialog.h"
 #include "dialog/printers/ppd_cache.h"
 #include "dialog/printers/queue_list.h"
+#include "dialog/printers/user_files.h"
 
 #include <QObject>
 #include <QPointer>
@@ -15,8 +16,8 @@ namespace dialog {
 
 class PrinterPicker;
 
-/// Where the dialog learns of queues and their printers. The functions block and are called on
-/// other threads.
+/// Where the dialog learns of queues and their printers, and which one was used last. The functions
+/// block and are called on other threads.
 struct QueueSources
 {
     QueueWatch::Source list;
@@ -26,6 +27,8 @@ struct QueueSources
     /// A server that answers within this time has its printer shown at once, without an empty
     /// window before it; 0: the window comes at once in any case.
     std::chrono::milliseconds emptyWindowDelay{};
+    std::function<QString()> lastUsed = lastUsedQueue;
+    std::chrono::milliseconds lastUsedDeadline{300}; ///< then none is remembered
 };
 
 /// The print server of the environment.
@@ -60,6 +63,8 @@ Q_SIGNALS:
 private:
     static constexpr int kAutomaticTries = 3;
 
+    void takeLastUsed(const QString &queue);
+    void hearListing(const QueueListing &listing);
     void takeListing(const QueueListing &listing);
     void takeSoFar(const QueueListing &listing);
     void takeProblem(const ServerProblem &problem);
@@ -85,9 +90,11 @@ private:
     // In the order of their dependence: the printer's dialog goes before the window.
     PrintCase case_;
     QueueSources sources_;
-    QString queue_;             ///< null before any is chosen
-    bool isRemembered_ = false; ///< not chosen by the person today, and may be gone
-    int automaticTries_ = 0;    ///< left; of getting a printer that the server did not give
+    QString queue_;                     ///< null before any is chosen
+    bool isRemembered_ = false;         ///< not chosen by the person today, and may be gone
+    std::optional<QString> lastUsed_;   ///< nothing before it is read
+    std::optional<QueueListing> early_; ///< came before that
+    int automaticTries_ = 0;            ///< left; of getting a printer that the server did not give
     std::vector<Queue> queues_;
     PrinterPicker *picker_ = nullptr; ///< belongs to the window
     std::unique_ptr<PrintWindow> window_;

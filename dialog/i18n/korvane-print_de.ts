@@ -1197,6 +1197,10 @@
         <source>Reset to Defaults</source>
         <translation>Auf Standard zurücksetzen</translation>
     </message>
+    <message>
+        <source>Your home folder does not answer. As soon as it does, your presets appear in the menu, and what you have changed in them is written.</source>
+        <translation>Ihr Home-Ordner antwortet nicht. Sobald er antwortet, erscheinen Ihre Voreinstellungen im Menü, und was Sie daran geändert haben, wird gespeichert.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PreviewPane</name>

@@ -1197,6 +1197,10 @@
         <source>Reset to Defaults</source>
         <translation>Restablecer valores</translation>
     </message>
+    <message>
+        <source>Your home folder does not answer. As soon as it does, your presets appear in the menu, and what you have changed in them is written.</source>
+        <translation>Su carpeta personal no responde. En cuanto lo haga, sus preajustes aparecerán en el menú y se guardará lo que haya cambiado en ellos.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PreviewPane</name>

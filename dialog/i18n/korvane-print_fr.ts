@@ -1197,6 +1197,10 @@
         <source>Reset to Defaults</source>
         <translation>Rétablir les réglages par défaut</translation>
     </message>
+    <message>
+        <source>Your home folder does not answer. As soon as it does, your presets appear in the menu, and what you have changed in them is written.</source>
+        <translation>Votre dossier personnel ne répond pas. Dès qu’il répondra, vos préréglages apparaîtront dans le menu et ce que vous y avez modifié sera enregistré.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PreviewPane</name>

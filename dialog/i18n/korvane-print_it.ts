@@ -1197,6 +1197,10 @@
         <source>Reset to Defaults</source>
         <translation>Ripristina predefiniti</translation>
     </message>
+    <message>
+        <source>Your home folder does not answer. As soon as it does, your presets appear in the menu, and what you have changed in them is written.</source>
+        <translation>La tua cartella personale non risponde. Appena risponde, le tue preimpostazioni appaiono nel menu e ciò che vi hai modificato viene salvato.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PreviewPane</name>

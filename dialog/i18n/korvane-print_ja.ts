@@ -1193,6 +1193,10 @@
         <source>Reset to Defaults</source>
         <translation>デフォルトに戻す</translation>
     </message>
+    <message>
+        <source>Your home folder does not answer. As soon as it does, your presets appear in the menu, and what you have changed in them is written.</source>
+        <translation>ホームフォルダが応答しません。応答すると、プリセットがメニューに表示され、プリセットに加えた変更が保存されます。</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PreviewPane</name>

@@ -1197,6 +1197,10 @@
         <source>Reset to Defaults</source>
         <translation>Restaurar padrões</translation>
     </message>
+    <message>
+        <source>Your home folder does not answer. As soon as it does, your presets appear in the menu, and what you have changed in them is written.</source>
+        <translation>Sua pasta pessoal não responde. Assim que ela responder, suas predefinições aparecerão no menu e o que você alterou nelas será salvo.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PreviewPane</name>

@@ -1193,6 +1193,10 @@
         <source>Reset to Defaults</source>
         <translation>恢复默认值</translation>
     </message>
+    <message>
+        <source>Your home folder does not answer. As soon as it does, your presets appear in the menu, and what you have changed in them is written.</source>
+        <translation>您的主文件夹没有响应。一旦响应，您的预设就会显示在菜单中，您对预设所做的更改也会保存。</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PreviewPane</name>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dialog/memory/background_work.h"
 #include "dialog/memory/memory_store.h"
+#include "dialog/threads/background_work.h"
 
 #include <QObject>
 

@@ -17,7 +17,11 @@ namespace {
 const QString kFaultKey = QStringLiteral("preset:fault");
 const QString kRemarksKey = QStringLiteral("preset:remarks");
 const QString kSetAsideKey = QStringLiteral("preset:set-aside");
+const QString kSlowKey = QStringLiteral("preset:slow");
 const QString kUndoKey = QStringLiteral("preset:undo");
+
+/// A person is told of files that do not answer after this.
+constexpr std::chrono::seconds kPatience(3);
 
 const Preset *findPreset(const std::vector<Preset> &presets, const QString &name)
 {
@@ -27,14 +31,33 @@ const Preset *findPreset(const std::vector<Preset> &presets, const QString &name
     return found == presets.end() ? nullptr : &*found;
 }
 
+/// An update back to what was before answers that.
+PresetChange updatingBack(const Preset &former)
+{
+    return [former](std::vector<Preset> &presets) {
+        StoreResult result = updating(former)(presets);
+        result.preset = former;
+        return result;
+    };
+}
+
 } // namespace
 
 PresetDesk::PresetDesk(const PpdDocument &printer, DialogHost &host, Changer changer,
-                       QObject *parent)
+                       std::shared_ptr<BackgroundWork> files, QObject *parent)
     : QObject(parent), printer_(printer), host_(host), changer_(std::move(changer)),
-      store_(modelOf(printer))
+      store_(modelOf(printer)), files_(std::move(files)),
+      link_(std::make_shared<ThreadLink<PresetDesk>>(this))
 {
+    patience_.setSingleShot(true);
+    patience_.setInterval(kPatience);
+    connect(&patience_, &QTimer::timeout, this, &PresetDesk::tellSlowness);
     connect(&host_, &DialogHost::stateChanged, this, &PresetDesk::followState);
+}
+
+PresetDesk::~PresetDesk()
+{
+    link_->hangUp();
 }
 
 PresetBar *PresetDesk::makeBar()
@@ -49,7 +72,7 @@ PresetBar *PresetDesk::makeBar()
     });
     hasStartedSo_ = present() == applied_.content;
     printers_ = printerPresets(printer_);
-    readFile();
+    ask({});
     fillBar();
     bar_->select(applied_.entry);
     followState();
@@ -78,14 +101,68 @@ void PresetDesk::setLastUsed(const PresetContent &content)
     lastUsed_ = content;
     fillBar();
     if (applied_.entry.kind == PresetKind::LastUsed)
-        showStored(applied_.entry, content);
+        showStored({applied_.entry, content});
 }
 
-void PresetDesk::readFile()
+void PresetDesk::ask(const Asked &asked)
 {
-    PresetListing listing = store_.list();
-    static_cast<void>(tell(listing.result));
-    own_ = std::move(listing.presets);
+    Q_EMIT dismissed(kFaultKey);
+    if (!isBusy())
+        patience_.start();
+    asked_.push_back(asked);
+    files_->add([link = link_, store = store_, change = asked.change] {
+        const StoreResult result = change ? store.change(change) : StoreResult();
+        link->post([result, listing = store.list()](PresetDesk &desk) {
+            desk.takeAnswer(result, listing);
+        });
+    });
+}
+
+void PresetDesk::takeAnswer(const StoreResult &result, const PresetListing &listing)
+{
+    const Asked asked = std::move(asked_.front());
+    asked_.pop_front();
+    if (isBusy()) {
+        patience_.start();
+    } else {
+        patience_.stop();
+        Q_EMIT dismissed(kSlowKey);
+    }
+    if (listing.result.isOk())
+        kept_ = listing.presets;
+    listPresets();
+    if (tell(result))
+        static_cast<void>(tell(listing.result));
+    if (asked.done)
+        asked.done(result);
+    if (!contentOfEntry(applied_.entry))
+        showStored(defaults());
+}
+
+/// Another dialog may have changed the presets since; what it made of this one counts, unless the
+/// person has gone on.
+void PresetDesk::refresh(const PresetEntry &entry)
+{
+    const auto follow = [this, applied = applied_, former = contentOfEntry(entry)](const auto &) {
+        const std::optional<PresetContent> content = contentOfEntry(applied.entry);
+        if (!content && applied_.entry == applied.entry)
+            static_cast<void>(tell({StoreFault::Gone}));
+        else if (content != former && applied_ == applied && present() == applied.content)
+            applyContent(applied.entry, *content);
+    };
+    ask({{}, follow});
+}
+
+/// Those of the file, with what is still on its way there.
+void PresetDesk::listPresets()
+{
+    own_ = kept_;
+    for (const Asked &asked : asked_) {
+        if (asked.change)
+            static_cast<void>(asked.change(own_));
+    }
+    sortByName(own_);
+    fillBar();
 }
 
 void PresetDesk::fillBar()
@@ -125,23 +202,32 @@ PresetContent PresetDesk::present() const
     return contentOf(host_.state(), printer_);
 }
 
-/// Another dialog may have changed the presets since; what it made of this one counts.
+PresetDesk::Applied PresetDesk::ownPreset(const Preset &preset)
+{
+    return {{PresetKind::Own, preset.name}, preset.content};
+}
+
+PresetDesk::Applied PresetDesk::defaults() const
+{
+    return {{}, contentOf(defaults_, printer_)};
+}
+
 void PresetDesk::apply(const PresetEntry &entry)
 {
     if (entry.kind == PresetKind::Defaults)
         return reset();
-    if (entry.kind == PresetKind::Own) {
-        readFile();
-        fillBar();
-    }
     const std::optional<PresetContent> content = contentOfEntry(entry);
-    if (!content) {
-        static_cast<void>(tell({StoreFault::Gone}));
-        bar_->select(applied_.entry);
+    if (!content)
         return;
-    }
+    applyContent(entry, *content);
+    if (entry.kind == PresetKind::Own)
+        refresh(entry);
+}
+
+void PresetDesk::applyContent(const PresetEntry &entry, const PresetContent &content)
+{
     const QString name = entry.kind == PresetKind::LastUsed ? tr("Last Used Settings") : entry.name;
-    const PresetPlan plan = planPreset(*content, printer_, host_.state());
+    const PresetPlan plan = planPreset(content, printer_, host_.state());
     changer_(tr("Preset “%1”").arg(name), [&] { host_.setState(plan.state); });
     showApplied(entry);
     tellRemarks(name, plan);
@@ -170,9 +256,9 @@ void PresetDesk::showApplied(const PresetEntry &entry)
 }
 
 /// The presets before are past; what is set stays.
-void PresetDesk::showStored(const PresetEntry &entry, const PresetContent &content)
+void PresetDesk::showStored(const Applied &stored)
 {
-    applied_ = former_ = Applied{entry, content};
+    applied_ = former_ = stored;
     showEntry();
 }
 
@@ -214,68 +300,71 @@ Preset PresetDesk::presentPreset(const QString &name) const
 
 void PresetDesk::save(const QString &name)
 {
-    const StoreResult result = store_.save(presentPreset(name));
-    if (!take(result))
-        return;
-    showStored({PresetKind::Own, result.preset->name}, present());
+    change(saving(presentPreset(name)), ownPreset, {});
 }
 
 /// One that was gone is saved anew, with nothing to take back.
 void PresetDesk::update()
 {
     const Preset updated = presentPreset(applied_.entry.name);
-    const StoreResult result = store_.update(updated);
-    if (!take(result))
-        return;
-    showStored(applied_.entry, updated.content);
-    if (*result.preset == updated)
-        return;
-    offerUndo(tr("The preset “%1” has the present settings now.").arg(updated.name),
-              [this, former = *result.preset] {
-                  StoreResult undone = store_.update(former);
-                  undone.preset = former;
-                  return undone;
-              });
+    const auto outcome = [updated](const Preset &) { return ownPreset(updated); };
+    change(updating(updated), outcome, [this, updated](const Preset &former) {
+        if (former != updated)
+            offerUndo(tr("The preset “%1” has the present settings now.").arg(updated.name),
+                      updatingBack(former));
+    });
 }
 
 void PresetDesk::rename(const QString &name)
 {
-    const StoreResult result = store_.rename(applied_.entry.name, name);
-    if (!take(result))
-        return;
-    showStored({PresetKind::Own, result.preset->name}, applied_.content);
+    const auto outcome = [content = applied_.content](const Preset &renamed) {
+        return Applied{{PresetKind::Own, renamed.name}, content};
+    };
+    change(renaming(applied_.entry.name, name), outcome, {});
 }
 
 /// What it had set stays, as a change of the default settings.
 void PresetDesk::remove()
 {
-    const StoreResult result = store_.remove(applied_.entry.name);
-    if (!take(result))
-        return;
-    showStored({}, contentOf(defaults_, printer_));
-    offerUndo(tr("The preset “%1” has been deleted.").arg(result.preset->name),
-              [this, removed = *result.preset] { return store_.restore(removed); });
+    const auto outcome = [this](const Preset &) { return defaults(); };
+    change(removing(applied_.entry.name), outcome, [this](const Preset &removed) {
+        offerUndo(tr("The preset “%1” has been deleted.").arg(removed.name), restoring(removed));
+    });
 }
 
-void PresetDesk::offerUndo(const QString &text, const std::function<StoreResult()> &undo)
+/// A person who has gone on to something else in the meantime is left there.
+void PresetDesk::change(const PresetChange &change, const Outcome &outcome,
+                        const std::function<void(const Preset &preset)> &done)
 {
-    const auto run = [this, undo] {
-        const StoreResult result = undo();
-        if (take(result))
-            showStored({PresetKind::Own, result.preset->name}, result.preset->content);
-    };
+    const Applied before = applied_;
+    const StoreResult expected = change(own_);
+    const Applied shown = expected.isOk() ? outcome(*expected.preset) : before;
+    ask({change, [=, this](const StoreResult &result) {
+             const Applied after = result.isOk() ? outcome(*result.preset) : before;
+             if (applied_ == shown && after != shown)
+                 showStored(after);
+             if (result.isOk() && done)
+                 done(*result.preset);
+         }});
+    listPresets();
+    if (expected.isOk())
+        showStored(shown);
+}
+
+void PresetDesk::offerUndo(const QString &text, const PresetChange &undo)
+{
+    const auto run = [this, undo] { change(undo, ownPreset, {}); };
     Q_EMIT noticed(
         {kUndoKey, Severity::Information, text, {{tr("Undo"), QStringLiteral("presetUndo"), run}}});
 }
 
-/// What was changed shows in the list.
-bool PresetDesk::take(const StoreResult &result)
+void PresetDesk::tellSlowness()
 {
-    if (!tell(result))
-        return false;
-    readFile();
-    fillBar();
-    return true;
+    Q_EMIT noticed({kSlowKey,
+                    Severity::Warning,
+                    tr("Your home folder does not answer. As soon as it does, your presets appear "
+                       "in the menu, and what you have changed in them is written."),
+                    {}});
 }
 
 bool PresetDesk::tell(const StoreResult &result)
@@ -287,7 +376,6 @@ bool PresetDesk::tell(const StoreResult &result)
         Q_EMIT noticed({kFaultKey, Severity::Critical, PresetMessages::fault(result), {}});
         return false;
     }
-    Q_EMIT dismissed(kFaultKey);
     return true;
 }
 

@@ -1,13 +1,9 @@
 #include "dialog/presets/preset_store.h"
 
 #include "dialog/presets/preset_file.h"
-#include "dialog/presets/preset_name.h"
 #include "dialog/presets/set_aside.h"
-#include "dialog/printers/name_order.h"
 
 #include <QLockFile>
-
-#include <algorithm>
 
 namespace dialog {
 namespace {
@@ -28,36 +24,6 @@ StoreResult resultOf(const QLockFile &lock, const QString &path)
     default:
         return {StoreFault::NoRoom, path}; // the lock's few bytes could not be written
     }
-}
-
-QStringList namesOf(const std::vector<Preset> &presets)
-{
-    QStringList names;
-    for (const Preset &preset : presets)
-        names.append(preset.name);
-    return names;
-}
-
-auto findPreset(std::vector<Preset> &presets, const QString &name)
-{
-    return std::find_if(presets.begin(), presets.end(),
-                        [&](const Preset &preset) { return isSamePresetName(preset.name, name); });
-}
-
-void sortByName(std::vector<Preset> &presets)
-{
-    const QCollator collator = nameOrder();
-    std::stable_sort(presets.begin(), presets.end(), [&](const Preset &a, const Preset &b) {
-        return collator.compare(a.name, b.name) < 0;
-    });
-}
-
-StoreResult added(std::vector<Preset> &presets, const Preset &preset)
-{
-    if (presets.size() >= kMostPresets)
-        return {StoreFault::TooMany};
-    presets.push_back(preset);
-    return {.preset = preset};
 }
 
 /// Nothing where the folder is not there yet.
@@ -126,7 +92,8 @@ PresetStore::Read PresetStore::readOrSetAside(const PrivateFolder &folder) const
     return found;
 }
 
-StoreResult PresetStore::write(const PrivateFolder &folder, const Presets &presets) const
+StoreResult PresetStore::write(const PrivateFolder &folder,
+                               const std::vector<Preset> &presets) const
 {
     const auto refused = folder.replace(fileName_, writtenPresets(model_, presets));
     return refused ? resultOf(*refused) : StoreResult();
@@ -145,7 +112,7 @@ PresetListing PresetStore::list() const
         found.result = {StoreFault::Newer, folder.pathOf(fileName_)};
     if (found.file.health == FileHealth::Damaged) {
         // As a change of nothing: under the lock, and only if it is still so then.
-        found.result = change([&](Presets &presets) {
+        found.result = change([&](std::vector<Preset> &presets) {
             found.file.presets = presets;
             return StoreResult();
         });
@@ -154,7 +121,7 @@ PresetListing PresetStore::list() const
     return {std::move(found.file.presets), std::move(found.result)};
 }
 
-StoreResult PresetStore::change(const Change &change) const
+StoreResult PresetStore::change(const PresetChange &change) const
 {
     const PrivateFolder::Opened opened = presetFolder();
     if (const auto *refused = std::get_if<Refusal>(&opened))
@@ -167,7 +134,7 @@ StoreResult PresetStore::change(const Change &change) const
     Read found = readOrSetAside(folder);
     if (!found.result.isOk())
         return found.result;
-    const Presets before = found.file.presets;
+    const std::vector<Preset> before = found.file.presets;
     StoreResult result = change(found.file.presets);
     if (result.isOk() && found.file.presets != before) {
         StoreResult written = write(folder, found.file.presets);
@@ -176,60 +143,6 @@ StoreResult PresetStore::change(const Change &change) const
     }
     result.setAside = found.result.setAside;
     return result;
-}
-
-StoreResult PresetStore::save(const Preset &preset) const
-{
-    return change([&](Presets &presets) {
-        return nameFault(preset.name, namesOf(presets)) == NameFault::Taken
-                   ? StoreResult{StoreFault::NameTaken}
-                   : added(presets, preset);
-    });
-}
-
-StoreResult PresetStore::update(const Preset &preset) const
-{
-    return change([&](Presets &presets) {
-        const auto found = findPreset(presets, preset.name);
-        if (found == presets.end())
-            return added(presets, preset);
-        return StoreResult{.preset = std::exchange(*found, preset)};
-    });
-}
-
-StoreResult PresetStore::rename(const QString &name, const QString &to) const
-{
-    return change([&](Presets &presets) {
-        const auto found = findPreset(presets, name);
-        if (found == presets.end())
-            return StoreResult{StoreFault::Gone};
-        const auto taken = findPreset(presets, to);
-        if (taken != presets.end() && taken != found)
-            return StoreResult{StoreFault::NameTaken};
-        found->name = cleanPresetName(to);
-        return StoreResult{.preset = *found};
-    });
-}
-
-StoreResult PresetStore::remove(const QString &name) const
-{
-    return change([&](Presets &presets) {
-        const auto found = findPreset(presets, name);
-        if (found == presets.end())
-            return StoreResult{StoreFault::Gone};
-        StoreResult result{.preset = std::move(*found)};
-        presets.erase(found);
-        return result;
-    });
-}
-
-StoreResult PresetStore::restore(const Preset &preset) const
-{
-    return change([&](Presets &presets) {
-        Preset again = preset;
-        again.name = freePresetName(preset.name, namesOf(presets));
-        return added(presets, again);
-    });
 }
 
 } // namespace dialog

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "dialog/presets/store_result.h"
-
-#include <functional>
+#include "dialog/presets/preset_change.h"
 
 namespace dialog {
 
@@ -15,32 +13,37 @@ struct PresetListing
 /// The presets of one model of printer: a file of its own in the user's configuration. Each
 /// operation reads the file anew and holds a lock while it changes it, so that several dialogs lose
 /// nothing of each other's. A damaged file is renamed, never overwritten; what is whole in it
-/// stays.
+/// stays. Every call may block for as long as the user's folder likes; any thread may make it.
 class PresetStore
 {
 public:
     explicit PresetStore(QString model);
 
     [[nodiscard]] PresetListing list() const;
-    /// Adds a preset whose name is free.
-    [[nodiscard]] StoreResult save(const Preset &preset) const;
-    /// Replaces the content of the preset of that name. One that is gone is added.
-    [[nodiscard]] StoreResult update(const Preset &preset) const;
-    /// A name may get another case.
-    [[nodiscard]] StoreResult rename(const QString &name, const QString &to) const;
-    [[nodiscard]] StoreResult remove(const QString &name) const;
-    /// Adds a removed preset again, under the next free name where the old one is taken.
-    [[nodiscard]] StoreResult restore(const Preset &preset) const;
+    [[nodiscard]] StoreResult change(const PresetChange &change) const;
+
+    [[nodiscard]] StoreResult save(const Preset &preset) const { return change(saving(preset)); }
+    [[nodiscard]] StoreResult update(const Preset &preset) const
+    {
+        return change(updating(preset));
+    }
+    [[nodiscard]] StoreResult rename(const QString &name, const QString &to) const
+    {
+        return change(renaming(name, to));
+    }
+    [[nodiscard]] StoreResult remove(const QString &name) const { return change(removing(name)); }
+    [[nodiscard]] StoreResult restore(const Preset &preset) const
+    {
+        return change(restoring(preset));
+    }
 
 private:
-    using Presets = std::vector<Preset>;
-    using Change = std::function<StoreResult(Presets &presets)>;
     struct Read;
 
-    [[nodiscard]] StoreResult change(const Change &change) const;
     [[nodiscard]] Read read(const PrivateFolder &folder) const;
     [[nodiscard]] Read readOrSetAside(const PrivateFolder &folder) const;
-    [[nodiscard]] StoreResult write(const PrivateFolder &folder, const Presets &presets) const;
+    [[nodiscard]] StoreResult write(const PrivateFolder &folder,
+                                    const std::vector<Preset> &presets) const;
 
     QString model_;
     QString fileName_;

@@ -275,6 +275,8 @@ void Player::takeTurn()
         finish(Outcome::AllDone, {});
     else if (!dialog_ && !standsBeforePrinter(scenario_.steps[next_].kind))
         openPrinter();
+    else if (needsPanels(scenario_.steps[next_].kind) && !dialog_->hasShownPanels())
+        showPanels();
     else
         perform(scenario_.steps[next_++]);
 }
@@ -289,18 +291,26 @@ bool Player::isUnwinding()
     return closes && turnsWaited_ < kMostTurnsWaited;
 }
 
-/// A job that goes into a folder is there before the next step, however long that takes; one that
-/// goes to a queue may be looked at on its way.
+/// Presets and a job that goes into a folder are there before the next step, however long that
+/// takes; a job that goes to a queue may be looked at on its way.
 bool Player::isWriting() const
 {
-    return dialog_ && dialog_->printCase().queue.isNull() && dialog_->desk().isSending();
+    if (!dialog_)
+        return false;
+    return dialog_->presets().isBusy() ||
+           (dialog_->printCase().queue.isNull() && dialog_->desk().isSending());
+}
+
+/// The step that needs them comes when they have what they read.
+void Player::showPanels()
+{
+    turn_.start();
+    dialog_->showPanels();
 }
 
 void Player::perform(const Step &step)
 {
     turn_.start();
-    if (needsPanels(step.kind))
-        dialog_->showPanels();
     if (dialog_)
         dialog_->host().deliverChanges();
     if (dialog_ && !isInput(step.kind))

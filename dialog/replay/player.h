@@ -54,6 +54,7 @@ Q_SIGNALS:
 
 private:
     void takeTurn();
+    void showPanels();
     void perform(const Step &step);
     [[nodiscard]] bool isUnwinding();
     [[nodiscard]] bool isWriting() const;

@@ -1,4 +1,4 @@
-#include "dialog/memory/background_work.h"
+#include "dialog/threads/background_work.h"
 
 #include <gtest/gtest.h>
 

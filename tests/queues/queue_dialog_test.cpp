@@ -23,6 +23,8 @@
 
 #include <cups/cups.h>
 
+#include <atomic>
+#include <future>
 #include <thread>
 
 using namespace dialog;
@@ -45,6 +47,7 @@ public:
         printCase.document = q(KORVANE_SAMPLE_DOCUMENT);
         printCase.jobFolder = jobs_.path();
         printCase.queue = queue;
+        files_ = printCase.files;
         EXPECT_NULL(PrintDialog::prepare(printCase));
         dialog_ = std::make_unique<QueueDialog>(printCase, std::move(sources));
     }
@@ -54,6 +57,7 @@ public:
     {
         QueueSources sources = serverSources();
         sources.emptyWindowDelay = {};
+        sources.lastUsedDeadline = std::chrono::minutes(1);
         sources.listTimes.interval = std::chrono::milliseconds(10);
         return sources;
     }
@@ -62,10 +66,13 @@ public:
     {
         QueueSources sources = serverSources();
         sources.emptyWindowDelay = {};
+        sources.lastUsedDeadline = std::chrono::minutes(1);
         sources.listTimes.interval = std::chrono::hours(1);
         return sources;
     }
 
+    void untilWritten() const { files_->waiter()(); }
+    [[nodiscard]] BackgroundWork &files() const { return *files_; }
     [[nodiscard]] QueueDialog &dialog() const { return *dialog_; }
     [[nodiscard]] PrintWindow &window() const { return dialog_->window(); }
     [[nodiscard]] QString setting(const char *key) const
@@ -121,6 +128,7 @@ public:
 
 private:
     QTemporaryDir jobs_;
+    std::shared_ptr<BackgroundWork> files_;
     std::unique_ptr<QueueDialog> dialog_;
 };
 
@@ -185,10 +193,65 @@ TEST_F(QueueDialogs, OpenWithTheNamedQueueElseTheOneUsedLast)
     rememberLastUsedQueue(q("raw"));
     EXPECT_TRUE(Visit(Visit::quick(), q("ink")).untilReady("ink"));
     const Visit run;
-    EXPECT_TEXT(run.waiting(), "Connecting to raw…");
-    EXPECT_TRUE(run.untilReady("raw"));
+    QSignalSpy ready(&run.dialog(), &QueueDialog::ready);
+    EXPECT_TRUE(run.until([&] { return !ready.isEmpty(); }));
+    EXPECT_TEXT(ready.first().first().toString(), "raw");
     rememberLastUsedQueue(q("sold"));
     EXPECT_TRUE(Visit().untilReady("toner")) << "which is gone: the default";
+}
+
+TEST_F(QueueDialogs, OpenWithTheDefaultWhereTheHomeDoesNotAnswer)
+{
+    addQueues();
+    std::promise<void> answer;
+    QueueSources sources = Visit::quick();
+    sources.lastUsedDeadline = std::chrono::milliseconds(1);
+    sources.lastUsed = [gate = answer.get_future().share()] {
+        gate.wait();
+        return q("raw");
+    };
+    const Visit run(sources);
+    EXPECT_TRUE(run.untilReady("toner"));
+    answer.set_value();
+}
+
+TEST_F(QueueDialogs, ConnectToNoOtherQueueBeforeItIsKnownWhichOneWasUsedLast)
+{
+    addQueues();
+    std::promise<void> answer;
+    const auto listings = std::make_shared<std::atomic<int>>(0);
+    QueueSources sources = Visit::quick();
+    sources.list = [listings, list = sources.list](const ListingHeard &heard) {
+        ++*listings;
+        return list(heard);
+    };
+    sources.lastUsed = [gate = answer.get_future().share()] {
+        gate.wait();
+        return q("raw");
+    };
+    const Visit run(sources);
+    QSignalSpy ready(&run.dialog(), &QueueDialog::ready);
+    EXPECT_TRUE(run.until([&] { return *listings > 1; })) << "so that the first has been heard";
+    EXPECT_TRUE(run.dialog().picker().selected().isEmpty());
+    answer.set_value();
+    EXPECT_TRUE(run.until([&] { return !ready.isEmpty(); }));
+    EXPECT_TEXT(ready.first().first().toString(), "raw");
+}
+
+TEST_F(QueueDialogs, PrintOnWhereTheQueueCannotBeRememberedYet)
+{
+    addQueues();
+    std::promise<void> answer;
+    const Visit run(Visit::quick(), q("ink"));
+    run.files().add([gate = answer.get_future().share()] { gate.wait(); });
+    ASSERT_TRUE(run.untilReady("ink"));
+    QSignalSpy made(&run.dialog(), &QueueDialog::jobMade);
+    run.dialog().printDialog()->print(Review::Skip);
+    EXPECT_TRUE(run.until([&] { return !made.isEmpty(); }));
+    EXPECT_NULL(lastUsedQueue());
+    answer.set_value();
+    run.untilWritten();
+    EXPECT_TEXT(lastUsedQueue(), "ink");
 }
 
 TEST_F(QueueDialogs, RememberTheQueueThatPrinted)
@@ -201,6 +264,7 @@ TEST_F(QueueDialogs, RememberTheQueueThatPrinted)
     run.dialog().printDialog()->print(Review::Skip);
     ASSERT_TRUE(run.until([&] { return !made.isEmpty(); }))
         << run.notices().join(u'\n').toStdString();
+    run.untilWritten();
     EXPECT_TEXT(lastUsedQueue(), "ink");
     EXPECT_TRUE(server.waitForJob(made.first().first().value<JobRecord>().id.toInt()));
 }

@@ -1,4 +1,4 @@
-#include "dialog/memory/background_work.h"
+#include "dialog/threads/background_work.h"
 
 #include <condition_variable>
 #include <deque>
