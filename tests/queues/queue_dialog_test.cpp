@@ -674,8 +674,10 @@ TEST(QueueDialogFaults, EndByThemselvesWhenTheServerComesBack)
     const UserFolders user;
     const auto isDown = std::make_shared<std::atomic<bool>>(true);
     const auto tries = std::make_shared<std::atomic<int>>(0);
+    const auto listings = std::make_shared<std::atomic<int>>(0);
     const QueueSources sources{
-        [isDown](const ListingHeard &) {
+        [isDown, listings](const ListingHeard &) {
+            ++*listings;
             return *isDown ? QueueListing{{}, {ServerFault::Unreachable, q("gone")}}
                            : QueueListing{{{q("ink")}}};
         },
@@ -691,6 +693,9 @@ TEST(QueueDialogFaults, EndByThemselvesWhenTheServerComesBack)
     const Visit run(sources, q("ink"));
     ASSERT_TRUE(run.untilNotice("No print server answers"));
     EXPECT_FALSE(run.button("printButton")->isEnabled());
+    ASSERT_TRUE(run.until([&] { return *tries == 1; })) << "or the listing has failed first";
+    const int before = *listings;
+    ASSERT_TRUE(run.until([&] { return *listings > before + 2; }));
     EXPECT_EQ(*tries, 1) << "a server that is away is not asked for printers";
     *isDown = false;
     EXPECT_TRUE(run.untilReady("ink"));
