@@ -131,13 +131,17 @@ std::unique_ptr<dialog::PrintDialog> opened(const dialog::PrintCase &printCase)
     return std::move(std::get<std::unique_ptr<dialog::PrintDialog>>(answer));
 }
 
+/// A panel shows a colour preference that it finds marked, and prints its own: it takes over the
+/// title alone. The dialog tells so before it prints.
+constexpr const char *kShownAndNotPrinted = "ColorPreferences";
+
 /// Without what belongs to one document, and without the defaults that were chosen by name.
 QStringList lastingOptions(dialog::JobSettings settings)
 {
     settings.chosen.clear();
     QStringList lines;
     for (const auto &[option, value] : dialog::jobOptions(settings))
-        if (dialog::isKeptInPresets(option))
+        if (dialog::isKeptInPresets(option) && option != QLatin1String(kShownAndNotPrinted))
             lines.append(option + u'=' + value);
     lines.sort();
     return lines;
