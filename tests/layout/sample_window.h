@@ -19,7 +19,7 @@ namespace test {
 /// The sample ink printer's PPD, in the look's language where there is one.
 [[nodiscard]] QString samplePpd(const Look &look);
 
-/// Pop-ups whose items are new take their width by a timer of 20 ms.
+/// Lets what short timers and posted events still do to the window's layout happen.
 void settle();
 
 } // namespace test
